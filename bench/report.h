@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The table of results, and the bars that they must keep.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace dn::bench {
+
+class Report {
+public:
+    /// A measured figure, for information.
+    void figure(const std::string& what, double value, const std::string& unit);
+    /// A figure with a bar: it must not be larger.
+    void bar(const std::string& what, double value, double largest, const std::string& unit);
+    /// A benchmark whose own answer was wrong; nothing that it measured counts.
+    void wrong(const std::string& what, const std::string& why);
+
+    /// The table as text, with the rows that missed their bar marked.
+    std::string table() const;
+    /// The rows that missed their bar or gave a wrong answer.
+    const std::vector<std::string>& missed() const { return missed_; }
+
+private:
+    struct Row {
+        std::string what;
+        std::string value;
+        std::string bar;
+        std::string verdict;
+    };
+
+    std::vector<Row> rows_;
+    std::vector<std::string> missed_;
+};
+
+} // namespace dn::bench

@@ -1,0 +1,43 @@
+-- Los prospectos: una fila por persona que llegó por el sitio web o que un agente capturó a mano.
+-- Todo lo que el sitio web puede omitir admite nulos o tiene un valor por omisión.
+CREATE TABLE ut_icontact (
+    Sys_PK INT NOT NULL AUTO_INCREMENT,
+    Sys_TimeStamp DATETIME NOT NULL DEFAULT CURRENT_TIMESTAMP,
+    Sys_GUID CHAR(32) NOT NULL DEFAULT (REPLACE(UUID(), '-', '')),
+    Sys_DTCreated DATETIME NOT NULL DEFAULT CURRENT_TIMESTAMP,
+    Sys_User VARCHAR(100) NULL,
+    Sys_LastUser VARCHAR(100) NULL,
+    Sys_Exported INT NOT NULL DEFAULT 0,
+    Sys_DTExported DATETIME NULL,
+    Sys_Info VARCHAR(255) NULL,
+    uf_Nombre VARCHAR(255) NULL,
+    uf_EMail VARCHAR(255) NULL,
+    uf_Telefono VARCHAR(100) NULL,
+    uf_Empresa VARCHAR(255) NULL,
+    uf_Puesto VARCHAR(255) NULL,
+    uf_Pais VARCHAR(100) NULL,
+    uf_Estado VARCHAR(100) NULL,
+    uf_Ciudad VARCHAR(255) NULL,
+    uf_Interes VARCHAR(500) NULL,
+    uf_Comentarios MEDIUMTEXT NULL,
+    uf_Fecha DATE NULL,
+    uf_IEjecutivo INT NULL,
+    uf_Status SMALLINT NOT NULL DEFAULT 0,
+    uf_NotaStatus TEXT NULL,
+    uf_FechaStatus DATETIME NULL,
+    uf_Tipo SMALLINT NULL,
+    uf_color SMALLINT NULL,
+    uf_Redirect VARCHAR(500) NULL,
+    uf_proxcontac DATETIME NULL,
+    uf_ultimocontac DATETIME NULL,
+    uf_ultimointento DATETIME NULL,
+    uf_res_ultimointento SMALLINT NULL,
+    uf_contactado TINYINT(1) NULL,
+    uf_primercontac DATETIME NULL,
+    uf_correoverif TINYINT(1) NULL,
+    PRIMARY KEY (Sys_PK),
+    -- La lista de un agente en un estado, ya en su orden, y las dos colas del día.
+    KEY por_ejecutivo (uf_IEjecutivo, uf_Status, uf_proxcontac, uf_Fecha),
+    -- La lista de los no asignados (nulo o 0), que sólo puede entrar por el estado.
+    KEY por_status (uf_Status, uf_proxcontac, uf_Fecha, uf_IEjecutivo)
+) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_spanish_ci;

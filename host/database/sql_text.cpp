@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/database/sql_text.h"
+
+#include <array>
+
+namespace dn::host {
+namespace {
+
+/// Two digits or more, zeros in front.
+void appendDigits(std::string& text, int number, int width)
+{
+    std::array<char, 4> digits{};
+    for (int i = width - 1; i >= 0; --i, number /= 10)
+        digits.at(static_cast<std::size_t>(i)) = static_cast<char>('0' + number % 10);
+    text.append(digits.data(), static_cast<std::size_t>(width));
+}
+
+} // namespace
+
+void appendText(std::string& statement, std::string_view text, Engine engine)
+{
+    statement += engine == Engine::sqlServer ? "N'" : "'";
+    for (const char c : text) {
+        if (c == '\'' || (c == '\\' && engine == Engine::mariadb)) statement += c;
+        statement += c;
+    }
+    statement += '\'';
+}
+
+void appendMoment(std::string& statement, const DateTime& moment)
+{
+    statement += '\'';
+    appendDigits(statement, moment.year, 4);
+    appendDigits(statement += '-', moment.month, 2);
+    appendDigits(statement += '-', moment.day, 2);
+    appendDigits(statement += 'T', moment.hour, 2);
+    appendDigits(statement += ':', moment.minute, 2);
+    appendDigits(statement += ':', moment.second, 2);
+    statement += '\'';
+}
+
+} // namespace dn::host

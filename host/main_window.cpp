@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/main_window.h"
+
+#include "shell/ctr_dn_contacts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+namespace dn::host {
+namespace {
+
+constexpr std::int16_t firstTab = desk::prospectos;
+
+} // namespace
+
+MainWindow::MainWindow(Database& database, const Worker& worker)
+    : database_(database),
+      worker_(worker),
+      screens_([&database] { return database.openConnection(); }, this),
+      widget_(new screen::qt::CtrDnContactsWidget(this))
+{
+    setObjectName("VentanaPrincipal");
+    setWindowTitle(worker.user + (worker.admin ? " (administrador)" : ""));
+    setCentralWidget(widget_);
+    widget_->onError([this](const std::exception& failure) { reportError(failure); });
+    addMenus();
+}
+
+// The control goes ahead of the factory that it may ask.
+MainWindow::~MainWindow() { delete widget_; }
+
+void MainWindow::start(std::optional<std::int16_t> tab)
+{
+    control().hostObjects(&screens_);
+    control().SetObjects(&database_.connection(), worker_.agent, worker_.admin, worker_.user.toStdString());
+    HostObject lands;
+    control().InitUICRM(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString(), lands);
+    control().RefreshData();
+    control().elements().top.lblItem(tab.value_or(firstTab)).click();
+}
+
+void MainWindow::addMenus()
+{
+    QMenu* file = menuBar()->addMenu("&Archivo");
+    QAction* reload = file->addAction("&Actualizar");
+    reload->setShortcut(QKeySequence::Refresh);
+    connect(reload, &QAction::triggered, this, [this] { refresh(); });
+    file->addSeparator();
+    QAction* quit = file->addAction("&Salir");
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    QMenu* help = menuBar()->addMenu("A&yuda");
+    connect(help->addAction("Acerca de..."), &QAction::triggered, this, [this] {
+        QMessageBox::about(this, "Acerca de",
+                           QApplication::applicationDisplayName() + " " + QApplication::applicationVersion() +
+                               "\n\nBase de datos: " + QString::fromStdString(database_.description()));
+    });
+}
+
+// A click on the tab in view loads its list anew.
+void MainWindow::refresh()
+{
+    for (int i = 0; i < desk::TabStrip::count; ++i) {
+        screen::Label& tab = control().elements().top.lblItem(i);
+        if (tab.BackColor() == desk::TabStrip::activeColour) tab.click();
+    }
+}
+
+void MainWindow::reportError(const std::exception& failure)
+{
+    QMessageBox::warning(this, QApplication::applicationDisplayName(), QString::fromUtf8(failure.what()));
+}
+
+} // namespace dn::host

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The window of the reference application: the control, and around it what a business application has.
+#pragma once
+
+#include "host/database/database.h"
+#include "host/program_options.h"
+#include "host/screens/screens_factory.h"
+#include "host/worker.h"
+#include "screen/qt/ctr_dn_contacts_widget.h"
+
+#include <QMainWindow>
+
+#include <optional>
+
+namespace dn::host {
+
+class MainWindow : public QMainWindow {
+public:
+    /// @param database outlives the window.
+    MainWindow(Database& database, const Worker& worker);
+    ~MainWindow() override;
+
+    /// Hands the connection, the worker and the host's screens to the control and shows its first screen.
+    /// @param tab the tab to open, if one was asked for.
+    void start(std::optional<std::int16_t> tab);
+
+    ctrDnContacts& control() { return widget_->control(); }
+
+private:
+    void addMenus();
+    void refresh();
+    void reportError(const std::exception& failure);
+
+    Database& database_;
+    Worker worker_;
+    ScreensFactory screens_;
+    screen::qt::CtrDnContactsWidget* widget_;
+};
+
+} // namespace dn::host

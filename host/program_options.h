@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the operator asked for on the command line.
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace dn::host {
+
+struct ProgramOptions {
+    QString connect;                     ///< another database; empty for the private one
+    bool createSchema = false;           ///< make the tables there
+    QString dataFolder;                  ///< of the private database; empty for the usual place
+    std::optional<std::size_t> demoRows; ///< prospects of the sample data of a new database
+    std::optional<std::int32_t> agent;   ///< key of the agent who works
+    bool admin = false;
+    QString user;
+    std::optional<std::int16_t> tab; ///< tab to show first
+    QString screenshot;              ///< file to render the window to, instead of showing it
+    QSize size{1280, 800};           ///< of the window, in logical pixels
+
+    /// Whether the command line says who works, so that nobody needs to be asked.
+    bool saysWhoWorks() const { return agent.has_value() || admin; }
+};
+
+/// Reads the command line of the application, which must be there. `--help` and `--version` print and end the
+/// program.
+/// @throws HostError for a value that makes no sense.
+ProgramOptions readProgramOptions();
+
+} // namespace dn::host

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/screens/party_field.h"
+
+#include "host/screens/boxes.h"
+
+#include <QAbstractItemView>
+#include <QHBoxLayout>
+
+namespace dn::host {
+namespace {
+
+constexpr int typingPause = 150; // milliseconds
+constexpr int longestName = 255;
+constexpr int keyRole = Qt::UserRole;
+constexpr int nameRole = Qt::UserRole + 1;
+
+QString describe(const Entity& entity)
+{
+    QString text = QString::fromStdString(entity.name);
+    for (const std::string* detail : {&entity.telephone, &entity.email})
+        if (!detail->empty()) text += "  ·  " + QString::fromStdString(*detail);
+    return text;
+}
+
+} // namespace
+
+PartyField::PartyField(const QString& name, Kind kind, ScreenContext& context, QWidget* parent)
+    : QWidget(parent), context_(context), kind_(kind), edit_(new QLineEdit(this))
+{
+    setObjectName(name);
+    edit_->setObjectName("txt" + name);
+    edit_->setMaxLength(longestName);
+    edit_->setClearButtonEnabled(true);
+    edit_->setPlaceholderText("Escriba las primeras letras para buscar");
+    edit_->setAccessibleName(kind == Kind::organisation ? "Organización" : "Persona");
+    setFocusPolicy(Qt::StrongFocus); // a label leads its mnemonic to no other
+    setFocusProxy(edit_);
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(edit_, 1);
+
+    completer_.setModel(&model_);
+    completer_.setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    completer_.setMaxVisibleItems(10);
+    completer_.setWidget(edit_); // not the line's own completer: that would show the former matches at each key
+    completer_.popup()->setObjectName("lst" + name);
+    pause_.setSingleShot(true);
+    pause_.setInterval(typingPause);
+    connect(edit_, &QLineEdit::textEdited, this, [this] { typedAnew(); });
+    connect(edit_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (text.isEmpty()) typedAnew(); // the clear button edits nothing
+    });
+    connect(&pause_, &QTimer::timeout, this, [this] { search(); });
+    connect(
+        &completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this, [this](const QModelIndex& row) {
+            const int key = row.data(keyRole).toInt();
+            const QString chosen = row.data(nameRole).toString();
+            reporting(window(), [&] { take(key, chosen); }); // whoever is told of the change may ask the server
+        });
+}
+
+void PartyField::offerNew(const QString& caption, Maker make)
+{
+    make_ = std::move(make);
+    button_ = new QPushButton(caption, this);
+    button_->setObjectName("cmd" + objectName());
+    button_->setAccessibleName(kind_ == Kind::organisation ? "Nueva organización" : "Nueva persona");
+    button_->setAutoDefault(false);
+    layout()->addWidget(button_);
+    connect(button_, &QPushButton::clicked, this, [this] { makeNew(); });
+}
+
+void PartyField::choose(std::int32_t key)
+{
+    const auto entity = findEntity(context_.database, kind_ == Kind::organisation, key);
+    if (entity)
+        take(entity->key, QString::fromStdString(entity->name));
+    else
+        take(0, {});
+}
+
+bool PartyField::resolve()
+{
+    if (key_ != 0 || isEmpty()) return true;
+    pause_.stop();
+    const std::string name = edit_->text().trimmed().toStdString();
+    const auto exact = entitiesNamed(searchEntities(context_.database, name, scope()), name);
+    if (exact.size() != 1) return false;
+    take(exact.front().key, QString::fromStdString(exact.front().name));
+    return true;
+}
+
+void PartyField::typedAnew()
+{
+    key_ = 0;
+    completer_.popup()->hide();
+    if (isEmpty())
+        pause_.stop();
+    else
+        pause_.start();
+    if (changed_) changed_();
+}
+
+void PartyField::search()
+{
+    reporting(window(),
+              [this] { offer(searchEntities(context_.database, edit_->text().toStdString(), scope())); });
+}
+
+void PartyField::offer(const std::vector<Entity>& found)
+{
+    model_.clear();
+    for (const Entity& entity : found) {
+        auto* const item = new QStandardItem(describe(entity));
+        item->setData(entity.key, keyRole);
+        item->setData(QString::fromStdString(entity.name), nameRole);
+        model_.appendRow(item);
+    }
+    if (found.empty() || !edit_->hasFocus()) return;
+    completer_.complete();
+    completer_.popup()->setCurrentIndex(completer_.completionModel()->index(0, 0));
+}
+
+void PartyField::take(std::int32_t key, const QString& name)
+{
+    pause_.stop();
+    edit_->setText(name);
+    key_ = key;
+    if (changed_) changed_();
+}
+
+void PartyField::makeNew()
+{
+    pause_.stop();
+    reporting(window(), [this] {
+        const std::int32_t key = make_(key_ == 0 ? edit_->text().trimmed() : QString());
+        if (key != 0) choose(key);
+    });
+    edit_->setFocus(Qt::OtherFocusReason);
+}
+
+SearchScope PartyField::scope() const
+{
+    return {.persons = kind_ == Kind::person, .organisations = kind_ == Kind::organisation};
+}
+
+} // namespace dn::host

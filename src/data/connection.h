@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The connection through which every statement of the control runs. The host opens it, lends it and keeps it.
+#pragma once
+
+#include "data/recordset.h"
+
+#include <memory>
+#include <string_view>
+
+namespace dn::data {
+
+class Connection {
+public:
+    /// The value of `State` for an open connection.
+    static constexpr int open = 1;
+    static constexpr int closed = 0;
+
+    Connection() = default;
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    virtual ~Connection() = default;
+
+    /// `open` while statements can run; `closed` before the connection stands and once it is known to be lost.
+    virtual int State() const = 0;
+
+    /// Sends the text as it stands, to the byte: nothing is prepared, translated or escaped. One statement a call;
+    /// a text with several is refused by the server.
+    /// @return the rows, or nothing for a statement that gives none. Further results (of a procedure) are drained.
+    /// @throws Error what the server said, or that it does not answer within the time-outs.
+    /// A recordset may be dropped half-read, and may be left open while further statements run.
+    virtual std::unique_ptr<Recordset> execute(std::string_view statement) = 0;
+};
+
+} // namespace dn::data

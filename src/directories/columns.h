@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The columns of the two directory lists, which have none until the control starts.
+#pragma once
+
+#include "desk/elements.h"
+
+namespace dn::directories {
+
+/// Lays out the columns of `lvwOrganizaciones` and `lvwContactos`; their only writer.
+void InitDirectoryColumns(desk::OrganisationElements& organisations, desk::PersonElements& persons);
+
+} // namespace dn::directories

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Notes: a line of text of the operator goes to the activity log of the party in hand and to the top of its
+// timeline. Other rooms write their own entries the same way: they place a text in `txtText` and run
+// `cmdIntro_Click`.
+#pragma once
+
+#include "desk/elements.h"
+#include "desk/session.h"
+#include "desk/tab_strip.h"
+#include "screen/ports.h"
+
+#include <string>
+
+namespace dn::notes {
+
+class Notes {
+public:
+    Notes(desk::Session& session, desk::Elements& elements, desk::TabStrip& tabs, screen::Ports ports)
+        : session_(session), elements_(elements), tabs_(tabs), ports_(ports)
+    {
+    }
+
+    /// Stores the text of `txtText` for the selected row of the tab in view, and empties the box. Without a
+    /// selected row it does nothing; a failure is told and leaves the cleaned text in the box.
+    void cmdIntro_Click();
+
+    /// Asks for a note and stores it.
+    void cmdNote_Click();
+
+    /// Enter stores the note instead of breaking the line.
+    void txtText_KeyPress(int& KeyAscii);
+
+private:
+    screen::ListView* targetList();
+    void cleanText();
+    void store(screen::ListView& target);
+
+    desk::Session& session_;
+    desk::Elements& elements_;
+    desk::TabStrip& tabs_;
+    screen::Ports ports_;
+};
+
+} // namespace dn::notes

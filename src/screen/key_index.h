@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Finds a row of a list view by its key in constant time, at ten to twenty bytes a row: a flat table of row
+// numbers with open addressing. The keys themselves lie in the rows.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace dn::screen {
+
+class KeyIndex {
+public:
+    using RowNumber = std::uint32_t;
+
+    static constexpr RowNumber none = 0xFFFFFFFF;
+
+    void clear()
+    {
+        std::vector<Slot>().swap(slots_);
+        used_ = 0;
+    }
+
+    std::size_t bytes() const { return slots_.capacity() * sizeof(Slot); }
+
+    /// The row of a key, or `none`.
+    /// @param keyOf gives the key of a row; asked only where the hashes are equal.
+    template <class KeyOfRow>
+    RowNumber find(std::string_view key, const KeyOfRow& keyOf) const
+    {
+        if (slots_.empty()) return none;
+        const std::uint32_t hash = hashOf(key);
+        for (std::size_t slot = home(hash);; slot = next(slot)) {
+            const Slot& candidate = slots_[slot];
+            if (candidate.row == none) return none;
+            if (candidate.hash == hash && keyOf(candidate.row) == key) return candidate.row;
+        }
+    }
+
+    /// Adds a row whose key the index does not hold yet.
+    void insert(std::string_view key, RowNumber row)
+    {
+        if ((used_ + 1) * 5 > slots_.size() * 4) grow();
+        place({row, hashOf(key)});
+        ++used_;
+    }
+
+private:
+    // The hash beside the row spares a look at the row itself, which lies somewhere in a large memory.
+    struct Slot {
+        RowNumber row = none;
+        std::uint32_t hash = 0;
+    };
+
+    static std::uint32_t hashOf(std::string_view key)
+    {
+        return static_cast<std::uint32_t>(std::hash<std::string_view>()(key));
+    }
+
+    std::size_t home(std::uint32_t hash) const { return hash & (slots_.size() - 1); }
+
+    std::size_t next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
+
+    void place(const Slot& entry)
+    {
+        std::size_t slot = home(entry.hash);
+        while (slots_[slot].row != none)
+            slot = next(slot);
+        slots_[slot] = entry;
+    }
+
+    void grow()
+    {
+        const std::vector<Slot> old = std::move(slots_);
+        slots_.assign(old.empty() ? 16 : old.size() * 2, Slot()); // a power of two
+        for (const Slot& entry : old)
+            if (entry.row != none) place(entry);
+    }
+
+    std::vector<Slot> slots_;
+    std::size_t used_ = 0;
+};
+
+} // namespace dn::screen

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/list_rows.h"
+
+#include "base/collation.h"
+#include "base/runtime_error.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace dn::screen {
+
+void ListRows::clear()
+{
+    // Swapped and not cleared: a list of a million rows gives its memory back.
+    std::vector<RowBlock>().swap(rows_);
+    arena_.clear();
+    std::vector<RowNumber>().swap(order_);
+    std::vector<std::uint32_t>().swap(positions_);
+    index_.clear();
+    open_ = none;
+}
+
+ListRows::RowNumber ListRows::add(std::string_view key, std::string_view text, int smallIcon)
+{
+    if (!key.empty() && find(key) != none) throw RuntimeError("La clave no es única en la colección");
+    scratch_.clear(); // filled ahead of all else: key and text may lie in the row that closes now
+    scratch_.key = key;
+    scratch_.add(text);
+    scratch_.smallIcon = iconNumber(smallIcon);
+    close();
+    const auto row = static_cast<RowNumber>(rows_.size());
+    rows_.emplace_back();
+    std::swap(draft_, scratch_);
+    open_ = row;
+    if (!key.empty()) index_.insert(draft_.key, row);
+    if (!order_.empty()) completeOrder();
+    return row;
+}
+
+void ListRows::remove(RowNumber row)
+{
+    close();
+    rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+    if (!order_.empty()) {
+        std::erase(order_, row);
+        for (RowNumber& number : order_)
+            if (number > row) --number;
+        positions_.resize(order_.size());
+        for (std::size_t i = 0; i < order_.size(); ++i)
+            positions_[order_[i]] = static_cast<std::uint32_t>(i);
+    }
+    index_.clear();
+    for (RowNumber n = 0; n < rows_.size(); ++n)
+        if (!key(n).empty()) index_.insert(key(n), n);
+}
+
+ListRows::RowNumber ListRows::find(std::string_view key) const
+{
+    return index_.find(key, [this](RowNumber n) { return this->key(n); });
+}
+
+std::string_view ListRows::cell(RowNumber row, std::size_t cell) const
+{
+    if (cell >= cellCount(row)) return {};
+    return isOpen(row) ? draft_.cell(cell) : rows_[row].cell(cell);
+}
+
+Colour ListRows::colour(RowNumber row, std::size_t cell) const
+{
+    if (isOpen(row)) {
+        for (const CellStyle& style : draft_.styles)
+            if (style.cell == cell && style.hasColour) return style.colour;
+        return draft_.foreColour;
+    }
+    const CellStyle* const style = rows_[row].style(cell);
+    return style != nullptr && style->hasColour ? style->colour : rows_[row].foreColour();
+}
+
+int ListRows::reportIcon(RowNumber row, std::size_t cell) const
+{
+    if (isOpen(row)) {
+        for (const CellStyle& style : draft_.styles)
+            if (style.cell == cell) return style.icon;
+        return 0;
+    }
+    const CellStyle* const style = rows_[row].style(cell);
+    return style != nullptr ? style->icon : 0;
+}
+
+void ListRows::checked(RowNumber row, bool value)
+{
+    if (isOpen(row))
+        draft_.checked = value;
+    else
+        rows_[row].checked(value);
+}
+
+void ListRows::smallIcon(RowNumber row, int icon)
+{
+    if (isOpen(row))
+        draft_.smallIcon = iconNumber(icon);
+    else
+        rows_[row].smallIcon(iconNumber(icon));
+}
+
+void ListRows::sort(std::size_t sortCell, bool descending)
+{
+    close();
+
+    struct Sortable {
+        std::uint64_t prefix;
+        RowNumber row;
+    };
+
+    std::vector<Sortable> sortables(rows_.size());
+    for (std::size_t position = 0; position < rows_.size(); ++position) {
+        const RowNumber row = rowAt(position);
+        sortables[position] = {collationPrefix(cell(row, sortCell)), row};
+    }
+    const auto ahead = [&](const Sortable& left, const Sortable& right) {
+        if (left.prefix != right.prefix) return left.prefix < right.prefix;
+        return compareSpanish(cell(left.row, sortCell), cell(right.row, sortCell)) < 0;
+    };
+    if (descending)
+        std::stable_sort(sortables.begin(), sortables.end(),
+                         [&](const Sortable& first, const Sortable& second) { return ahead(second, first); });
+    else
+        std::stable_sort(sortables.begin(), sortables.end(), ahead);
+
+    order_.resize(rows_.size());
+    positions_.resize(rows_.size());
+    for (std::size_t position = 0; position < sortables.size(); ++position) {
+        order_[position] = sortables[position].row;
+        positions_[sortables[position].row] = static_cast<std::uint32_t>(position);
+    }
+}
+
+std::size_t ListRows::overhead() const
+{
+    std::size_t bytes = rows_.capacity() * sizeof(RowBlock) + order_.capacity() * sizeof(RowNumber) +
+                        positions_.capacity() * sizeof(std::uint32_t) + index_.bytes();
+    for (RowNumber row = 0; row < rows_.size(); ++row)
+        if (!isOpen(row)) bytes += rows_[row].overhead();
+    return bytes;
+}
+
+void ListRows::close()
+{
+    if (open_ == none) return;
+    rows_[open_] = RowBlock(draft_, arena_);
+    open_ = none;
+}
+
+// A row that came after a sort stands at the end until the list is sorted again.
+void ListRows::completeOrder()
+{
+    while (order_.size() < rows_.size()) {
+        positions_.push_back(static_cast<std::uint32_t>(order_.size()));
+        order_.push_back(static_cast<RowNumber>(order_.size()));
+    }
+}
+
+} // namespace dn::screen

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The rows of a list view: where they lie, how they are found by key, and in which order they show.
+//
+// A row has a number, its place in the order of adding, which never changes while it lives; and a position,
+// its place on the screen, which a sort changes. The row added last is still open: its cells collect in a
+// buffer until the next row comes, so that each row is written once, at its exact size.
+#pragma once
+
+#include "screen/key_index.h"
+#include "screen/row_block.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace dn::screen {
+
+class ListRows {
+public:
+    using RowNumber = KeyIndex::RowNumber;
+    static constexpr RowNumber none = KeyIndex::none;
+
+    std::size_t count() const { return rows_.size(); }
+
+    void clear();
+
+    /// @throws RuntimeError when the key is there already; nothing is added then. An empty key is never found
+    /// again and may repeat.
+    RowNumber add(std::string_view key, std::string_view text, int smallIcon);
+    /// Takes a row away; the numbers of the rows behind it move down by one.
+    void remove(RowNumber row);
+    RowNumber find(std::string_view key) const;
+
+    // Reading, also of the open row.
+    std::string_view key(RowNumber row) const { return isOpen(row) ? draft_.key : rows_[row].key(); }
+
+    std::size_t cellCount(RowNumber row) const
+    {
+        return isOpen(row) ? draft_.ends.size() : rows_[row].cellCount();
+    }
+
+    /// Empty for a cell that the row does not have.
+    std::string_view cell(RowNumber row, std::size_t cell) const;
+
+    std::string_view toolTip(RowNumber row) const { return isOpen(row) ? draft_.toolTip : rows_[row].toolTip(); }
+
+    Colour colour(RowNumber row, std::size_t cell) const;
+
+    bool bold(RowNumber row) const { return isOpen(row) ? draft_.bold : rows_[row].bold(); }
+
+    bool checked(RowNumber row) const { return isOpen(row) ? draft_.checked : rows_[row].checked(); }
+
+    int smallIcon(RowNumber row) const { return isOpen(row) ? draft_.smallIcon : rows_[row].smallIcon(); }
+
+    int reportIcon(RowNumber row, std::size_t cell) const;
+
+    // Changing.
+    void checked(RowNumber row, bool value);
+    void smallIcon(RowNumber row, int icon);
+
+    /// Applies a change to a row's draft; a row that is not open is rebuilt.
+    template <class Change>
+    void edit(RowNumber row, Change&& change)
+    {
+        if (isOpen(row)) {
+            change(draft_);
+            return;
+        }
+        rows_[row].copyTo(scratch_);
+        change(scratch_);
+        rows_[row].rewrite(scratch_, arena_);
+    }
+
+    // The order on the screen.
+    RowNumber rowAt(std::size_t position) const
+    {
+        return order_.empty() ? static_cast<RowNumber>(position) : order_[position];
+    }
+
+    std::size_t positionOf(RowNumber row) const { return order_.empty() ? row : positions_[row]; }
+
+    /// Sorts by the text of a cell, in Spanish order; rows of equal text keep the order in which they stand.
+    void sort(std::size_t cell, bool descending);
+
+    /// Bytes that the rows take beside their text, as allocated.
+    std::size_t overhead() const;
+
+private:
+    bool isOpen(RowNumber row) const { return row == open_; }
+
+    void close();
+    void completeOrder();
+
+    RowArena arena_;
+    std::vector<RowBlock> rows_;
+    std::vector<RowNumber> order_;         // by position; empty while it is the order of adding
+    std::vector<std::uint32_t> positions_; // by row number; empty with order_
+    KeyIndex index_;
+    RowDraft draft_;
+    RowDraft scratch_;
+    RowNumber open_ = none;
+};
+
+} // namespace dn::screen

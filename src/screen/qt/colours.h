@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Colours on their way to the toolkit, and texts that stay legible on any background.
+#pragma once
+
+#include "screen/element.h"
+
+#include <QColor>
+
+namespace dn::screen::qt {
+
+/// @param colour as the elements hold it, blue in the high byte.
+QColor fromColour(Colour colour);
+
+/// How far two colours stand apart: 1 for equal ones to 21 for black and white (WCAG 2).
+double contrast(const QColor& one, const QColor& other);
+
+/// The colour itself where it can be read on the background, else the nearest lighter or darker one that can.
+QColor legible(const QColor& colour, const QColor& background);
+
+/// A colour between two: 0 is the one, 1 the other.
+QColor mixed(const QColor& one, const QColor& other, float share);
+
+/// Black or white, whichever reads better on the background.
+QColor inkOn(const QColor& background);
+
+} // namespace dn::screen::qt

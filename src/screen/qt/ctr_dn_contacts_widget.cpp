@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/ctr_dn_contacts_widget.h"
+
+#include "screen/qt/panel_views.h"
+#include "screen/qt/ports.h"
+#include "screen/qt/theme.h"
+#include "shell/ctr_dn_contacts.h"
+
+#include <QVBoxLayout>
+
+namespace dn::screen::qt {
+
+// In the order of their lives: the views go first, then the control, then what it stands on.
+struct CtrDnContactsWidget::Parts {
+    explicit Parts(CtrDnContactsWidget& widget)
+        : ports(guard, &widget),
+          control(ports.ports()),
+          view(std::make_unique<ControlView>(control.root(), &widget, guard))
+    {
+    }
+
+    Guard guard;
+    QtPorts ports;
+    ctrDnContacts control;
+    std::unique_ptr<ControlView> view;
+};
+
+CtrDnContactsWidget::CtrDnContactsWidget(QWidget* parent) : QWidget(parent), parts_(std::make_unique<Parts>(*this))
+{
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(parts_->view.get());
+    dress(*this);
+}
+
+CtrDnContactsWidget::~CtrDnContactsWidget() = default;
+
+ctrDnContacts& CtrDnContactsWidget::control() { return parts_->control; }
+
+void CtrDnContactsWidget::onError(Guard::Handler handler) { parts_->guard.onError(std::move(handler)); }
+
+QSize CtrDnContactsWidget::sizeHint() const { return {1048, 677}; } // the frame as designed
+
+QSize CtrDnContactsWidget::minimumSizeHint() const { return {480, 320}; }
+
+} // namespace dn::screen::qt

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The control as a widget that a host places on one of its screens.
+//
+//     auto* widget = new dn::screen::qt::CtrDnContactsWidget(window);
+//     widget->onError([](const std::exception& failure) { ... });
+//     widget->control().SetObjects(&connection, agent, admin, user);
+//     widget->control().RefreshData();
+#pragma once
+
+#include "screen/qt/guard.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace dn {
+class ctrDnContacts;
+}
+
+namespace dn::screen::qt {
+
+class CtrDnContactsWidget : public QWidget {
+public:
+    explicit CtrDnContactsWidget(QWidget* parent = nullptr);
+    ~CtrDnContactsWidget() override;
+
+    /// The control. It lives as long as the widget.
+    ctrDnContacts& control();
+
+    /// @param handler takes the exceptions that the operator's own clicks and keys start and that the control does
+    /// not treat. Without one, their text is shown in a box. Exceptions of methods that the host calls reach the
+    /// host as exceptions.
+    void onError(Guard::Handler handler);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+private:
+    struct Parts;
+
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace dn::screen::qt

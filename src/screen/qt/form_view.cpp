@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/form_view.h"
+
+#include "screen/button.h"
+#include "screen/qt/focus_keeper.h"
+#include "screen/qt/geometry.h"
+#include "screen/qt/text.h"
+#include "screen/qt/theme.h"
+#include "screen/qt/view_factory.h"
+
+#include <QCloseEvent>
+
+namespace dn::screen::qt {
+namespace {
+
+/// The button that Escape presses, nothing when the operator cannot reach it.
+screen::Button* cancelButton(const Container& container)
+{
+    for (Element* child : container.children()) {
+        if (auto* button = dynamic_cast<screen::Button*>(child);
+            button != nullptr && button->Cancel() && button->usable())
+            return button;
+        if (auto* inner = dynamic_cast<Container*>(child); inner != nullptr)
+            if (auto* button = cancelButton(*inner); button != nullptr) return button;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+FormView::FormView(screen::Form& form, QWidget* parent, Guard& guard)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint),
+      element_(&form),
+      guard_(guard)
+{
+    setObjectName(fromUtf8(form.name()));
+    focus_ = std::make_unique<FocusKeeper>(*this, buildViews(form, *this, guard));
+    dress(*this);
+    wires_.push_back(form.changed.connect([this] { mirror(); }));
+    wires_.push_back(form.ended.connect([this] {
+        element_ = nullptr;
+        finish();
+    }));
+    mirror();
+}
+
+FormView::~FormView() = default;
+
+void FormView::run()
+{
+    if (element_ == nullptr || !element_->Visible()) return;
+    focus_->begin(element_->focused());
+    exec();
+    if (element_ != nullptr) element_->Hide(); // the window was ended from outside
+}
+
+void FormView::mirror()
+{
+    if (element_ == nullptr) return;
+    setWindowTitle(fromUtf8(element_->Caption()));
+    setFixedSize(pixelRect(*element_).size());
+    setEnabled(element_->Enabled());
+    if (!element_->Visible()) finish();
+}
+
+// A form that is shown again gets a view of its own; this one is over.
+void FormView::finish()
+{
+    element_ = nullptr;
+    QDialog::done(QDialog::Rejected);
+}
+
+void FormView::reject() { close(true); }
+
+void FormView::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    close(false);
+}
+
+// Escape presses the button that cancels, where there is one; the frame's button closes the window.
+void FormView::close(bool byKey)
+{
+    if (element_ == nullptr) return;
+    screen::Form* const form = element_;
+    screen::Button* const button = byKey ? cancelButton(*form) : nullptr;
+    guard_.run([&] {
+        if (button != nullptr)
+            button->press();
+        else
+            form->closeWindow();
+    });
+}
+
+} // namespace dn::screen::qt

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/label_view.h"
+
+#include "screen/qt/colours.h"
+#include "screen/qt/text.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace dn::screen::qt {
+namespace {
+
+Qt::Alignment horizontal(TextAlignment alignment)
+{
+    if (alignment == TextAlignment::right) return Qt::AlignRight;
+    return alignment == TextAlignment::centre ? Qt::AlignHCenter : Qt::AlignLeft;
+}
+
+void setBold(QWidget& widget, bool bold)
+{
+    if (widget.font().bold() == bold) return;
+    QFont font = widget.font();
+    font.setBold(bold);
+    widget.setFont(font);
+}
+
+QPainterPath tabShape(const QRectF& box)
+{
+    constexpr qreal radius = 5;
+    QPainterPath path(box.bottomLeft());
+    path.lineTo(box.left(), box.top() + radius);
+    path.quadTo(box.topLeft(), {box.left() + radius, box.top()});
+    path.lineTo(box.right() - radius, box.top());
+    path.quadTo(box.topRight(), {box.right(), box.top() + radius});
+    path.lineTo(box.bottomRight());
+    return path;
+}
+
+} // namespace
+
+LabelView::LabelView(screen::Label& label, QWidget* parent, Guard& guard)
+    : QLabel(parent), bond_(label, *this, guard, [this](const auto& state) { mirror(state); })
+{
+    setTextFormat(Qt::PlainText); // telephone numbers and counters come from data
+    bond_.refresh();
+}
+
+void LabelView::stepTo(QWidget* buddy)
+{
+    setBuddy(buddy);
+    bond_.refresh();
+}
+
+void LabelView::mirror(const screen::Label& label)
+{
+    setBold(*this, label.FontBold());
+    setText(buddy() != nullptr ? fromUtf8(label.Caption()) : withoutMnemonic(label.Caption()));
+    setAlignment(horizontal(label.Alignment()) | Qt::AlignVCenter);
+    setFrameShape(label.BorderStyle() != 0 ? QFrame::Box : QFrame::NoFrame);
+    setAutoFillBackground(label.BackColor().has_value());
+    QPalette colours;
+    if (label.BackColor()) {
+        const QColor back = fromColour(*label.BackColor());
+        colours.setColor(QPalette::Window, back);
+        colours.setColor(QPalette::WindowText, inkOn(back));
+    }
+    setPalette(colours);
+    if (label.AutoSize()) resize(sizeHint());
+}
+
+void LabelView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+        bond_.gesture([](auto& it) { it.click(); });
+}
+
+ClickLabelView::ClickLabelView(screen::Label& label, QWidget* parent, Guard& guard)
+    : QAbstractButton(parent), bond_(label, *this, guard, [this](const auto& state) { mirror(state); })
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    connect(this, &QAbstractButton::clicked, this, [this] { bond_.gesture([](auto& it) { it.click(); }); });
+    bond_.refresh();
+}
+
+QSize ClickLabelView::sizeHint() const { return fontMetrics().size(Qt::TextShowMnemonic, text()) + QSize(12, 4); }
+
+void ClickLabelView::mirror(const screen::Label& label)
+{
+    setText(fromUtf8(label.Caption()));
+    setBold(*this, label.FontBold());
+    setCursor(label.handPointer() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    alignment_ = horizontal(label.Alignment());
+    back_ = label.BackColor() ? fromColour(*label.BackColor()) : QColor();
+    raised_ = label.BorderStyle() != 0;
+    if (label.AutoSize()) resize(sizeHint());
+    update();
+}
+
+void ClickLabelView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor window = palette().color(QPalette::Window);
+    QColor ink = back_.isValid() ? inkOn(back_) : palette().color(QPalette::WindowText);
+    if (!isEnabled()) ink.setAlphaF(0.5F);
+    if (back_.isValid()) {
+        const QColor fill = underMouse() && isEnabled() ? back_.lighter(104) : back_;
+        painter.setPen(raised_ ? back_.darker(170) : back_.darker(125));
+        painter.setBrush(isEnabled() ? fill : window);
+        painter.drawPath(tabShape(QRectF(rect()).adjusted(0.5, raised_ ? 0.5 : 2.5, -0.5, 0)));
+    }
+    if (hasFocus()) {
+        painter.setPen(QPen(ink, 1, Qt::DotLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(3.5, 4.5, -3.5, -2.5), 3, 3);
+    }
+    painter.setPen(ink);
+    painter.drawText(rect().adjusted(2, raised_ || !back_.isValid() ? 0 : 2, -2, 0),
+                     static_cast<int>(alignment_ | Qt::AlignVCenter) | Qt::TextShowMnemonic, text());
+}
+
+void ClickLabelView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        click();
+        break;
+    case Qt::Key_Left:
+        moveFocus(-1);
+        break;
+    case Qt::Key_Right:
+        moveFocus(1);
+        break;
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+bool ClickLabelView::event(QEvent* event)
+{
+    const bool hover = event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave;
+    if (hover) update();
+    return QAbstractButton::event(event);
+}
+
+// To the nearest one of the container on that side.
+void ClickLabelView::moveFocus(int step)
+{
+    ClickLabelView* nearest = nullptr;
+    for (QObject* child : parent()->children()) {
+        auto* const other = dynamic_cast<ClickLabelView*>(child);
+        if (other == nullptr || other == this || !other->isVisible() || !other->isEnabled()) continue;
+        const int distance = (other->x() - x()) * step;
+        if (distance > 0 && (nearest == nullptr || distance < (nearest->x() - x()) * step)) nearest = other;
+    }
+    if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
+}
+
+} // namespace dn::screen::qt

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/list_box_view.h"
+
+#include "screen/qt/item_list_model.h"
+
+#include <QMouseEvent>
+
+namespace dn::screen::qt {
+
+ListBoxView::ListBoxView(screen::ListBox& list, QWidget* parent, Guard& guard)
+    : QListView(parent), bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
+{
+    ItemListModel::Checks checks;
+    if (list.checkBoxes()) {
+        checks.marked = [&list](int row) { return list.Selected(row); };
+        checks.toggle = [this](int row) { bond_.gesture([&](auto& it) { it.toggle(row); }); };
+    }
+    setModel(new ItemListModel(list, this, std::move(checks))); // owned by this as its parent
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    entriesChanged_ = list.entriesChanged.connect([this] { bond_.refresh(); });
+    bond_.refresh();
+}
+
+void ListBoxView::mirror(const screen::ListBox& list)
+{
+    if (currentIndex().row() == list.ListIndex()) return;
+    mirroring_ = true;
+    if (list.ListIndex() >= 0)
+        setCurrentIndex(model()->index(list.ListIndex(), 0));
+    else
+        selectionModel()->clear();
+    mirroring_ = false;
+}
+
+void ListBoxView::mousePressEvent(QMouseEvent* event)
+{
+    QListView::mousePressEvent(event);
+    const int row = indexAt(event->pos()).row();
+    if (event->button() == Qt::LeftButton && row >= 0) bond_.gesture([&](auto& it) { it.pick(row); });
+}
+
+// No selecting by dragging: a pick is a click.
+void ListBoxView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton) QListView::mouseMoveEvent(event);
+}
+
+void ListBoxView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    if (event->button() != Qt::LeftButton || !index.isValid()) return;
+    bond_.gesture([&](auto& it) { it.doubleClick(index.row()); });
+}
+
+void ListBoxView::keyPressEvent(QKeyEvent* event)
+{
+    const QPersistentModelIndex before = currentIndex();
+    if (event->key() == Qt::Key_Space && before.isValid()) {
+        bond_.gesture([&](auto& it) { it.toggle(before.row()); });
+        return;
+    }
+    QListView::keyPressEvent(event);
+    if (QPersistentModelIndex(currentIndex()) != before) pickCurrent();
+}
+
+void ListBoxView::pickCurrent()
+{
+    const int row = currentIndex().row();
+    if (!mirroring_ && row >= 0) bond_.gesture([&](auto& it) { it.pick(row); });
+}
+
+} // namespace dn::screen::qt

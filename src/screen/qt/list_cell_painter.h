@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Paints the cells of a list view: one selected row instead of a focused cell, and colours that stay legible on
+// the present palette.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace dn::screen::qt {
+
+class ListCellPainter : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    /// Fills an option whose rectangle is set, as it is painted.
+    void describe(QStyleOptionViewItem& option, const QModelIndex& index) const;
+
+    /// Whether the cell's text does not fit.
+    bool isCutOff(const QStyleOptionViewItem& place, const QModelIndex& index) const;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+} // namespace dn::screen::qt

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/list_view_view.h"
+
+#include "screen/qt/geometry.h"
+#include "screen/qt/list_cell_painter.h"
+#include "screen/qt/list_view_model.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace dn::screen::qt {
+namespace {
+
+constexpr int lineHeight = 20; // logical pixels: an icon of 16 and some air
+
+} // namespace
+
+ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard)
+    : QTableView(parent),
+      model_(new ListViewModel(list, this)),
+      bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
+{
+    setModel(model_);
+    setItemDelegate(new ListCellPainter(this)); // owned by this as its parent
+    arrange();
+    connect(model_, &ListViewModel::published, this, &ListViewView::showPublished);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+        bond_.gesture([&](auto& it) { it.clickHeader(column); });
+        model_->publish();
+    });
+    // A screen reader may move the table's own selection.
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& now) {
+        if (!mirroring_ && now.isValid()) click(now.row());
+    });
+    revealed_ = list.revealed.connect([this](std::size_t position) {
+        model_->publish(); // the row may have come in this very turn
+        reveal(static_cast<int>(position));
+    });
+    model_->publish();
+    bond_.refresh();
+}
+
+void ListViewView::arrange()
+{
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setAutoScroll(false); // it would jump to the first column with each row
+    setTabKeyNavigation(false);
+    setFocusPolicy(Qt::StrongFocus);
+    setShowGrid(false);
+    QFont face = font();
+    // Half the time of a repaint went into ligatures and the like; scripts that need shaping still get it.
+    face.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferDefault | QFont::PreferNoShaping));
+    setFont(face);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(lineHeight);
+    verticalHeader()->setDefaultSectionSize(lineHeight);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setMinimumSectionSize(16);
+}
+
+void ListViewView::mirror(const screen::ListView& list)
+{
+    mirrorSorting(list);
+    viewport()->update();
+}
+
+void ListViewView::mirrorSorting(const screen::ListView& list)
+{
+    horizontalHeader()->setSortIndicatorShown(list.Sorted());
+    const auto order = list.SortOrder() == screen::ListView::descending ? Qt::DescendingOrder : Qt::AscendingOrder;
+    if (list.Sorted()) horizontalHeader()->setSortIndicator(list.SortKey(), order);
+}
+
+void ListViewView::showPublished(bool columnsAreNew, bool rowsAreNew)
+{
+    if (columnsAreNew) setColumnWidths();
+    mirrorSelection();
+    // A list that was built anew starts with its selected row in view.
+    if (rowsAreNew && currentIndex().isValid()) reveal(currentIndex().row());
+}
+
+void ListViewView::mirrorSelection()
+{
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr) return;
+    const std::optional<std::size_t> position = list->selectedPosition();
+    mirroring_ = true;
+    if (!position || static_cast<int>(*position) >= model_->rowCount())
+        selectionModel()->clear();
+    else if (const QModelIndex index = model_->index(static_cast<int>(*position), 0);
+             index != currentIndex() || !selectionModel()->isSelected(index))
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    mirroring_ = false;
+}
+
+void ListViewView::setColumnWidths()
+{
+    Twips left = 0;
+    int column = 0;
+    for (const ColumnHeader& header : bond_.element()->ColumnHeaders()) {
+        const Twips right = left + header.Width;
+        setColumnWidth(column++, pixelEdge(right) - pixelEdge(left));
+        left = right;
+    }
+}
+
+// The horizontal place is the operator's.
+void ListViewView::reveal(int row)
+{
+    const int column = horizontalScrollBar()->value();
+    scrollTo(model_->index(row, 0), EnsureVisible);
+    horizontalScrollBar()->setValue(column);
+}
+
+void ListViewView::click(int row)
+{
+    if (bond_.gesture([&](auto& it) { it.clickRow(static_cast<std::size_t>(row)); })) model_->publish();
+}
+
+} // namespace dn::screen::qt

@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/style.h"
+
+#include "screen/qt/colours.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+
+namespace dn::screen::qt {
+namespace {
+
+constexpr qreal rounding = 3;
+
+/// What an option says of its widget's state.
+struct Looks {
+    explicit Looks(const QStyleOption& option)
+        : enabled((option.state & QStyle::State_Enabled) != 0),
+          hover(enabled && (option.state & QStyle::State_MouseOver) != 0),
+          focus(enabled && (option.state & QStyle::State_HasFocus) != 0),
+          down((option.state & QStyle::State_Sunken) != 0),
+          on((option.state & QStyle::State_On) != 0),
+          accent(option.palette.color(QPalette::Highlight)),
+          line(option.palette.color(QPalette::Mid))
+    {
+    }
+
+    QColor edge() const { return focus ? accent : hover ? mixed(line, accent, 0.5F) : line; }
+
+    bool enabled, hover, focus, down, on;
+    QColor accent, line;
+};
+
+class SmoothPainter {
+public:
+    explicit SmoothPainter(QPainter& painter) : painter_(painter)
+    {
+        painter_.save();
+        painter_.setRenderHint(QPainter::Antialiasing);
+    }
+    SmoothPainter(const SmoothPainter&) = delete;
+    SmoothPainter& operator=(const SmoothPainter&) = delete;
+    ~SmoothPainter() { painter_.restore(); }
+
+private:
+    QPainter& painter_;
+};
+
+void drawBox(QPainter& painter, const QRect& place, const QColor& edge, const QBrush& fill)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(edge);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), rounding, rounding);
+}
+
+/// A flat face with a thin edge; the pointer, the focus and a press each show.
+void drawButtonFace(const QStyleOption& option, QPainter& painter)
+{
+    const Looks looks(option);
+    QColor face = option.palette.color(looks.enabled ? QPalette::Button : QPalette::Window);
+    if (looks.hover) face = mixed(face, looks.accent, 0.12F);
+    if (looks.down || looks.on) face = mixed(face, looks.accent, 0.28F);
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool isDefault = button != nullptr && (button->features & QStyleOptionButton::DefaultButton) != 0;
+    drawBox(painter, option.rect, isDefault && looks.enabled ? looks.accent : looks.edge(), face);
+}
+
+void drawField(const QStyleOption& option, QPainter& painter)
+{
+    const QColor base = option.palette.color(QPalette::Base);
+    const Looks looks(option);
+    drawBox(painter, option.rect, looks.edge(),
+            looks.enabled ? base : mixed(base, option.palette.color(QPalette::Window), 0.6F));
+}
+
+/// The colours of a mark that is set, and of one that is not.
+void setMarkColours(QPainter& painter, const QStyleOption& option, const Looks& looks)
+{
+    const QColor base = option.palette.color(QPalette::Base);
+    const QColor edge = mixed(looks.line, option.palette.color(QPalette::WindowText), 0.25F);
+    const QColor full = looks.enabled ? looks.accent : looks.line;
+    painter.setPen(looks.on ? full : looks.hover || looks.focus ? looks.accent : edge);
+    painter.setBrush(looks.on ? full : base);
+}
+
+void drawCheckMark(const QStyleOption& option, QPainter& painter)
+{
+    const Looks looks(option);
+    const SmoothPainter smooth(painter);
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    setMarkColours(painter, option, looks);
+    painter.drawRoundedRect(box, 2.5, 2.5);
+    if (!looks.on) return;
+    QPainterPath tick(box.topLeft() + QPointF(box.width() * 0.22, box.height() * 0.52));
+    tick.lineTo(box.topLeft() + QPointF(box.width() * 0.42, box.height() * 0.72));
+    tick.lineTo(box.topLeft() + QPointF(box.width() * 0.78, box.height() * 0.30));
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(tick);
+}
+
+void drawOptionMark(const QStyleOption& option, QPainter& painter)
+{
+    const Looks looks(option);
+    const SmoothPainter smooth(painter);
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    setMarkColours(painter, option, looks);
+    painter.drawEllipse(box);
+    if (!looks.on) return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(box.center(), box.width() * 0.2, box.height() * 0.2);
+}
+
+/// The edge of lists and text boxes, which scroll.
+void drawFrame(const QStyleOption& option, QPainter& painter)
+{
+    painter.save();
+    painter.setPen(Looks(option).edge());
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
+} // namespace
+
+Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+        drawButtonFace(*option, *painter);
+        return;
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit:
+        break;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        drawCheckMark(*option, *painter);
+        return;
+    case PE_IndicatorRadioButton:
+        drawOptionMark(*option, *painter);
+        return;
+    case PE_Frame:
+        drawFrame(*option, *painter);
+        return;
+    case PE_FrameFocusRect: // the edge of a button shows it
+        if (widget != nullptr && widget->inherits("QPushButton")) return;
+        break;
+    default:
+        break;
+    }
+    const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const bool field =
+        element == PE_FrameLineEdit || (element == PE_PanelLineEdit && frame != nullptr && frame->lineWidth > 0);
+    if (field)
+        drawField(*option, *painter);
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_ButtonMargin:
+        return 6;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_SmallIconSize:
+    case PM_ButtonIconSize:
+    case PM_ListViewIconSize:
+        return 16;
+    case PM_ScrollBarExtent:
+        return 13;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return 14;
+    case PM_HeaderMargin:
+        return 3;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* data) const
+{
+    switch (hint) {
+    case SH_ComboBox_Popup:
+        return 0; // a list below the box, with a scroll bar
+    case SH_ItemView_ShowDecorationSelected:
+        return 1;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+}
+
+// The drawings keep their colours in a selected row: some of their meaning is in them.
+QPixmap Style::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    return mode == QIcon::Selected ? pixmap : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
+} // namespace dn::screen::qt

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The drawing of the widgets: the toolkit's own plain style with flatter buttons and the margins that a compact
+// frame leaves room for.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace dn::screen::qt {
+
+class Style : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    Style();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                const QStyleOption* option) const override;
+};
+
+} // namespace dn::screen::qt

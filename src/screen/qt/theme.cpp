@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "screen/qt/theme.h"
+
+#include "screen/qt/spanish.h"
+#include "screen/qt/style.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QWidget>
+
+namespace dn::screen::qt {
+namespace {
+
+constexpr int fontHeight = 12; // logical pixels
+
+/// One for the life of the program: a style must outlive every widget that it draws.
+QStyle& style()
+{
+    static QStyle* const style = new Style;
+    return *style;
+}
+
+QString family()
+{
+    for (const QLatin1String name :
+         {QLatin1String("Roboto"), QLatin1String("Liberation Sans"), QLatin1String("Open Sans"),
+          QLatin1String("Noto Sans"), QLatin1String("Segoe UI"), QLatin1String("DejaVu Sans")})
+        if (QFontDatabase::hasFamily(name)) return name;
+    return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+}
+
+struct Tones {
+    QRgb window, base, alternate, text, button, mid, dark, highlight, dim;
+};
+
+QPalette paletteOf(const Tones& tones)
+{
+    QPalette palette{QColor(tones.button), QColor(tones.window)};
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, tones.text);
+    palette.setColor(QPalette::Base, tones.base);
+    palette.setColor(QPalette::AlternateBase, tones.alternate);
+    palette.setColor(QPalette::Mid, tones.mid);
+    palette.setColor(QPalette::Dark, tones.dark);
+    palette.setColor(QPalette::ToolTipBase, tones.base);
+    palette.setColor(QPalette::Highlight, tones.highlight);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, tones.dim);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, tones.dim);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.mid);
+    return palette;
+}
+
+} // namespace
+
+QFont controlFont()
+{
+    QFont font(family());
+    font.setPixelSize(fontHeight);
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    return font;
+}
+
+void dress(QWidget& root)
+{
+    root.setFont(controlFont());
+    root.setStyle(&style());
+    for (QWidget* widget : root.findChildren<QWidget*>())
+        widget->setStyle(&style());
+}
+
+QPalette schemePalette(Scheme scheme)
+{
+    if (scheme == Scheme::dark)
+        return paletteOf({0xFF23272E, 0xFF1B1E24, 0xFF20242B, 0xFFE4E7EB, 0xFF2F353E, 0xFF444B57, 0xFF12151A,
+                          0xFF2F6DB5, 0xFF808894});
+    return paletteOf({0xFFF3F5F7, 0xFFFFFFFF, 0xFFF7F9FB, 0xFF1F2933, 0xFFFDFDFE, 0xFFC3CBD4, 0xFF8E99A6,
+                      0xFF2B6CB0, 0xFF8A94A0});
+}
+
+void applyTheme(QApplication& application)
+{
+    const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    applyTheme(application, dark ? Scheme::dark : Scheme::light);
+}
+
+void applyTheme(QApplication& application, Scheme scheme)
+{
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): owned by the application
+    QApplication::setStyle(new Style);
+    QApplication::setPalette(schemePalette(scheme));
+    QApplication::setFont(controlFont());
+    speakSpanish(application);
+}
+
+} // namespace dn::screen::qt

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The look of the control: calm, compact, one family of type at a fixed size in logical pixels, in whatever
+// colours (light or dark) the application has.
+#pragma once
+
+#include <QFont>
+#include <QPalette>
+
+class QApplication;
+class QWidget;
+
+namespace dn::screen::qt {
+
+/// The first family of a list of well readable ones that the machine has, 12 logical pixels high: the frame of
+/// the layout is fixed, so the size of the text is too.
+QFont controlFont();
+
+/// Gives a screen of the control, and all widgets in it, the look. A window of it is built first.
+void dress(QWidget& root);
+
+enum class Scheme { light, dark };
+
+QPalette schemePalette(Scheme scheme);
+
+/// For a program that is built around the control: the look, the palette and the toolkit's own Spanish texts
+/// for all its windows.
+/// @param scheme nothing chosen: light or dark as the desktop's own palette is.
+void applyTheme(QApplication& application);
+void applyTheme(QApplication& application, Scheme scheme);
+
+} // namespace dn::screen::qt

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "shell/ctr_dn_contacts.h"
+
+namespace dn {
+
+ctrDnContacts::ctrDnContacts(screen::Ports ports)
+    : tabStrip_(elements_.top),
+      counters_(elements_),
+      timeline_(session_, elements_, ports),
+      hostScreens_(session_),
+      notes_(session_, elements_, tabStrip_, ports),
+      prospectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_),
+      prospectInteraction_(elements_.prospects),
+      prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
+      prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      layout_(elements_),
+      tabs_(session_, elements_, tabStrip_, prospectDetail_, prospectList_),
+      agents_(session_, elements_.top, tabs_),
+      startUp_(session_, elements_, agents_, tabs_, ports)
+{
+    wire();
+    startUp_.UserControl_Initialize();
+}
+
+ctrDnContacts::~ctrDnContacts() = default;
+
+} // namespace dn

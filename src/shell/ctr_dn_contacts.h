@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The control: the one public object of the system. It owns the elements and the rooms, joins them and decides
+// nothing itself.
+//
+// Order of the host's calls, which is binding: create the control, hand over the factory of the host's objects,
+// `SetObjects`, `InitUICRM`, `RefreshData`; from then on any of them again, at will. Everything runs on the host's
+// user-interface thread.
+#pragma once
+
+#include "desk/counters.h"
+#include "desk/elements.h"
+#include "desk/host_objects.h"
+#include "desk/host_screens.h"
+#include "desk/session.h"
+#include "desk/tab_strip.h"
+#include "desk/timeline.h"
+#include "notes/notes.h"
+#include "prospects/prospect_detail.h"
+#include "prospects/prospect_interaction.h"
+#include "prospects/prospect_list.h"
+#include "prospects/prospect_status.h"
+#include "screen/ports.h"
+#include "screen/signal.h"
+#include "shell/agents.h"
+#include "shell/layout.h"
+#include "shell/start_up.h"
+#include "shell/tabs.h"
+
+#include <any>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace dn {
+
+class ctrDnContacts {
+public:
+    /// @param ports what the control needs of the machine; kept alive by the caller for the life of the control.
+    explicit ctrDnContacts(screen::Ports ports);
+    ctrDnContacts(const ctrDnContacts&) = delete;
+    ctrDnContacts& operator=(const ctrDnContacts&) = delete;
+    ~ctrDnContacts();
+
+    // ---- Properties: plain stored values, read and written by the host; none has side effects.
+
+    /// Table of the party being called: "ut_icontact" or "Proyecto".
+    const std::string& Call_Tabla() const { return session_.Call_Tabla; }
+    void Call_Tabla(std::string table) { session_.Call_Tabla = std::move(table); }
+    /// Key of the party being called.
+    std::int32_t Call_PK() const { return session_.Call_PK; }
+    void Call_PK(std::int32_t key) { session_.Call_PK = key; }
+    /// Number being called.
+    const std::string& Call_Tel() const { return session_.Call_Tel; }
+    void Call_Tel(std::string number) { session_.Call_Tel = std::move(number); }
+    /// Whether a call is in progress.
+    bool Call_Progress() const { return session_.Call_Progress; }
+    void Call_Progress(bool progress) { session_.Call_Progress = progress; }
+    /// Folder of the mail templates.
+    const std::string& TemplatePath() const { return session_.TemplatePath; }
+    void TemplatePath(std::string path) { session_.TemplatePath = std::move(path); }
+    /// The host's screens.
+    const std::shared_ptr<UI_CRM>& oUICRM() const { return session_.oUICRM; }
+    void oUICRM(std::shared_ptr<UI_CRM> screens) { session_.oUICRM = std::move(screens); }
+    /// User name, written into every row of the activity log.
+    const std::string& Usuario() const { return session_.Usuario; }
+    void Usuario(std::string user) { session_.Usuario = std::move(user); }
+    /// The open connection through which all statements run. It belongs to the host, who keeps it open and alive.
+    data::Connection* AdoCnn() const { return session_.AdoCnn; }
+    void AdoCnn(data::Connection* connection) { session_.AdoCnn = connection; }
+    /// Key of the agent who works; not changed by a selection in `cbAgente`.
+    std::int32_t PKAgente() const { return session_.PKAgente; }
+    void PKAgente(std::int32_t key) { session_.PKAgente = key; }
+    /// Whether the user is an administrator.
+    bool GAdmon() const { return session_.GAdmon; }
+    void GAdmon(bool administrator) { session_.GAdmon = administrator; }
+    /// An object that the host wants to find here again; nothing in the control reads it.
+    const std::any& eBasic() const { return session_.eBasic; }
+    void eBasic(std::any object) { session_.eBasic = std::move(object); }
+
+    // ---- Methods
+
+    /// The maker of the host's objects; it belongs to the host, who keeps it alive. Needed by InitUICRM.
+    void hostObjects(HostFactory* factory) { hostScreens_.factory(factory); }
+
+    /// Hands over the connection, the agent who works, the rights and the user, and finds the database engine.
+    /// A connection that is not open is told to the operator; the control then keeps its former agent, rights and
+    /// user.
+    /// @param Cn belongs to the host; used until the next SetObjects or the end of the control.
+    /// @param Agente key in the table `Agente`; 0 for an administrator without a key of his own.
+    /// @param Admon sees every agent's work and may change it in bulk.
+    void SetObjects(data::Connection* Cn, std::int32_t Agente, bool Admon, const std::string& pUsuario)
+    {
+        startUp_.SetObjects(Cn, Agente, Admon, pUsuario);
+    }
+
+    /// Creates the host's screens objects and binds them to the connection and the user. Sets TemplatePath to
+    /// "R:".
+    /// @param PathXML passed on to the screens. @param FXLands passed on to the screens.
+    /// @throws whatever an operation of the host fails with; RuntimeError without a factory.
+    void InitUICRM(const std::string& PathXML, HostObject& FXLands) { hostScreens_.InitUICRM(PathXML, FXLands); }
+
+    /// Opens the host's screen of a new project without a party.
+    /// @param Key is not used. @return the project's key; 0 or less when none was made or anything failed.
+    std::int32_t NuevoProyecto(std::int32_t& Key) { return hostScreens_.NuevoProyecto(Key); }
+    std::int32_t NuevoProyecto()
+    {
+        std::int32_t key = 0;
+        return NuevoProyecto(key);
+    }
+
+    /// Fills the agents, selects the one who works and shows the first screen.
+    /// @throws data::Error when the agents cannot be read; RuntimeError before SetObjects.
+    void RefreshData() { startUp_.RefreshData(); }
+
+    /// Selects an agent by key; an unknown key changes nothing. The key 0, "< Sin asignar >", is the
+    /// administrators'.
+    void SelAgente(std::int32_t PK) { agents_.SelAgente(PK); }
+
+    // ---- For the screen layer and for tests
+
+    /// The outermost element, for the layer that shows the control and gives it its size.
+    screen::UserControl& root() { return elements_.control; }
+    desk::Elements& elements() { return elements_; }
+    /// The engine found: 1 MySQL or MariaDB, 2 SQL Server, 0 when no probe succeeded.
+    std::int16_t MotorBD() const { return session_.MotorBD; }
+
+private:
+    void wire();
+
+    desk::Elements elements_;
+    desk::Session session_;
+    desk::TabStrip tabStrip_;
+    desk::Counters counters_;
+    desk::Timeline timeline_;
+    desk::HostScreens hostScreens_;
+    notes::Notes notes_;
+    prospects::ProspectDetail prospectDetail_;
+    prospects::ProspectInteraction prospectInteraction_;
+    prospects::ProspectList prospectList_;
+    prospects::ProspectStatus prospectStatus_;
+    shell::Layout layout_;
+    shell::Tabs tabs_;
+    shell::Agents agents_;
+    shell::StartUp startUp_;
+    screen::Subscriptions wires_; // last member, cut first
+};
+
+} // namespace dn

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/host/screens/fixture.h"
+
+#include "host/database/database_choice.h"
+#include "host/database/schema.h"
+#include "tests/support/maria_server.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+
+namespace dn::host::tests {
+namespace {
+
+std::unique_ptr<data::Connection> openTo(const char* database)
+{
+    MariadbTarget target;
+    target.socket = dn::tests::sharedServer().socket();
+    target.user = dn::tests::MariaServer::user;
+    target.password = dn::tests::MariaServer::password;
+    target.database = database;
+    return connect(target);
+}
+
+} // namespace
+
+std::unique_ptr<data::Connection> Screens::open() { return openTo("pantallas"); }
+
+void Screens::SetUpTestSuite()
+{
+    openTo("")->execute("CREATE OR REPLACE DATABASE pantallas CHARACTER SET utf8mb4");
+    connection_ = open();
+    createSchema(server(), Engine::mariadb);
+}
+
+void Screens::TearDownTestSuite() { connection_.reset(); }
+
+void Screens::SetUp()
+{
+    for (const char* table : {"Proyecto", "Meta", "Persona", "Organizacion", "ut_icontact", "Agente"})
+        server().execute("TRUNCATE TABLE " + std::string(table));
+    server().execute("INSERT INTO Meta (Sys_PK, Descripcion) VALUES (3, 'Venta de licencias'), (4, 'Asesoría')");
+    server().execute(
+        "INSERT INTO Organizacion (Sys_PK, Nombre, Tel1) VALUES (11, 'Acme del Sureste', '9611111111'), "
+        "(12, 'Acero y Forja', NULL)");
+    server().execute("INSERT INTO Persona (Sys_PK, Nombre, Apellido1, Tel_Movil, IOrganizacion) VALUES "
+                     "(21, 'Ana', 'López', '9612222222', 11), (22, 'Bruno', 'Díaz', NULL, NULL)");
+    crm->SetAgente(agent);
+}
+
+std::vector<Row> Screens::rows(std::string_view statement)
+{
+    std::vector<Row> result;
+    const auto found = server().execute(statement);
+    for (; !found->Eof(); found->MoveNext()) {
+        Row row;
+        for (std::size_t i = 0; i < found->names().size(); ++i) {
+            const data::Value cell = found->value(i);
+            row.push_back(cell.isNull() ? "NULL" : std::string(cell.raw()));
+        }
+        result.push_back(std::move(row));
+    }
+    return result;
+}
+
+std::string Screens::value(std::string_view statement) { return rows(statement).at(0).at(0); }
+
+std::int32_t Screens::newProject(std::int16_t kind, std::int32_t party)
+{
+    std::int32_t result = -1;
+    projects->CrearProyecto(kind, party, result);
+    return result;
+}
+
+QLineEdit& line(QWidget& window, const char* name)
+{
+    auto* const found = window.findChild<QLineEdit*>(name);
+    if (found == nullptr) throw std::runtime_error(std::string("no line ") + name);
+    return *found;
+}
+
+// The test library's own function knows the keys of ASCII alone.
+void presses(QWidget& widget, const QString& text)
+{
+    for (const char32_t character : text.toStdU32String()) {
+        const QString one = QString::fromUcs4(&character, 1);
+        const int key = character < 128 ? QTest::asciiToKey(static_cast<char>(character)) : Qt::Key_unknown;
+        QTest::simulateEvent(&widget, true, key, Qt::NoModifier, one, false);
+        QTest::simulateEvent(&widget, false, key, Qt::NoModifier, one, false);
+    }
+}
+
+void types(QWidget& window, const char* name, const char* text)
+{
+    QLineEdit& edit = line(window, name);
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    presses(edit, QString::fromUtf8(text));
+}
+
+void picks(QWidget& window, const char* combo, const char* entry)
+{
+    auto* const box = window.findChild<QComboBox*>(combo);
+    ASSERT_NE(box, nullptr) << combo;
+    box->setFocus();
+    presses(*box, QString::fromUtf8(entry).section(' ', 0, 0)); // a blank would open the list
+    EXPECT_EQ(box->currentText().toStdString(), entry);
+}
+
+void finds(QWidget& window, const char* field, const char* letters)
+{
+    window.activateWindow(); // without a window manager nobody gives it back what a list took
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    types(window, (std::string("txt") + field).c_str(), letters);
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; })) << letters;
+    QWidget& list = *QApplication::activePopupWidget();
+    // The platform activates the list by an event that is still on its way. Coming later, it would take the focus
+    // back to this field from the one that the operator has gone on to.
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    QApplication::processEvents();
+    QTest::keyClick(&list, Qt::Key_Return);
+    QApplication::processEvents();
+}
+
+std::string messageBelow(QWidget& window, const char* field)
+{
+    const auto* const label = window.findChild<QLabel*>(QString("msg") + field);
+    if (label == nullptr) throw std::runtime_error(std::string("no message below ") + field);
+    return label->isVisible() ? label->text().toStdString() : "";
+}
+
+std::string boxText(const QWidget& box) { return dynamic_cast<const QMessageBox&>(box).text().toStdString(); }
+
+std::string focus()
+{
+    const QWidget* const widget = QApplication::focusWidget();
+    return widget == nullptr ? "" : widget->objectName().toStdString();
+}
+
+void fillsWhatIsRequired(QWidget& window)
+{
+    picks(window, "Meta", "Venta de licencias");
+    types(window, "Descripcion", "Licencias para ventas");
+}
+
+} // namespace dn::host::tests

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The control as its host places it: names, drawings, sizes, errors.
+
+#include "screen/qt/ctr_dn_contacts_widget.h"
+#include "screen/qt/icons.h"
+#include "screen/qt/text.h"
+#include "shell/ctr_dn_contacts.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QImage>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <stdexcept>
+
+namespace dn::tests {
+namespace {
+
+using namespace dn::screen;
+
+class WidgetTest : public testing::Test {
+protected:
+    WidgetTest()
+    {
+        widget.resize(widget.sizeHint());
+        widget.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&widget));
+    }
+
+    qt::CtrDnContactsWidget widget;
+};
+
+/// Every element of a container, to any depth.
+void collect(const Container& container, std::vector<Element*>& elements)
+{
+    for (Element* child : container.children()) {
+        elements.push_back(child);
+        if (const auto* inner = dynamic_cast<const Container*>(child)) collect(*inner, elements);
+    }
+}
+
+TEST_F(WidgetTest, every_element_has_an_object_of_its_name)
+{
+    std::vector<Element*> elements;
+    collect(widget.control().root(), elements);
+    EXPECT_GT(elements.size(), 70U);
+    for (const Element* element : elements)
+        EXPECT_NE(widget.findChild<QObject*>(qt::fromUtf8(element->name())), nullptr) << element->name();
+}
+
+TEST_F(WidgetTest, everything_that_takes_the_keyboard_has_a_name_for_a_screen_reader)
+{
+    int seen = 0;
+    for (QWidget* child : widget.findChildren<QWidget*>()) {
+        if ((child->focusPolicy() & Qt::TabFocus) == 0 || child->objectName().isEmpty() ||
+            child->objectName().startsWith(QStringLiteral("qt_")))
+            continue;
+        ++seen;
+        EXPECT_FALSE(QAccessible::queryAccessibleInterface(child)->text(QAccessible::Name).isEmpty())
+            << child->objectName().toStdString();
+    }
+    EXPECT_GT(seen, 40);
+}
+
+TEST_F(WidgetTest, every_picture_that_the_control_names_is_drawn)
+{
+    std::vector<Element*> elements;
+    collect(widget.control().root(), elements);
+    std::set<std::string> names;
+    for (const Element* element : elements)
+        if (const auto* button = dynamic_cast<const Button*>(element)) names.insert(button->Picture());
+    for (const ImageList* images :
+         {&widget.control().elements().prospects.imgContactos, &widget.control().elements().projects.ImageList1})
+        for (int number = 1; number <= images->Count(); ++number)
+            names.insert(images->image(number));
+    names.erase("");
+    EXPECT_GT(names.size(), 20U);
+    for (const std::string& name : names)
+        EXPECT_FALSE(qt::drawing(name).pixmap(16, 16).isNull()) << name;
+}
+
+// In one colour: what is left of a drawing when colours are not told apart.
+TEST_F(WidgetTest, the_pictures_of_a_list_differ_in_shape)
+{
+    const auto shape = [](const std::string& name) {
+        return qt::drawing(name).pixmap(16, 16).toImage().convertToFormat(QImage::Format_Alpha8);
+    };
+    for (const ImageList* images :
+         {&widget.control().elements().prospects.imgContactos, &widget.control().elements().projects.ImageList1})
+        for (int one = 1; one <= images->Count(); ++one)
+            for (int other = one + 1; other <= images->Count(); ++other) {
+                const QImage left = shape(images->image(one));
+                const QImage right = shape(images->image(other));
+                int different = 0;
+                for (int y = 0; y < left.height(); ++y)
+                    for (int x = 0; x < left.width(); ++x)
+                        different += qAbs(left.scanLine(y)[x] - right.scanLine(y)[x]) > 96 ? 1 : 0;
+                EXPECT_GT(different, left.width() * left.height() / 12)
+                    << images->image(one) << " and " << images->image(other);
+            }
+}
+
+TEST_F(WidgetTest, the_control_has_the_frame_of_the_design_and_follows_the_hosts_size)
+{
+    EXPECT_EQ(widget.control().root().Width(), 15720);
+    EXPECT_EQ(widget.control().root().Height(), 10155);
+    widget.resize(1200, 800);
+    QTest::qWait(0);
+    EXPECT_EQ(widget.control().root().Width(), 18000);
+    const auto* const lvw = widget.findChild<QWidget*>(QStringLiteral("lvw"));
+    EXPECT_EQ(lvw->width(), 1200 - 242);
+    EXPECT_EQ(lvw->height(), 800 - 82);
+}
+
+TEST_F(WidgetTest, no_caption_of_the_strips_is_cut_off)
+{
+    for (const QAbstractButton* button : widget.findChildren<QAbstractButton*>()) {
+        if (button->objectName().startsWith(QStringLiteral("qt_"))) continue;
+        const int icon = button->icon().isNull() ? 0 : button->iconSize().width() + 4;
+        EXPECT_LE(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + icon, button->width())
+            << button->objectName().toStdString();
+    }
+}
+
+TEST_F(WidgetTest, an_error_of_a_click_goes_to_the_hosts_handler)
+{
+    std::vector<std::string> errors;
+    widget.onError([&](const std::exception& error) { errors.emplace_back(error.what()); });
+    const Subscription wire =
+        widget.control().elements().top.lblItem(0).Click.connect([] { throw std::runtime_error("sin red"); });
+    QTest::mouseClick(widget.findChild<QWidget*>(QStringLiteral("lblItem(0)")), Qt::LeftButton);
+    EXPECT_THAT(errors, testing::ElementsAre("sin red"));
+}
+
+TEST_F(WidgetTest, two_controls_live_side_by_side)
+{
+    auto second = std::make_unique<qt::CtrDnContactsWidget>();
+    second->show();
+    EXPECT_NE(&second->control(), &widget.control());
+    second.reset();
+    EXPECT_EQ(widget.control().root().Width(), 15720);
+}
+
+} // namespace
+} // namespace dn::tests

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the table shows of the rows, and when.
+
+#include "screen/qt/colours.h"
+#include "tests/screen/qt/list_view_fixture.h"
+
+#include <QBrush>
+#include <QFont>
+#include <QHeaderView>
+#include <QIcon>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+namespace dn::tests {
+namespace {
+
+using namespace dn::screen;
+
+TEST_F(ListViewTest, rows_are_published_once_a_turn)
+{
+    show();
+    const QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
+    addRows(0, 1200);
+    EXPECT_EQ(model().rowCount(), 0);
+    EXPECT_EQ(inserted.count(), 0);
+    settle();
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(model().rowCount(), 1200);
+    addRows(1200, 1300);
+    settle();
+    EXPECT_EQ(inserted.count(), 2);
+    EXPECT_EQ(shown(1299, 2), QStringLiteral("c1299"));
+}
+
+TEST_F(ListViewTest, rows_that_go_away_are_gone_before_anything_is_painted)
+{
+    addRows(0, 1000);
+    show();
+    list.ListItems().Clear();
+    EXPECT_EQ(model().rowCount(), 0); // at once
+    table().viewport()->repaint();
+    addRows(0, 3);
+    table().viewport()->repaint(); // rows that are not published yet
+    EXPECT_EQ(model().rowCount(), 0);
+    settle();
+    EXPECT_EQ(model().rowCount(), 3);
+}
+
+TEST_F(ListViewTest, a_position_that_the_element_does_not_have_has_no_data)
+{
+    addRows(0, 10);
+    show();
+    const QModelIndex last = model().index(9, 0);
+    bool asked = false;
+    QObject::connect(&model(), &QAbstractItemModel::rowsAboutToBeRemoved, &model(), [&] {
+        asked = true; // the element's rows are gone, the table does not know it yet
+        EXPECT_FALSE(last.data().isValid());
+        EXPECT_FALSE(last.data(Qt::DecorationRole).isValid());
+    });
+    list.ListItems().Clear();
+    EXPECT_TRUE(asked);
+}
+
+TEST_F(ListViewTest, a_load_nested_in_the_yield_of_another_leaves_the_rows_of_both_in_order)
+{
+    addRows(0, 500);
+    show();
+    const auto yield = [] {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    };
+    bool nested = false;
+    wires.push_back(list.ColumnClick.connect([&](const ColumnHeader&) {
+        list.ListItems().Clear();
+        if (!nested) {
+            nested = true; // the operator clicks again while the first load yields
+            QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton, {}, {50, 10});
+        }
+        yield();
+        list.ListItems().Clear();
+        addRows(0, 300);
+        yield();
+        addRows(300, 600);
+    }));
+    QTest::mouseClick(table().horizontalHeader()->viewport(), Qt::LeftButton, {}, {50, 10});
+    settle();
+    ASSERT_EQ(headers.size(), 2U);
+    ASSERT_EQ(model().rowCount(), 600);
+    for (const int row : {0, 299, 300, 599})
+        EXPECT_EQ(shown(row, 0).toInt(), row);
+    EXPECT_EQ(table().currentIndex().row(), 0);
+}
+
+TEST_F(ListViewTest, a_row_that_changes_is_painted_anew_and_no_row_is_inserted)
+{
+    addRows(0, 100);
+    show();
+    const QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy changed(&model(), &QAbstractItemModel::dataChanged);
+    list.ListItems()("K7").Paint(0x0000FF, true);
+    list.ListItems()("K9").Checked(true);
+    settle();
+    EXPECT_EQ(inserted.count(), 0);
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_EQ(changed[0][0].toModelIndex().row(), 7);
+    EXPECT_EQ(changed[0][1].toModelIndex().row(), 9);
+}
+
+TEST_F(ListViewTest, cells_give_texts_colours_weights_icons_and_tool_tips)
+{
+    addRows(0, 2);
+    list.SmallIcons(&images);
+    list.CheckBoxes(true);
+    const ListItem first = list.ListItems()(1);
+    ListItem(first).SmallIcon(2);
+    ListItem(first).Paint(0x0000FF, true);
+    ListItem(first).ToolTipText("comentario");
+    first.ListSubItems()(1).ForeColor(0xFF8080);
+    first.ListSubItems()(2).ReportIcon(1);
+    ListItem(first).Checked(true);
+    show();
+    const QModelIndex text = model().index(0, 0);
+    EXPECT_EQ(text.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0xFF, 0, 0));
+    EXPECT_TRUE(text.data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_FALSE(text.data(Qt::DecorationRole).value<QIcon>().isNull());
+    EXPECT_EQ(text.data(Qt::CheckStateRole).toInt(), Qt::Checked);
+    EXPECT_EQ(text.data(Qt::ToolTipRole).toString(), QStringLiteral("comentario"));
+    EXPECT_EQ(model().index(0, 1).data(Qt::ForegroundRole).value<QBrush>().color(), QColor(0x80, 0x80, 0xFF));
+    EXPECT_FALSE(model().index(0, 1).data(Qt::DecorationRole).isValid());
+    EXPECT_FALSE(model().index(0, 1).data(Qt::CheckStateRole).isValid());
+    EXPECT_FALSE(model().index(0, 2).data(Qt::DecorationRole).value<QIcon>().isNull());
+    const QModelIndex plain = model().index(1, 0);
+    EXPECT_FALSE(plain.data(Qt::ForegroundRole).isValid());
+    EXPECT_FALSE(plain.data(Qt::FontRole).isValid());
+    EXPECT_EQ(plain.data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
+}
+
+TEST_F(ListViewTest, headers_and_widths_come_from_the_element)
+{
+    show();
+    QHeaderView& header = *table().horizontalHeader();
+    EXPECT_EQ(model().headerData(1, Qt::Horizontal).toString(), QStringLiteral("Dos"));
+    EXPECT_EQ(header.sectionSize(0), 100);
+    list.ClearColumns();
+    list.AddColumn("Otra", 1440);
+    list.AddColumn("Y otra", 800);
+    settle();
+    EXPECT_EQ(model().columnCount(), 2);
+    EXPECT_EQ(header.sectionSize(0), 96);
+    EXPECT_EQ(header.sectionSize(1), 53); // 149.3 less 96: edges are rounded
+    EXPECT_FALSE(header.stretchLastSection());
+}
+
+TEST_F(ListViewTest, a_sort_shows_its_order_and_keeps_the_selected_row_selected)
+{
+    addRows(0, 30);
+    show();
+    click(5);
+    list.SortKey(0);
+    list.SortOrder(screen::ListView::descending);
+    list.Sorted(true);
+    settle();
+    EXPECT_EQ(shown(0, 0), QStringLiteral("9"));
+    EXPECT_EQ(shown(table().currentIndex().row(), 0), QStringLiteral("5"));
+    EXPECT_TRUE(table().horizontalHeader()->isSortIndicatorShown());
+    EXPECT_EQ(table().horizontalHeader()->sortIndicatorSection(), 0);
+    EXPECT_EQ(table().horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+    addRows(100, 101); // keeps its place in the order
+    settle();
+    EXPECT_EQ(shown(model().rowCount() - 2, 0), QStringLiteral("1"));
+}
+
+TEST_F(ListViewTest, the_table_selects_and_reveals_what_the_code_selects_and_reveals)
+{
+    addRows(0, 1000);
+    show();
+    EXPECT_EQ(table().currentIndex().row(), 0);
+    list.ListItems()("K700").Selected(true);
+    list.ListItems()("K700").EnsureVisible();
+    settle();
+    EXPECT_EQ(table().currentIndex().row(), 700);
+    EXPECT_TRUE(table().selectionModel()->isRowSelected(700));
+    EXPECT_TRUE(table().viewport()->rect().contains(at(700, 0)));
+    EXPECT_THAT(clicked, testing::IsEmpty()); // a selection by code raises nothing
+    list.ListItems()("K700").Selected(false);
+    settle();
+    EXPECT_FALSE(table().currentIndex().isValid());
+    EXPECT_FALSE(table().selectionModel()->hasSelection());
+}
+
+TEST_F(ListViewTest, a_list_that_is_built_anew_starts_with_its_selected_row_in_view)
+{
+    addRows(0, 1000);
+    show();
+    list.ListItems().Clear();
+    addRows(0, 1000);
+    list.ListItems()("K900").Selected(true);
+    settle();
+    EXPECT_TRUE(table().viewport()->rect().contains(at(900, 0)));
+}
+
+TEST_F(ListViewTest, removing_a_row_leaves_the_others)
+{
+    addRows(0, 10);
+    show();
+    list.ListItems().Remove("K4");
+    EXPECT_EQ(model().rowCount(), 0);
+    settle();
+    EXPECT_EQ(model().rowCount(), 9);
+    EXPECT_EQ(shown(4, 0), QStringLiteral("5"));
+}
+
+TEST_F(ListViewTest, a_list_that_ends_before_its_table_leaves_an_empty_table)
+{
+    auto other = std::make_unique<screen::ListView>(&root, "lvwOther");
+    other->AddColumn("Uno", 1500);
+    other->ListItems().Add("K1", "uno");
+    place(*other, 0, 310, 100, 80);
+    show();
+    auto& shownOther = widget<qt::ListViewView>("lvwOther");
+    EXPECT_EQ(shownOther.model()->rowCount(), 1);
+    other.reset();
+    EXPECT_EQ(shownOther.model()->rowCount(), 0);
+    shownOther.viewport()->repaint();
+    QTest::mouseClick(shownOther.viewport(), Qt::LeftButton, {}, {20, 10});
+    QTest::keyClick(&shownOther, Qt::Key_Down);
+    settle();
+}
+
+TEST_F(ListViewTest, colours_of_rows_are_legible_on_light_and_dark_bases)
+{
+    for (const Colour colour : {0x0000FFU, 0x004000U, 0xFF0000U, 0x800080U, 0xFF8080U, 0xFFFFFFU})
+        for (const QColor& base : {QColor(Qt::white), QColor(0x1B, 0x1E, 0x24), QColor(0x2B, 0x6C, 0xB0)})
+            EXPECT_GE(qt::contrast(qt::legible(qt::fromColour(colour), base), base), 4.5)
+                << std::hex << colour << " on " << base.name().toStdString();
+    EXPECT_EQ(qt::legible(qt::fromColour(0x004000), Qt::white), QColor(0, 0x40, 0)); // readable as it is
+}
+
+} // namespace
+} // namespace dn::tests

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Panels, progress bar, timer, calendars, and where all of them stand on the screen.
+
+#include "screen/calendars.h"
+#include "screen/label.h"
+#include "screen/progress_bar.h"
+#include "screen/qt/geometry.h"
+#include "screen/qt/icons.h"
+#include "screen/qt/small_views.h"
+#include "screen/qt/text.h"
+#include "screen/text_box.h"
+#include "screen/timer.h"
+#include "tests/screen/qt/stage.h"
+
+#include <QCalendarWidget>
+#include <QEventLoop>
+#include <QProgressBar>
+#include <QTimeEdit>
+
+namespace dn::tests {
+namespace {
+
+using namespace dn::screen;
+
+class SmallViewsTest : public StageTest {
+protected:
+    ~SmallViewsTest() override { view.reset(); }
+};
+
+TEST_F(SmallViewsTest, the_first_child_stands_in_front)
+{
+    PicturePanel front(&root, "picFront");
+    PicturePanel back(&root, "picBack");
+    place(front, 10, 10, 50, 50);
+    place(back, 10, 10, 50, 50);
+    front.BackColor(0x0000FF);
+    back.BackColor(0xFF0000);
+    show();
+    EXPECT_EQ(colourAt(*view, {30, 30}), QColor(0xFF, 0, 0));
+    front.Visible(false);
+    EXPECT_EQ(colourAt(*view, {30, 30}), QColor(0, 0, 0xFF));
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, a_panel_without_a_colour_hides_what_lies_behind_it)
+{
+    PicturePanel front(&root, "picFront");
+    PicturePanel back(&root, "picBack");
+    place(front, 10, 10, 50, 50);
+    place(back, 10, 10, 50, 50);
+    back.BackColor(0xFF0000);
+    show();
+    EXPECT_EQ(colourAt(*view, {30, 30}), view->palette().color(QPalette::Window));
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, texts_on_a_coloured_panel_stay_legible)
+{
+    PicturePanel panel(&root, "pic");
+    Label label(&panel, "lbl");
+    panel.BackColor(0x004000);
+    show();
+    EXPECT_EQ(widget<QWidget>("lbl").palette().color(QPalette::WindowText), QColor(Qt::white));
+    panel.BackColor(0xFFFFFF);
+    EXPECT_EQ(widget<QWidget>("lbl").palette().color(QPalette::WindowText), QColor(Qt::black));
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, the_control_takes_the_size_of_its_view)
+{
+    int resized = 0;
+    const Subscription wire = root.Resize.connect([&] { ++resized; });
+    show();
+    view->resize(500, 321);
+    settle();
+    EXPECT_EQ(root.Width(), 7500);
+    EXPECT_EQ(root.Height(), 4815);
+    EXPECT_GE(resized, 1);
+    view.reset();
+}
+
+// Widths that are no whole pixels: panel follows panel without a gap and without an overlap.
+TEST_F(SmallViewsTest, what_touches_in_twips_touches_on_the_screen)
+{
+    std::vector<std::unique_ptr<PicturePanel>> panels;
+    Twips left = 0;
+    for (int n = 0; n < 12; ++n) {
+        panels.push_back(std::make_unique<PicturePanel>(&root, "pic" + std::to_string(n)));
+        panels.back()->Move(left, 0, 157 + n, 300);
+        panels.back()->BackColor(n % 2 == 0 ? 0x0000FF : 0x00FF00);
+        left += 157 + n;
+    }
+    show();
+    for (int n = 1; n < 12; ++n)
+        EXPECT_EQ(widget<QWidget>(("pic" + std::to_string(n - 1)).c_str()).geometry().right() + 1,
+                  widget<QWidget>(("pic" + std::to_string(n)).c_str()).x());
+    const QImage image = view->grab().toImage();
+    const int behind = static_cast<int>(qt::pixelEdge(left) * image.devicePixelRatio());
+    const int row = static_cast<int>(10 * image.devicePixelRatio());
+    for (int x = 0; x < behind; ++x)
+        EXPECT_EQ(image.pixelColor(x, row).blue(), 0) << "the window shows through at " << x;
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, edges_are_rounded_on_either_side_of_zero)
+{
+    EXPECT_EQ(qt::pixelEdge(0), 0);
+    EXPECT_EQ(qt::pixelEdge(7), 0);
+    EXPECT_EQ(qt::pixelEdge(8), 1);
+    EXPECT_EQ(qt::pixelEdge(-7), 0);
+    EXPECT_EQ(qt::pixelEdge(-8), -1);
+    EXPECT_EQ(qt::pixelEdge(-75), -5);
+    EXPECT_EQ(qt::pixelEdge(15720), 1048);
+}
+
+TEST_F(SmallViewsTest, a_progress_bar_and_a_line_mirror_their_elements)
+{
+    ProgressBar bar(&root, "PG");
+    Line line(&root, "lin");
+    bar.Range(0, 50);
+    line.Move(150, 150, 1500, 0);
+    show();
+    bar.Value(20);
+    EXPECT_EQ(widget<QProgressBar>("PG").value(), 20);
+    EXPECT_EQ(widget<QProgressBar>("PG").maximum(), 50);
+    EXPECT_EQ(widget<QWidget>("lin").geometry(), QRect(10, 10, 100, 1));
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, a_timer_ticks_also_while_one_of_its_ticks_waits)
+{
+    Timer timer(&root, "Timer1");
+    Timer other(&root, "Timer2");
+    other.Interval(1);
+    int ticks = 0;
+    int ticksOfOther = 0;
+    QEventLoop nested;
+    QTimer::singleShot(5000, &nested, &QEventLoop::quit); // a silent timer fails the test and does not hang it
+    const Subscription wireOfOther = other.TimerEvent.connect([&] { ++ticksOfOther; });
+    const Subscription wire = timer.TimerEvent.connect([&] {
+        if (++ticks == 1) nested.exec(); // a handler that shows a window, say
+        if (ticks == 4) nested.quit();
+    });
+    show();
+    settle();
+    EXPECT_EQ(ticks, 0); // no interval yet
+    timer.Interval(1);
+    waitUntil([&] { return ticks >= 1; });
+    EXPECT_GE(ticks, 4);
+    timer.Enabled(false);
+    const int before = ticks;
+    ticksOfOther = 0;
+    waitUntil([&] { return ticksOfOther > 3; });
+    EXPECT_EQ(ticks, before);
+    timer.Enabled(true);
+    waitUntil([&] { return ticks > before; });
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, a_day_and_a_time_are_picked)
+{
+    MonthView month(&root, "cal");
+    DTPicker picker(&root, "dtHora");
+    place(month, 10, 10, 250, 200);
+    place(picker, 10, 220, 100, 21);
+    month.Value({2026, 3, 14});
+    picker.Value({0, 0, 0, 9, 30, 15});
+    show();
+    auto& calendar = widget<QCalendarWidget>("cal");
+    auto& time = widget<QTimeEdit>("dtHora");
+    EXPECT_EQ(calendar.selectedDate(), QDate(2026, 3, 14));
+    EXPECT_EQ(calendar.locale().language(), QLocale::Spanish);
+    EXPECT_EQ(time.text(), QStringLiteral("09:30:15"));
+    calendar.setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(month.Value(), (DateTime{2026, 3, 15}));
+    EXPECT_TRUE(month.hasFocus());
+    QTest::keyClick(&time, Qt::Key_Up);
+    EXPECT_EQ(picker.Value(), (DateTime{0, 0, 0, 10, 30, 15}));
+    month.Value({2027, 1, 1});
+    EXPECT_EQ(calendar.selectedDate(), QDate(2027, 1, 1));
+    month.Enabled(false);
+    EXPECT_FALSE(calendar.isEnabled());
+    view.reset();
+}
+
+TEST_F(SmallViewsTest, accelerators_are_taken_out_where_no_widget_knows_them)
+{
+    EXPECT_EQ(qt::withoutMnemonic("&Buscar:"), QStringLiteral("Buscar:"));
+    EXPECT_EQ(qt::withoutMnemonic("Uno && dos"), QStringLiteral("Uno & dos"));
+    EXPECT_EQ(qt::withoutMnemonic("&&&x"), QStringLiteral("&x"));
+    EXPECT_EQ(qt::withoutMnemonic(""), QString());
+}
+
+} // namespace
+} // namespace dn::tests

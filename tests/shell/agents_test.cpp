@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The combo of agents: filling it, selecting by key, and what a selection does.
+
+#include "tests/support/control_fixture.h"
+
+namespace dn::tests {
+namespace {
+
+using testing::ElementsAre;
+
+class Agents : public ControlTest {
+protected:
+    screen::ComboBox& cbAgente() { return elements().top.cbAgente; }
+};
+
+TEST_F(Agents, stand_in_the_order_of_the_statement_behind_the_entry_of_nobody)
+{
+    cnn.on(agentsStatement).gives({"Sys_PK", "Nombre"}, {{whole(9), text("Zoé")}, {whole(7), text("Ana")}});
+    start(7, true);
+    ASSERT_EQ(cbAgente().ListCount(), 3);
+    EXPECT_EQ(cbAgente().List(0), "< Sin asignar >");
+    EXPECT_EQ(cbAgente().ItemData(0), 0);
+    EXPECT_EQ(cbAgente().List(1), "Zoé");
+    EXPECT_EQ(cbAgente().ItemData(1), 9);
+    EXPECT_EQ(cbAgente().List(2), "Ana");
+    EXPECT_EQ(cbAgente().ItemData(2), 7);
+}
+
+TEST_F(Agents, an_empty_table_leaves_the_entry_of_nobody_alone)
+{
+    cnn.on(agentsStatement).gives({"Sys_PK", "Nombre"}, {});
+    start(7, true);
+    EXPECT_EQ(cbAgente().ListCount(), 1);
+    EXPECT_EQ(cbAgente().ListIndex(), -1);
+}
+
+TEST_F(Agents, SelAgente_selects_by_key)
+{
+    start(7, true);
+    control.SelAgente(9);
+    EXPECT_EQ(cbAgente().ListIndex(), 2);
+    EXPECT_EQ(control.PKAgente(), 7) << "a selection does not change who works";
+}
+
+TEST_F(Agents, SelAgente_of_nobody_is_for_administrators)
+{
+    start(7, true);
+    control.SelAgente(0);
+    EXPECT_EQ(cbAgente().ListIndex(), 0);
+
+    start(7, false);
+    control.SelAgente(0);
+    EXPECT_EQ(cbAgente().ListIndex(), 1);
+}
+
+TEST_F(Agents, SelAgente_of_an_unknown_key_keeps_the_selection)
+{
+    start(7, true);
+    control.SelAgente(555);
+    EXPECT_EQ(cbAgente().ListIndex(), 1);
+}
+
+TEST_F(Agents, a_selection_tells_the_host_screens)
+{
+    start(7, true);
+    host.log.calls.clear();
+    cbAgente().pick(2);
+    cbAgente().pick(0);
+    EXPECT_THAT(host.log.calls, ElementsAre("SetAgente 9", "SetAgente 0"));
+}
+
+TEST_F(Agents, a_selection_goes_on_when_the_host_screens_fail)
+{
+    start(7, true);
+    openProspects();
+    host.log.failing = {"SetAgente"};
+    cbAgente().pick(2);
+    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("uf_IEjecutivo = 9 AND")));
+}
+
+TEST_F(Agents, picking_the_selected_entry_again_reloads_the_tab)
+{
+    start(7, true);
+    openProspects();
+    cbAgente().pick(1);
+    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("uf_IEjecutivo = 7 AND")));
+}
+
+TEST_F(Agents, an_ordinary_agent_cannot_pick_another)
+{
+    start(7, false);
+    openProspects();
+    cbAgente().pick(2);
+    EXPECT_EQ(cbAgente().ListIndex(), 1);
+    EXPECT_THAT(cnn.statements(), testing::IsEmpty());
+}
+
+TEST_F(Agents, a_key_beyond_16_bits_leaves_the_strip_and_shows_the_tab)
+{
+    cnn.on(agentsStatement).gives({"Sys_PK", "Nombre"}, {{whole(7), text("Ana")}, {whole(70000), text("Lejana")}});
+    start(0, true);
+    openProspects();
+    ASSERT_FALSE(elements().top.lblItem(1).Visible());
+    cbAgente().pick(2);
+    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("uf_IEjecutivo = 70000 AND")));
+    EXPECT_TRUE(elements().top.lblItem(1).Visible()) << "the load of the list fits the strip by itself";
+}
+
+TEST_F(Agents, a_key_beyond_32_bits_is_an_error_of_the_call)
+{
+    cnn.on(agentsStatement).gives({"Sys_PK", "Nombre"}, {{whole(3'000'000'000), text("Imposible")}});
+    connect(7, true);
+    EXPECT_THROW(control.RefreshData(), RuntimeError);
+}
+
+} // namespace
+} // namespace dn::tests

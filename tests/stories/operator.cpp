@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/stories/operator.h"
+
+#include "data/mariadb/connection.h"
+#include "host/database/schema.h"
+#include "tests/support/element_tree.h"
+#include "tests/support/maria_server.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace dn::tests {
+namespace {
+
+constexpr int nameColumn = 3; // the sub-item "Nombre"
+
+std::unique_ptr<data::Connection> connect()
+{
+    data::mariadb::Options options;
+    options.socket = sharedServer().socket();
+    options.user = MariaServer::user;
+    options.password = MariaServer::password;
+    options.database = MariaServer::database;
+    return std::make_unique<data::mariadb::Connection>(options);
+}
+
+} // namespace
+
+void Operator::SetUpTestSuite()
+{
+    static const bool made = [] {
+        host::createSchema(*connect(), host::Engine::mariadb);
+        return true;
+    }();
+    ASSERT_TRUE(made);
+}
+
+Operator::Operator() : beside(connect()), cnn(std::make_unique<RecordingConnection>(connect()))
+{
+    for (const char* table : {"ut_icontact", "xt_biticontact", "Agente"})
+        database(std::string("DELETE FROM ") + table);
+    database("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana'), (9, 'Beto')");
+}
+
+std::int64_t Operator::prospect(const std::string& name, std::map<std::string, std::string> columns)
+{
+    columns.emplace("uf_IEjecutivo", std::to_string(ana));
+    std::string names = "uf_Nombre";
+    std::string values = "'" + name + "'";
+    for (const auto& [column, value] : columns) {
+        names += ", " + column;
+        values += ", " + value;
+    }
+    database("INSERT INTO ut_icontact (" + names + ") VALUES (" + values + ")");
+    return beside->execute("SELECT LAST_INSERT_ID()")->value(0).toWhole();
+}
+
+void Operator::database(const std::string& statement) { beside->execute(statement); }
+
+void Operator::enters(std::int32_t agent) { start(agent, false); }
+
+void Operator::entersAsAdministrator(std::int32_t agent) { start(agent, true); }
+
+void Operator::start(std::int32_t agent, bool admin)
+{
+    control.hostObjects(&host);
+    control.SetObjects(cnn.get(), agent, admin, "ana");
+    control.InitUICRM("pantallas", lands);
+    control.RefreshData();
+    opensTab(desk::prospectos);
+    cnn->statements.clear();
+}
+
+void Operator::opensTab(int tab) { control.elements().top.lblItem(tab).click(); }
+
+void Operator::picks(const std::string& combo, const std::string& entry)
+{
+    elementNamed<screen::ComboBox>(control.root(), combo).pick(std::string_view(entry));
+}
+
+void Operator::clicksRow(const std::string& name) { control.elements().prospects.lvw.clickRow(positionOf(name)); }
+
+void Operator::checksRow(const std::string& name)
+{
+    control.elements().prospects.lvw.toggleCheck(positionOf(name));
+}
+
+void Operator::clicksHeader(int column) { control.elements().prospects.lvw.clickHeader(column); }
+
+void Operator::presses(const std::string& button) { elementNamed<screen::Button>(control.root(), button).press(); }
+
+void Operator::clicksBox(const std::string& checkBox)
+{
+    elementNamed<screen::CheckBox>(control.root(), checkBox).toggle();
+}
+
+void Operator::types(const std::string& textBox, const std::string& text)
+{
+    elementNamed<screen::TextBox>(control.root(), textBox).type(text);
+}
+
+std::string Operator::sees(const std::string& element)
+{
+    screen::Element& found = elementNamed(control.root(), element);
+    if (const auto* box = dynamic_cast<screen::TextBox*>(&found)) return box->Text();
+    if (const auto* label = dynamic_cast<screen::Label*>(&found)) return label->Caption();
+    if (const auto* combo = dynamic_cast<screen::ComboBox*>(&found)) return combo->Text();
+    ADD_FAILURE() << element << " has no text";
+    return {};
+}
+
+std::vector<std::string> Operator::seesProspects()
+{
+    std::vector<std::string> names;
+    screen::ListItems rows = control.elements().prospects.lvw.ListItems();
+    for (int i = 1; i <= rows.Count(); ++i)
+        names.emplace_back(rows(i).ListSubItems()(nameColumn).Text());
+    return names;
+}
+
+std::string Operator::seesCell(const std::string& name, const std::string& header)
+{
+    const auto& headers = control.elements().prospects.lvw.ColumnHeaders();
+    const screen::ListItem item = row(name);
+    for (const screen::ColumnHeader& column : headers)
+        if (column.Text == header)
+            return std::string(column.Index == 1 ? item.Text() : item.ListSubItems()(column.Index - 1).Text());
+    ADD_FAILURE() << "no column " << header;
+    return {};
+}
+
+bool Operator::canUse(const std::string& element) { return elementNamed(control.root(), element).usable(); }
+
+std::vector<std::string> Operator::inTheDatabase(const std::string& statement)
+{
+    std::vector<std::string> values;
+    const auto rows = beside->execute(statement);
+    for (; rows && !rows->Eof(); rows->MoveNext())
+        values.push_back(rows->value(0).isNull() ? "NULL" : std::string(rows->value(0).raw()));
+    return values;
+}
+
+std::vector<std::string> Operator::changesSent()
+{
+    std::vector<std::string> changes;
+    for (const std::string& statement : cnn->statements)
+        if (statement.rfind("SELECT", 0) != 0 && statement.rfind("Select", 0) != 0) changes.push_back(statement);
+    cnn->statements.clear();
+    return changes;
+}
+
+screen::ListItem Operator::row(const std::string& name)
+{
+    return control.elements().prospects.lvw.ListItems()(static_cast<int>(positionOf(name)) + 1);
+}
+
+std::size_t Operator::positionOf(const std::string& name)
+{
+    const auto names = seesProspects();
+    const auto found = std::find(names.begin(), names.end(), name);
+    EXPECT_NE(found, names.end()) << name << " is not in the list";
+    return static_cast<std::size_t>(found - names.begin());
+}
+
+} // namespace dn::tests

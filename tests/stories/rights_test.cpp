@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The rights that docs/database.md asks for are enough for a day's work, and for nothing more.
+
+#include "data/mariadb/connection.h"
+#include "tests/stories/operator.h"
+#include "tests/support/maria_server.h"
+
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+namespace dn::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::SizeIs;
+
+/// The grants for MariaDB as the document writes them.
+std::vector<std::string> documentedGrants()
+{
+    std::ostringstream text;
+    text << std::ifstream(DN_SOURCE_DIR "/docs/database.md").rdbuf();
+    const std::string page = text.str();
+    const std::regex grant("`(GRANT [^`]* ON )ventas(\\.[^`]* TO 'fuerza'@'%')`");
+    std::vector<std::string> grants;
+    for (std::sregex_iterator it(page.begin(), page.end(), grant); it != std::sregex_iterator(); ++it)
+        grants.push_back((*it)[1].str() + std::string(MariaServer::database) + (*it)[2].str());
+    return grants;
+}
+
+class Rights : public Operator {
+protected:
+    Rights()
+    {
+        database("DROP USER IF EXISTS 'fuerza'@'%'");
+        database("CREATE USER 'fuerza'@'%' IDENTIFIED BY 'secreta'");
+        for (const std::string& grant : documentedGrants())
+            database(grant);
+        data::mariadb::Options options;
+        options.socket = sharedServer().socket();
+        options.user = "fuerza";
+        options.password = "secreta";
+        options.database = MariaServer::database;
+        cnn = std::make_unique<RecordingConnection>(std::make_unique<data::mariadb::Connection>(options));
+    }
+
+    /// Whether the account is kept from a statement by its rights.
+    bool isDenied(const std::string& statement)
+    {
+        try {
+            cnn->execute(statement);
+            return false;
+        } catch (const data::Error& refusal) {
+            return refusal.nativeCode() == 1142 || refusal.nativeCode() == 1143 || refusal.nativeCode() == 1044 ||
+                   refusal.nativeCode() == 1045 || refusal.nativeCode() == 1227 || refusal.nativeCode() == 1370;
+        }
+    }
+};
+
+TEST_F(Rights, are_three_grants) { EXPECT_THAT(documentedGrants(), SizeIs(3)); }
+
+TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
+{
+    prospect("María");
+    prospect("Luz");
+    enters(ana);
+    EXPECT_THAT(seesProspects(), ElementsAre("María", "Luz"));
+    types("txtText", "pide precios\n");
+    answers("Motivo del cambio de estado:", "ya compró");
+    picks("Combo1", "Sin interés");
+    EXPECT_THAT(seesProspects(), ElementsAre("Luz"));
+    entersAsAdministrator(ana);
+    checksRow("Luz");
+    answers("Motivo:", "x");
+    agreesTo("¿Seguro desea descartar estos contactos?");
+    presses("cmdProsDiscart");
+    EXPECT_THAT(inTheDatabase("SELECT uf_Mensaje FROM xt_biticontact ORDER BY Sys_PK"),
+                ElementsAre("pide precios", ">> Sin interés: ya compró", ">> Descartado: x"));
+}
+
+TEST_F(Rights, allow_nothing_else)
+{
+    prospect("María");
+    for (const char* statement :
+         {"DROP TABLE ut_icontact", "DELETE FROM ut_icontact", "DELETE FROM xt_biticontact",
+          "UPDATE xt_biticontact SET uf_Mensaje = 'otra cosa'", "UPDATE ut_icontact SET uf_IEjecutivo = 9",
+          "INSERT INTO ut_icontact (uf_Nombre) VALUES ('x')", "SELECT * FROM Persona", "SELECT * FROM Proyecto",
+          "UPDATE Agente SET Nombre = 'x'", "CREATE TABLE x (y INT)", "ALTER TABLE ut_icontact ADD x INT",
+          "TRUNCATE xt_biticontact", "SELECT * FROM mysql.user", "CALL AddInteresContacto('x')",
+          "CREATE USER intruso", "GRANT ALL ON *.* TO 'fuerza'@'%'"})
+        EXPECT_TRUE(isDenied(statement)) << statement;
+}
+
+TEST_F(Rights, confine_a_reason_that_is_written_to_do_harm)
+{
+    prospect("María", {{"uf_EMail", "'m@x.mx'"}});
+    prospect("De Beto", {{"uf_IEjecutivo", "9"}});
+    enters(ana);
+    // Another column: refused. The operator is told, nothing changes.
+    answers("Motivo del cambio de estado:", "x', uf_EMail = 'robado");
+    ports.dialogs.expectAnyBox();
+    picks("Combo1", "Descartado");
+    EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::HasSubstr("denied"));
+    EXPECT_THAT(inTheDatabase("SELECT uf_EMail FROM ut_icontact WHERE uf_Nombre = 'María'"),
+                ElementsAre("m@x.mx"));
+    // A second statement: refused by the connection.
+    answers("Motivo del cambio de estado:", "x'; UPDATE ut_icontact SET uf_Status = 1; -- ");
+    ports.dialogs.expectAnyBox();
+    picks("Combo1", "Descartado");
+    EXPECT_THAT(inTheDatabase("SELECT DISTINCT uf_Status FROM ut_icontact"), ElementsAre("0"));
+    // The three columns themselves are not protected: the statement's own end is cut off and every row is reached.
+    answers("Motivo del cambio de estado:", "x' -- ");
+    ports.dialogs.expectAnyBox();
+    picks("Combo1", "Descartado");
+    EXPECT_THAT(inTheDatabase("SELECT DISTINCT uf_Status FROM ut_icontact"), ElementsAre("1"))
+        << "the documents tell of this";
+}
+
+} // namespace
+} // namespace dn::tests

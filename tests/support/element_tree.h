@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Finds elements of a screen by their names, the way a script or a screen reader does.
+#pragma once
+
+#include "screen/element.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace dn::tests {
+
+/// The names of what lies directly in a container, from front to back.
+std::vector<std::string> namesIn(const screen::Container& container);
+
+/// The first element of that name in a container, at any depth. @throws std::out_of_range when there is none.
+screen::Element& elementNamed(screen::Container& container, std::string_view name);
+
+/// The same as the kind that it must be. @throws std::bad_cast for an element of another kind.
+template <class Kind>
+Kind& elementNamed(screen::Container& container, std::string_view name)
+{
+    return dynamic_cast<Kind&>(elementNamed(container, name));
+}
+
+} // namespace dn::tests

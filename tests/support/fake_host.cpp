@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/support/fake_host.h"
+
+#include <stdexcept>
+
+namespace dn::tests {
+
+void HostLog::called(const std::string& operation, const std::string& arguments)
+{
+    calls.push_back(arguments.empty() ? operation : operation + " " + arguments);
+    if (failing.count(operation) > 0) throw std::runtime_error("falló " + operation);
+}
+
+std::shared_ptr<ConexionCRM> FakeUICRM::Conexion()
+{
+    log_.called("Conexion (read)");
+    return holder_;
+}
+
+void FakeUICRM::Conexion(std::shared_ptr<ConexionCRM> holder)
+{
+    log_.called("Conexion (write)");
+    holder_ = std::move(holder);
+}
+
+void FakeUICRM::BorrarOrganizacion(std::int32_t& key, bool& confirm, std::int32_t& result)
+{
+    log_.called("BorrarOrganizacion", std::to_string(key) + (confirm ? " confirm" : ""));
+    result = deleted;
+}
+
+void FakeUICRM::NuevaOrganizacion(HostObject&, std::int32_t& agente, std::any&)
+{
+    log_.called("NuevaOrganizacion", std::to_string(agente));
+}
+
+void FakeUICRM::EditarOrganizacion(std::int32_t& key, std::int32_t& agente, std::any&)
+{
+    log_.called("EditarOrganizacion", std::to_string(key) + " " + std::to_string(agente));
+}
+
+void FakeUICRM::BorrarPersona(std::int32_t& key, bool& confirm, std::int32_t& result)
+{
+    log_.called("BorrarPersona", std::to_string(key) + (confirm ? " confirm" : ""));
+    result = deleted;
+}
+
+void FakeUICRM::NuevaPersona(HostObject&, std::int32_t& agente, std::any&)
+{
+    log_.called("NuevaPersona", std::to_string(agente));
+}
+
+void FakeUICRM::EditarPersona(std::int32_t& key, std::int32_t& agente, std::any&)
+{
+    log_.called("EditarPersona", std::to_string(key) + " " + std::to_string(agente));
+}
+
+void FakeUICRM::SetFXLands(const HostObject& newLands)
+{
+    log_.called("SetFXLands");
+    lands = newLands;
+}
+
+void FakeUICRM::MostrarRelaciones(std::int16_t& kind, std::int32_t& key, std::string& caption)
+{
+    log_.called("MostrarRelaciones", std::to_string(kind) + " " + std::to_string(key) + " " + caption);
+}
+
+void FakeUICRM::BuscarEntidad(const std::string& text, bool persons, bool organisations, std::string& result)
+{
+    log_.called("BuscarEntidad",
+                "'" + text + "'" + (persons ? " persons" : "") + (organisations ? " organisations" : ""));
+    result = found;
+}
+
+void FakeUIProyectos::Inicializar(data::Connection* newConnection, std::shared_ptr<UI_CRM>& oUICRM,
+                                  HostObject& newLands, const std::string& pathXML, const std::string& usuario)
+{
+    log_.called("Inicializar", pathXML + " " + usuario);
+    connection = newConnection;
+    screens = oUICRM;
+    lands = newLands;
+    if (replacement) oUICRM = replacement;
+}
+
+void FakeUIProyectos::CrearPersona(const std::string& nombre, const std::string& text1, const std::string& text2,
+                                   std::int32_t ciudad, const std::string& telefono, const std::string& text3,
+                                   const std::string& email, const std::string& text4, std::int32_t agente,
+                                   std::int32_t& result)
+{
+    log_.called("CrearPersona", nombre + "|" + text1 + "|" + text2 + "|" + std::to_string(ciudad) + "|" +
+                                    telefono + "|" + text3 + "|" + email + "|" + text4 + "|" +
+                                    std::to_string(agente));
+    result = newPerson;
+}
+
+void FakeUIProyectos::CrearProyecto(std::int16_t& kind, std::int32_t& party, std::int32_t& result)
+{
+    log_.called("CrearProyecto", std::to_string(kind) + " " + std::to_string(party));
+    if (whileOpen) whileOpen();
+    result = newProject;
+    if (failsWithResult) throw std::runtime_error("falló al cerrar la pantalla");
+}
+
+std::shared_ptr<UI_CRM> FakeHost::newUI_CRM()
+{
+    log.called("new UI_CRM");
+    return screens = std::make_shared<FakeUICRM>(log);
+}
+
+std::shared_ptr<ConexionCRM> FakeHost::newConexionCRM()
+{
+    log.called("new ConexionCRM");
+    return holder = std::make_shared<FakeConexionCRM>(log);
+}
+
+std::shared_ptr<UIProyectos> FakeHost::newUIProyectos()
+{
+    log.called("new UIProyectos");
+    return projects;
+}
+
+} // namespace dn::tests

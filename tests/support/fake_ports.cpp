@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/support/fake_ports.h"
+
+#include "screen/panels.h"
+
+#include <gtest/gtest.h>
+
+namespace dn::tests {
+
+FakeDialogs::~FakeDialogs()
+{
+    if (!done()) ADD_FAILURE() << script_.size() << " scripted answers that nobody asked for";
+}
+
+void FakeDialogs::expectBox(std::string prompt, screen::Answer answer)
+{
+    script_.emplace_back(BoxStep{std::move(prompt), answer});
+}
+
+void FakeDialogs::expectAnyBox(screen::Answer answer) { script_.emplace_back(BoxStep{std::nullopt, answer}); }
+
+void FakeDialogs::expectInput(std::string prompt, std::string answer)
+{
+    script_.emplace_back(InputStep{std::move(prompt), std::move(answer)});
+}
+
+void FakeDialogs::expectSave(std::optional<screen::SaveChoice> answer)
+{
+    script_.emplace_back(SaveStep{std::move(answer)});
+}
+
+template <class Step>
+std::optional<Step> FakeDialogs::next(const std::string& question)
+{
+    if (script_.empty() || !std::holds_alternative<Step>(script_.front())) {
+        ADD_FAILURE() << "a question that nobody scripted: " << question;
+        return std::nullopt;
+    }
+    Step step = std::get<Step>(script_.front());
+    script_.pop_front();
+    return step;
+}
+
+screen::Answer FakeDialogs::MsgBox(const screen::MessageBox& box)
+{
+    boxes_.push_back(box);
+    const auto step = next<BoxStep>(box.prompt);
+    if (!step) return screen::Answer::no;
+    if (step->prompt.has_value()) {
+        EXPECT_EQ(box.prompt, *step->prompt);
+    }
+    return step->answer;
+}
+
+std::string FakeDialogs::InputBox(const std::string& prompt)
+{
+    const auto step = next<InputStep>(prompt);
+    if (!step) return {};
+    EXPECT_EQ(prompt, step->prompt);
+    return step->answer;
+}
+
+std::optional<screen::SaveChoice> FakeDialogs::ShowSave(const std::string& filter)
+{
+    const auto step = next<SaveStep>(filter);
+    return step ? step->answer : std::nullopt;
+}
+
+void FakeEventLoop::DoEvents()
+{
+    ++yields;
+    if (onYield) onYield();
+}
+
+void FakeEventLoop::ShowModal(screen::Form& form)
+{
+    if (!onModal) {
+        ADD_FAILURE() << "a window that nobody scripted: " << form.name();
+        return;
+    }
+    form.Visible(true);
+    onModal(form);
+    EXPECT_FALSE(form.Visible()) << form.name() << " is still open";
+    form.Visible(false);
+}
+
+} // namespace dn::tests
