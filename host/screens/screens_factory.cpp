@@ -23,4 +23,9 @@ std::shared_ptr<UIProyectos> ScreensFactory::newUIProyectos()
     return std::make_shared<ProjectScreens>(context_);
 }
 
+// This program has no mail and reads no persons ahead yet: the control takes nothing as a failure.
+std::shared_ptr<CorreoHost> ScreensFactory::newCorreoHost() { return nullptr; }
+
+std::shared_ptr<PersonaRegistro> ScreensFactory::newPersonaRegistro() { return nullptr; }
+
 } // namespace dn::host

@@ -25,6 +25,8 @@ public:
     std::shared_ptr<UI_CRM> newUI_CRM() override;
     std::shared_ptr<ConexionCRM> newConexionCRM() override;
     std::shared_ptr<UIProyectos> newUIProyectos() override;
+    std::shared_ptr<CorreoHost> newCorreoHost() override;
+    std::shared_ptr<PersonaRegistro> newPersonaRegistro() override;
 
     const ScreenContext& context() const { return *context_; }
 

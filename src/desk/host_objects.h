@@ -89,6 +89,50 @@ public:
     virtual void CrearProyecto(std::int16_t& kind, std::int32_t& party, std::int32_t& result) = 0;
 };
 
+/// Writes, sends and keeps mails. A new object serves each mail and each look at the history.
+class CorreoHost {
+public:
+    virtual ~CorreoHost() = default;
+
+    /// Called first. @param templatePath folder of the templates. @param usuario the sender.
+    virtual void Inicia(data::Connection* connection, const std::string& templatePath,
+                        const std::string& usuario) = 0;
+    /// Lets the user write and send a mail.
+    /// @param record "CT." or "PY." and the identifier of the prospect or project.
+    /// @param addresses joined by ";", or empty. @param text1 to text4 the control passes empty.
+    /// @param result true when a mail was sent.
+    virtual void Enviar(const std::string& record, const std::string& addresses, const std::string& text1,
+                        const std::string& text2, const std::string& text3, const std::string& text4,
+                        bool& result) = 0;
+    /// Shows the mails of a record.
+    virtual void VerHistorial(const std::string& record) = 0;
+};
+
+/// The agent that a directory entry belongs to.
+class EjecutivoRegistro {
+public:
+    virtual ~EjecutivoRegistro() = default;
+    virtual std::int32_t Llave() = 0;
+};
+
+/// A person of the directory, read ahead of its screen.
+class PersonaRegistro {
+public:
+    virtual ~PersonaRegistro() = default;
+
+    virtual void Conexion(data::Connection* connection) = 0;
+    /// Loads the person. @param text the control passes empty. @param object the control passes none.
+    /// @param mode the control passes 3. @param result true on success.
+    virtual void Cargar(std::int32_t& key, std::string& text, HostObject& object, std::int16_t& mode,
+                        bool& result) = 0;
+    /// What the last failure was, for the operator.
+    virtual std::string UltimoError() = 0;
+    /// Key of the loaded person.
+    virtual std::int32_t Llave() = 0;
+    /// The agent of the loaded person.
+    virtual std::shared_ptr<EjecutivoRegistro> Ejecutivo() = 0;
+};
+
 /// Makes the host's objects when the control needs them. The host hands it over and keeps it alive.
 class HostFactory {
 public:
@@ -96,6 +140,8 @@ public:
     virtual std::shared_ptr<UI_CRM> newUI_CRM() = 0;
     virtual std::shared_ptr<ConexionCRM> newConexionCRM() = 0;
     virtual std::shared_ptr<UIProyectos> newUIProyectos() = 0;
+    virtual std::shared_ptr<CorreoHost> newCorreoHost() = 0;
+    virtual std::shared_ptr<PersonaRegistro> newPersonaRegistro() = 0;
 };
 
 } // namespace dn

@@ -53,6 +53,13 @@ UIProyectos& HostScreens::oUIProyectos()
     return *oUIProyectos_;
 }
 
+std::shared_ptr<CorreoHost> HostScreens::newCorreoHost() const { return present(make().newCorreoHost()); }
+
+std::shared_ptr<PersonaRegistro> HostScreens::newPersonaRegistro() const
+{
+    return present(make().newPersonaRegistro());
+}
+
 HostFactory& HostScreens::make() const
 {
     if (factory_ == nullptr) throw RuntimeError::objectNotSet();

@@ -36,6 +36,11 @@ public:
     /// The project screens, created when they are needed for the first time.
     UIProyectos& oUIProyectos();
 
+    /// A new object for a mail or a look at the history. @throws RuntimeError when the host gives none.
+    std::shared_ptr<CorreoHost> newCorreoHost() const;
+    /// A new object that reads a person. @throws RuntimeError when the host gives none.
+    std::shared_ptr<PersonaRegistro> newPersonaRegistro() const;
+
 private:
     HostFactory& make() const;
 

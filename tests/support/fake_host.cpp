@@ -122,4 +122,78 @@ std::shared_ptr<UIProyectos> FakeHost::newUIProyectos()
     return projects;
 }
 
+void FakeCorreoHost::Inicia(data::Connection* newConnection, const std::string& templatePath,
+                            const std::string& usuario)
+{
+    log_.called("Inicia", templatePath + " " + usuario);
+    connection = newConnection;
+}
+
+void FakeCorreoHost::Enviar(const std::string& record, const std::string& addresses, const std::string& text1,
+                            const std::string& text2, const std::string& text3, const std::string& text4,
+                            bool& result)
+{
+    log_.called("Enviar", record + " <" + addresses + ">" + text1 + text2 + text3 + text4);
+    result = sent;
+}
+
+void FakePersonaRegistro::Conexion(data::Connection* newConnection)
+{
+    log_.called("PersonaRegistro.Conexion");
+    connection = newConnection;
+}
+
+void FakePersonaRegistro::Cargar(std::int32_t& key, std::string& text, HostObject& object, std::int16_t& mode,
+                                 bool& result)
+{
+    log_.called("Cargar",
+                std::to_string(key) + " <" + text + ">" + (object ? " object " : " ") + std::to_string(mode));
+    loaded = key;
+    result = loads;
+}
+
+std::string FakePersonaRegistro::UltimoError()
+{
+    log_.called("UltimoError");
+    return lastError;
+}
+
+std::int32_t FakePersonaRegistro::Llave()
+{
+    log_.called("Llave");
+    return loaded;
+}
+
+std::shared_ptr<EjecutivoRegistro> FakePersonaRegistro::Ejecutivo()
+{
+    class Agent : public EjecutivoRegistro {
+    public:
+        Agent(HostLog& log, std::int32_t key) : log_(log), key_(key) {}
+        std::int32_t Llave() override
+        {
+            log_.called("Ejecutivo.Llave");
+            return key_;
+        }
+
+    private:
+        HostLog& log_;
+        std::int32_t key_;
+    };
+    log_.called("Ejecutivo");
+    if (withoutAgent) return nullptr;
+    return std::make_shared<Agent>(log_, agent);
+}
+
+std::shared_ptr<CorreoHost> FakeHost::newCorreoHost()
+{
+    log.called("new CorreoHost");
+    return mail;
+}
+
+std::shared_ptr<PersonaRegistro> FakeHost::newPersonaRegistro()
+{
+    log.called("new PersonaRegistro");
+    return person;
+}
+
 } // namespace dn::tests

@@ -93,17 +93,61 @@ private:
     HostLog& log_;
 };
 
+class FakeCorreoHost : public CorreoHost {
+public:
+    explicit FakeCorreoHost(HostLog& log) : log_(log) {}
+
+    void Inicia(data::Connection* connection, const std::string& templatePath,
+                const std::string& usuario) override;
+    void Enviar(const std::string& record, const std::string& addresses, const std::string& text1,
+                const std::string& text2, const std::string& text3, const std::string& text4,
+                bool& result) override;
+    void VerHistorial(const std::string& record) override { log_.called("VerHistorial", record); }
+
+    data::Connection* connection = nullptr;
+    bool sent = true; ///< the result of Enviar
+
+private:
+    HostLog& log_;
+};
+
+class FakePersonaRegistro : public PersonaRegistro {
+public:
+    explicit FakePersonaRegistro(HostLog& log) : log_(log) {}
+
+    void Conexion(data::Connection* newConnection) override;
+    void Cargar(std::int32_t& key, std::string& text, HostObject& object, std::int16_t& mode,
+                bool& result) override;
+    std::string UltimoError() override;
+    std::int32_t Llave() override;
+    std::shared_ptr<EjecutivoRegistro> Ejecutivo() override;
+
+    data::Connection* connection = nullptr;
+    bool loads = true;         ///< the result of Cargar
+    std::string lastError;     ///< the result of UltimoError
+    std::int32_t loaded = 0;   ///< the result of Llave, set by Cargar
+    std::int32_t agent = 0;    ///< the key of the person's agent
+    bool withoutAgent = false; ///< Ejecutivo gives nothing
+
+private:
+    HostLog& log_;
+};
+
 class FakeHost : public HostFactory {
 public:
     std::shared_ptr<UI_CRM> newUI_CRM() override;
     std::shared_ptr<ConexionCRM> newConexionCRM() override;
     std::shared_ptr<UIProyectos> newUIProyectos() override;
+    std::shared_ptr<CorreoHost> newCorreoHost() override;
+    std::shared_ptr<PersonaRegistro> newPersonaRegistro() override;
 
     HostLog log;
     std::shared_ptr<FakeUICRM> screens; ///< the ones made last
     std::shared_ptr<FakeConexionCRM> holder;
     std::shared_ptr<FakeUIProyectos> projects =
-        std::make_shared<FakeUIProyectos>(log); ///< given out when asked for
+        std::make_shared<FakeUIProyectos>(log);                                   ///< given out when asked for
+    std::shared_ptr<FakeCorreoHost> mail = std::make_shared<FakeCorreoHost>(log); ///< likewise
+    std::shared_ptr<FakePersonaRegistro> person = std::make_shared<FakePersonaRegistro>(log); ///< likewise
 };
 
 } // namespace dn::tests

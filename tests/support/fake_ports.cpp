@@ -74,14 +74,31 @@ void FakeEventLoop::DoEvents()
     if (onYield) onYield();
 }
 
+FakeEventLoop::~FakeEventLoop()
+{
+    for (const Window& window : windows_)
+        ADD_FAILURE() << "a window that never came: " << window.name;
+}
+
+void FakeEventLoop::expectModal(std::string name, std::function<void(screen::Form&)> act)
+{
+    windows_.push_back({std::move(name), std::move(act)});
+}
+
 void FakeEventLoop::ShowModal(screen::Form& form)
 {
-    if (!onModal) {
+    std::function<void(screen::Form&)> act = onModal;
+    if (!windows_.empty()) {
+        EXPECT_EQ(form.name(), windows_.front().name);
+        act = std::move(windows_.front().act);
+        windows_.pop_front();
+    }
+    if (!act) {
         ADD_FAILURE() << "a window that nobody scripted: " << form.name();
         return;
     }
     form.Visible(true);
-    onModal(form);
+    act(form);
     EXPECT_FALSE(form.Visible()) << form.name() << " is still open";
     form.Visible(false);
 }

@@ -81,13 +81,25 @@ private:
 
 class FakeEventLoop : public screen::EventLoop {
 public:
+    ~FakeEventLoop() override;
+
+    /// The next window will be the one of this name; `act` is what the operator does in it. It must end hidden.
+    void expectModal(std::string name, std::function<void(screen::Form&)> act);
+
     void DoEvents() override;
     void ShowModal(screen::Form& form) override;
 
     int yields = 0;
-    std::function<void()> onYield; ///< what the operator does during a yield
-    std::function<void(screen::Form&)>
-        onModal; ///< what the operator does in a window; it fails the test without one
+    std::function<void()> onYield;              ///< what the operator does during a yield
+    std::function<void(screen::Form&)> onModal; ///< what the operator does in a window that was not expected
+
+private:
+    struct Window {
+        std::string name;
+        std::function<void(screen::Form&)> act;
+    };
+
+    std::deque<Window> windows_;
 };
 
 class FakeClock : public screen::Clock {
