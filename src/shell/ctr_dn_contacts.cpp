@@ -3,6 +3,8 @@
 
 #include "shell/ctr_dn_contacts.h"
 
+#include "base/runtime_error.h"
+
 namespace dn {
 
 ctrDnContacts::ctrDnContacts(screen::Ports ports)
@@ -15,6 +17,11 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      partyInHand_(elements_, tabStrip_),
+      listInSight_(elements_, prospectList_),
+      callDecision_(session_, elements_, partyInHand_, prospectStatus_, *this, ports),
+      callOutcomes_(session_, elements_, notes_, callDecision_, listInSight_, ports.dialogs),
+      callFlow_(session_, elements_, partyInHand_, callOutcomes_, ports.dialogs),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_, prospectDetail_, prospectList_),
       agents_(session_, elements_.top, tabs_),
@@ -25,5 +32,12 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
 }
 
 ctrDnContacts::~ctrDnContacts() = default;
+
+void ctrDnContacts::cmdSend_Click() { throw RuntimeError("El correo todavía no está disponible"); }
+
+void ctrDnContacts::Historial(std::int16_t&, std::int32_t&)
+{
+    throw RuntimeError("El historial de correos todavía no está disponible");
+}
 
 } // namespace dn

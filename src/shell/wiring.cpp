@@ -18,6 +18,8 @@ screen::Subscription on(screen::Signal<Arguments...>& event, Room& room, void (R
 
 void ctrDnContacts::wire()
 {
+    using calling::CallFlow;
+    using calling::CallOutcomes;
     using notes::Notes;
     using prospects::ProspectDetail;
     using prospects::ProspectInteraction;
@@ -39,6 +41,18 @@ void ctrDnContacts::wire()
     join(prospects.lvw.ColumnClick, prospectInteraction_, &ProspectInteraction::lvw_ColumnClick);
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
+
+    join(prospects.lvw.DblClick, callOutcomes_, &CallOutcomes::lvw_DblClick);
+    join(detail.cmdCall.Click, callFlow_, &CallFlow::cmdCall_Click);
+    join(call.cmdContesta.Click, callFlow_, &CallFlow::cmdContesta_Click);
+    join(call.cmdOcupado.Click, callFlow_, &CallFlow::cmdOcupado_Click);
+    join(call.cmdNoContestan.Click, callFlow_, &CallFlow::cmdNoContestan_Click);
+    join(call.cmdFueraServ.Click, callFlow_, &CallFlow::cmdFueraServ_Click);
+    join(call.cmdCancelCall.Click, callFlow_, &CallFlow::cmdCancelCall_Click);
+    for (std::int16_t i = 0; i < call.cmdCallCon.Count(); ++i)
+        wires_.push_back(call.cmdCallCon(i).Click.connect([this, i] { callFlow_.cmdCallCon_Click(i); }));
+    join(call.cmdOkCall.Click, callFlow_, &CallFlow::cmdOkCall_Click);
+    join(call.Timer1.TimerEvent, callFlow_, &CallFlow::Timer1_Timer);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);

@@ -14,6 +14,7 @@
 namespace dn::screen::qt {
 
 class FocusKeeper;
+class Shortcuts;
 
 class FormView : public QDialog {
 public:
@@ -36,6 +37,7 @@ private:
     screen::Form* element_;
     Guard& guard_;
     std::unique_ptr<FocusKeeper> focus_;
+    std::unique_ptr<Shortcuts> shortcuts_;
     Subscriptions wires_;
 };
 
