@@ -23,6 +23,10 @@
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
 #include "notes/notes.h"
+#include "projects/phone_choice.h"
+#include "projects/project_commands.h"
+#include "projects/project_detail.h"
+#include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_interaction.h"
 #include "prospects/prospect_list.h"
@@ -181,6 +185,10 @@ private:
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
+    projects::PhoneChoice phoneChoice_;
+    projects::ProjectDetail projectDetail_;
+    projects::ProjectList projectList_;
+    projects::ProjectCommands projectCommands_;
     calling::PartyInHand partyInHand_;
     calling::ListInSight listInSight_;
     calling::CallDecision callDecision_;

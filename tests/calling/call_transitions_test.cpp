@@ -137,9 +137,9 @@ TEST_P(CallEndings, leads_back_to_where_no_call_is)
 }
 
 INSTANTIATE_TEST_SUITE_P(Calls, CallEndings, testing::Combine(testing::ValuesIn(endings()), testing::Bool()),
-                         [](const auto& info) {
-                             return std::string(std::get<0>(info.param).name) +
-                                    (std::get<1>(info.param) ? "_by_the_host" : "_by_the_operator");
+                         [](const auto& ending) {
+                             return std::string(std::get<0>(ending.param).name) +
+                                    (std::get<1>(ending.param) ? "_by_the_host" : "_by_the_operator");
                          });
 
 class CallTransitions : public CallTest {};
