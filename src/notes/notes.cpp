@@ -11,20 +11,6 @@
 #include "desk/timeline.h"
 
 namespace dn::notes {
-namespace {
-
-std::string without(const std::string& text, std::string_view part)
-{
-    std::string result;
-    std::size_t begin = 0;
-    for (std::size_t found = text.find(part); found != std::string::npos; found = text.find(part, begin)) {
-        result.append(text, begin, found - begin);
-        begin = found + part.size();
-    }
-    return result.append(text, begin);
-}
-
-} // namespace
 
 void Notes::cmdIntro_Click() // trap
 {

@@ -15,8 +15,11 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      directoryLoader_(session_, elements_.top, counters_, ports.dialogs),
+      organisations_(elements_.organisations, directoryLoader_, hostScreens_, ports.dialogs),
+      persons_(session_, elements_.persons, directoryLoader_, hostScreens_, ports.dialogs),
       layout_(elements_),
-      tabs_(session_, elements_, tabStrip_, prospectDetail_, prospectList_),
+      tabs_(session_, elements_, tabStrip_, {prospectDetail_, prospectList_, organisations_, persons_}),
       agents_(session_, elements_.top, tabs_),
       startUp_(session_, elements_, agents_, tabs_, ports)
 {

@@ -16,6 +16,9 @@
 #include "desk/session.h"
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
+#include "directories/loader.h"
+#include "directories/organisations.h"
+#include "directories/persons.h"
 #include "notes/notes.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_interaction.h"
@@ -140,6 +143,9 @@ private:
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
+    directories::Loader directoryLoader_;
+    directories::Organisations organisations_;
+    directories::Persons persons_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

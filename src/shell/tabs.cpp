@@ -40,7 +40,7 @@ void Tabs::ShowActiveTab() // continue-on-error
         resumeNext([&] { element->Visible(true); });
     resumeNext([&] { elements_.today.cmdEditHoy.Enabled(false); });
     resumeNext([&] { elements_.today.geProyFromContacto.Enabled(false); });
-    resumeNext([&] { detail_.LimpiaDetalle(); });
+    resumeNext([&] { rooms_.prospectDetail.LimpiaDetalle(); });
     std::int16_t active = desk::none;
     resumeNext([&] { strip_.GetActiveTab(active); });
     showTab(active);
@@ -93,9 +93,11 @@ void Tabs::showTab(std::int16_t index)
         break;
     case desk::organizaciones:
         showDirectory(elements_.organisations.lvwOrganizaciones, elements_.organisations.picOrganizacion);
+        resumeNext([&] { rooms_.organisations.LoadOrganizaciones(); });
         break;
     case desk::contactos:
         showDirectory(elements_.persons.lvwContactos, elements_.persons.picContactos);
+        resumeNext([&] { rooms_.persons.LoadContactos(); });
         break;
     default:
         break;
@@ -112,12 +114,12 @@ void Tabs::showProspects()
     placeInfo(465, 2190);
     const std::uint64_t thisSwitch = switches_;
     resumeNext([&] { // the row that stayed selected fills the detail again, ahead of the load
-        if (const auto selected = prospects.lvw.SelectedItem()) detail_.lvw_ItemClick(selected);
+        if (const auto selected = prospects.lvw.SelectedItem()) rooms_.prospectDetail.lvw_ItemClick(selected);
     });
     if (thisSwitch != switches_) return; // the operator went to another tab while the timeline was read
     resumeNext([&] { prospects.picAdmin.Visible(session_.GAdmon); });
     resumeNext([&] { prospects.lvw.CheckBoxes(session_.GAdmon); });
-    resumeNext([&] { prospectList_.LoadProspectos(); });
+    resumeNext([&] { rooms_.prospectList.LoadProspectos(); });
 }
 
 void Tabs::showProjects()

@@ -8,6 +8,8 @@
 #include "desk/elements.h"
 #include "desk/session.h"
 #include "desk/tab_strip.h"
+#include "directories/organisations.h"
+#include "directories/persons.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_list.h"
 
@@ -15,11 +17,18 @@
 
 namespace dn::shell {
 
+/// The rooms that fill the tabs.
+struct TabRooms {
+    prospects::ProspectDetail& prospectDetail;
+    prospects::ProspectList& prospectList;
+    directories::Organisations& organisations;
+    directories::Persons& persons;
+};
+
 class Tabs {
 public:
-    Tabs(desk::Session& session, desk::Elements& elements, desk::TabStrip& strip,
-         prospects::ProspectDetail& detail, prospects::ProspectList& prospectList)
-        : session_(session), elements_(elements), strip_(strip), detail_(detail), prospectList_(prospectList)
+    Tabs(desk::Session& session, desk::Elements& elements, desk::TabStrip& strip, TabRooms rooms)
+        : session_(session), elements_(elements), strip_(strip), rooms_(rooms)
     {
     }
 
@@ -48,8 +57,7 @@ private:
     desk::Session& session_;
     desk::Elements& elements_;
     desk::TabStrip& strip_;
-    prospects::ProspectDetail& detail_;
-    prospects::ProspectList& prospectList_;
+    TabRooms rooms_;
     std::uint64_t switches_ = 0; // counts the switches, so that one overtaken in a yield knows
 };
 

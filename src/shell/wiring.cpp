@@ -18,6 +18,8 @@ screen::Subscription on(screen::Signal<Arguments...>& event, Room& room, void (R
 
 void ctrDnContacts::wire()
 {
+    using directories::Organisations;
+    using directories::Persons;
     using notes::Notes;
     using prospects::ProspectDetail;
     using prospects::ProspectInteraction;
@@ -39,6 +41,21 @@ void ctrDnContacts::wire()
     join(prospects.lvw.ColumnClick, prospectInteraction_, &ProspectInteraction::lvw_ColumnClick);
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
+
+    join(persons.addContact.Click, persons_, &Persons::addContact_Click);
+    join(persons.editContact.Click, persons_, &Persons::editContact_Click);
+    join(persons.deleteContact.Click, persons_, &Persons::deleteContact_Click);
+    join(persons.showContactRelations.Click, persons_, &Persons::showContactRelations_Click);
+    join(persons.genProyectFromContact.Click, persons_, &Persons::genProyectFromContact_Click);
+    join(persons.lvwContactos.DblClick, persons_, &Persons::lvwContactos_DblClick);
+
+    join(organisations.addOrganization.Click, organisations_, &Organisations::addOrganization_Click);
+    join(organisations.editOrganization.Click, organisations_, &Organisations::editOrganization_Click);
+    join(organisations.deleteOrganization.Click, organisations_, &Organisations::deleteOrganization_Click);
+    join(organisations.showOrganizationRelations.Click, organisations_,
+         &Organisations::showOrganizationRelations_Click);
+    join(organisations.genProyectFromOrganization.Click, organisations_,
+         &Organisations::genProyectFromOrganization_Click);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);

@@ -132,6 +132,17 @@ TEST_F(Tabs, only_the_prospects_are_loaded_by_their_tab)
     EXPECT_THAT(cnn.statements(), testing::SizeIs(1));
 }
 
+TEST_F(Tabs, the_directories_are_loaded_by_theirs)
+{
+    start(7, true);
+    for (const int tab : {3, 3, 4, 3}) {
+        cnn.forgetStatements();
+        click(tab);
+        EXPECT_THAT(cnn.statements(),
+                    ElementsAre(testing::HasSubstr(tab == 3 ? "FROM Organizacion " : "FROM Persona ")));
+    }
+}
+
 TEST_F(Tabs, without_an_active_one_a_change_of_agent_hides_all_lists_and_loads_nothing)
 {
     start(7, true);
