@@ -20,6 +20,10 @@
 #include "directories/organisations.h"
 #include "directories/persons.h"
 #include "notes/notes.h"
+#include "projects/phone_choice.h"
+#include "projects/project_commands.h"
+#include "projects/project_detail.h"
+#include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_interaction.h"
 #include "prospects/prospect_list.h"
@@ -143,6 +147,10 @@ private:
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
+    projects::PhoneChoice phoneChoice_;
+    projects::ProjectDetail projectDetail_;
+    projects::ProjectList projectList_;
+    projects::ProjectCommands projectCommands_;
     directories::Loader directoryLoader_;
     directories::Organisations organisations_;
     directories::Persons persons_;

@@ -127,6 +127,13 @@ void Tabs::showProjects()
     resumeNext([&] { elements_.projects.lvwProy.Visible(true); });
     resumeNext([&] { elements_.top.picColors.Visible(true); });
     placeInfo(15, 2640); // the room of Combo1 goes to the text
+    const std::uint64_t thisSwitch = switches_;
+    resumeNext([&] {
+        if (const auto selected = elements_.projects.lvwProy.SelectedItem())
+            rooms_.projectDetail.lvwProy_ItemClick(selected);
+    });
+    if (thisSwitch != switches_) return; // the operator went to another tab while the timeline was read
+    resumeNext([&] { rooms_.projectList.RefreshProyectos(); });
 }
 
 void Tabs::showToday()

@@ -10,6 +10,8 @@
 #include "desk/tab_strip.h"
 #include "directories/organisations.h"
 #include "directories/persons.h"
+#include "projects/project_detail.h"
+#include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_list.h"
 
@@ -17,10 +19,12 @@
 
 namespace dn::shell {
 
-/// The rooms that fill the tabs.
+/// The rooms whose lists and details the tabs show.
 struct TabRooms {
     prospects::ProspectDetail& prospectDetail;
     prospects::ProspectList& prospectList;
+    projects::ProjectDetail& projectDetail;
+    projects::ProjectList& projectList;
     directories::Organisations& organisations;
     directories::Persons& persons;
 };

@@ -156,7 +156,9 @@ TEST_F(ProspectDesk, a_tab_opened_while_the_timeline_is_read_keeps_its_own_detai
     elements().top.lblItem(0).click(); // its first yield is that of the timeline of the selected row
     EXPECT_EQ(elements().detail.txtBit.Text(), "");
     EXPECT_TRUE(elements().projects.lvwProy.Visible());
-    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("xt_biticontact")));
+    EXPECT_THAT(cnn.statements(),
+                ElementsAre(testing::HasSubstr("xt_biticontact"), testing::HasSubstr("FROM ((((mdtpactividad"),
+                            testing::HasSubstr("FROM ((Proyecto")));
 }
 
 TEST_F(ProspectDesk, a_list_emptied_while_the_timeline_is_read_shows_no_timeline)
