@@ -3,6 +3,8 @@
 
 #include "shell/ctr_dn_contacts.h"
 
+#include "base/runtime_error.h"
+
 namespace dn {
 
 ctrDnContacts::ctrDnContacts(screen::Ports ports)
@@ -15,9 +17,11 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      prospectEditing_(session_, elements_.prospects, elements_.top, prospectList_, *this, ports),
+      assignment_(session_, elements_.prospects, prospectList_, *this, ports),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_, prospectDetail_, prospectList_),
-      agents_(session_, elements_.top, tabs_),
+      agents_(session_, elements_.top, tabs_, ports),
       startUp_(session_, elements_, agents_, tabs_, ports)
 {
     wire();
@@ -25,5 +29,15 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
 }
 
 ctrDnContacts::~ctrDnContacts() = default;
+
+namespace {
+
+constexpr const char* noMail = "El correo todavía no está disponible";
+
+}
+
+void ctrDnContacts::cmdSend_Click() { throw RuntimeError(noMail); }
+
+void ctrDnContacts::Historial(std::int16_t&, std::int32_t&) { throw RuntimeError(noMail); }
 
 } // namespace dn
