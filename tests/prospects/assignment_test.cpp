@@ -3,6 +3,7 @@
 
 // "Asignar": an administrator gives all checked prospects to an agent, an agent passes on the selected one.
 
+#include "screen/list_box.h"
 #include "tests/support/control_fixture.h"
 #include "tests/support/element_tree.h"
 

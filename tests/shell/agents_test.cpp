@@ -3,6 +3,7 @@
 
 // The combo of agents: filling it, selecting by key, and what a selection does.
 
+#include "screen/list_box.h"
 #include "tests/support/control_fixture.h"
 #include "tests/support/element_tree.h"
 
