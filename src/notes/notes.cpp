@@ -60,7 +60,8 @@ screen::ListView* Notes::targetList()
     case desk::hoy: {
         const auto row = elements_.today.lvwHoy.SelectedItem();
         if (!row) return nullptr;
-        return row->Text() == "Contacto" ? &lvw : &lvwProy;
+        todayPanel_.lvwHoy_ItemClick(row); // selects the record that the row points to
+        return row->Text() == today::prospectType ? &lvw : &lvwProy;
     }
     default:
         return &lvw;

@@ -12,7 +12,6 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       counters_(elements_),
       timeline_(session_, elements_, ports),
       hostScreens_(session_),
-      notes_(session_, elements_, tabStrip_, ports),
       prospectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_),
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
@@ -23,14 +22,19 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
       projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
+      todayPanel_(elements_, prospectDetail_, projectDetail_, *this),
+      queue_(session_, elements_, tabStrip_, todayPanel_, counters_, ports.clock),
+      todayCommands_(elements_.today, queue_, prospectEditing_, hostScreens_),
+      search_(elements_, prospectDetail_, projectDetail_, ports.dialogs),
+      notes_(session_, elements_, tabStrip_, todayPanel_, ports),
       directoryLoader_(session_, elements_.top, counters_, ports.dialogs),
       organisations_(elements_.organisations, directoryLoader_, hostScreens_, ports.dialogs),
       persons_(session_, elements_.persons, directoryLoader_, hostScreens_, ports.dialogs),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_,
-            {prospectDetail_, prospectList_, projectDetail_, projectList_, organisations_, persons_}),
+            {prospectDetail_, prospectList_, projectDetail_, projectList_, queue_, organisations_, persons_}),
       agents_(session_, elements_.top, tabs_, ports),
-      startUp_(session_, elements_, agents_, tabs_, ports)
+      startUp_(session_, elements_, agents_, tabs_, queue_, ports)
 {
     wire();
     startUp_.UserControl_Initialize();

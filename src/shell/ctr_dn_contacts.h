@@ -37,6 +37,10 @@
 #include "shell/layout.h"
 #include "shell/start_up.h"
 #include "shell/tabs.h"
+#include "today/queue.h"
+#include "today/search.h"
+#include "today/today_commands.h"
+#include "today/today_panel.h"
 
 #include <any>
 #include <cstdint>
@@ -124,6 +128,10 @@ public:
     /// @throws data::Error when the agents cannot be read; RuntimeError before SetObjects.
     void RefreshData() { startUp_.RefreshData(); }
 
+    /// Loads the queue of the day anew for the agent in view, and takes the status filters of prospects and
+    /// projects back to their first entries. Does nothing else while no single agent is in view.
+    void RefreshRobot() { queue_.RefreshRobot(); }
+
     /// Selects an agent by key; an unknown key changes nothing. The key 0, "< Sin asignar >", is the
     /// administrators'.
     void SelAgente(std::int32_t PK) { agents_.SelAgente(PK); }
@@ -152,7 +160,6 @@ private:
     desk::Counters counters_;
     desk::Timeline timeline_;
     desk::HostScreens hostScreens_;
-    notes::Notes notes_;
     prospects::ProspectDetail prospectDetail_;
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
@@ -163,6 +170,11 @@ private:
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;
     projects::ProjectCommands projectCommands_;
+    today::TodayPanel todayPanel_;
+    today::Queue queue_;
+    today::TodayCommands todayCommands_;
+    today::Search search_;
+    notes::Notes notes_;
     directories::Loader directoryLoader_;
     directories::Organisations organisations_;
     directories::Persons persons_;

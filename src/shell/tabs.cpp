@@ -141,6 +141,7 @@ void Tabs::showToday()
     resumeNext([&] { elements_.today.lvwHoy.Visible(true); });
     resumeNext([&] { elements_.today.picHoy.Visible(true); });
     placeInfo(15, 2640);
+    resumeNext([&] { rooms_.queue.RefreshRobot(); });
 }
 
 void Tabs::showDirectory(screen::ListView& list, screen::PicturePanel& panel)

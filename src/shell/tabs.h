@@ -14,6 +14,7 @@
 #include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_list.h"
+#include "today/queue.h"
 
 #include <cstdint>
 
@@ -25,6 +26,7 @@ struct TabRooms {
     prospects::ProspectList& prospectList;
     projects::ProjectDetail& projectDetail;
     projects::ProjectList& projectList;
+    today::Queue& queue;
     directories::Organisations& organisations;
     directories::Persons& persons;
 };

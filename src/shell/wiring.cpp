@@ -29,6 +29,9 @@ void ctrDnContacts::wire()
     using prospects::ProspectEditing;
     using prospects::ProspectInteraction;
     using prospects::ProspectStatus;
+    using today::Search;
+    using today::TodayCommands;
+    using today::TodayPanel;
     const auto join = [this](auto& event, auto& room, auto handler) {
         wires_.push_back(on(event, room, handler));
     };
@@ -58,6 +61,14 @@ void ctrDnContacts::wire()
     join(projects.cmdProjSeekProj.Click, projectCommands_, &ProjectCommands::cmdProjSeekProj_Click);
     join(projects.cmdProjNewContact.Click, projectCommands_, &ProjectCommands::cmdProjNewContact_Click);
     join(projects.cmdProjNewOrg.Click, projectCommands_, &ProjectCommands::cmdProjNewOrg_Click);
+
+    join(today.lvwHoy.ItemClick, todayPanel_, &TodayPanel::lvwHoy_ItemClick);
+    join(today.lvwHoy.DblClick, todayCommands_, &TodayCommands::lvwHoy_DblClick);
+    join(today.cmdEditHoy.Click, todayCommands_, &TodayCommands::cmdEditHoy_Click);
+    join(today.Command7.Click, todayPanel_, &TodayPanel::Command7_Click);
+
+    join(top.cmdOkBuscar.Click, search_, &Search::cmdOkBuscar_Click);
+    join(top.txtBuscar.KeyPress, search_, &Search::txtBuscar_KeyPress);
 
     join(persons.addContact.Click, persons_, &Persons::addContact_Click);
     join(persons.editContact.Click, persons_, &Persons::editContact_Click);
