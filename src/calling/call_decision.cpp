@@ -21,6 +21,9 @@ void CallDecision::Call_QueHacer() // continue-on-error
     case Party::prospect:
         ask();
         return;
+    case Party::project: // its screen opens in the place of any question
+        resumeNext([&] { projects_.cmdNewProjEditProj_Click(); });
+        return;
     }
 }
 
@@ -68,13 +71,12 @@ void CallDecision::schedule() // continue-on-error
 
 void CallDecision::selectStatus(int position) // continue-on-error
 {
-    screen::ComboBox& Combo1 = elements_.detail.Combo1;
     session_.StatusCambiado = false;
     resumeNext([&] {
-        if (Combo1.ListIndex() == position)
+        if (Combo1_.ListIndex() == position)
             status_.Combo1_Click();
         else
-            Combo1.ListIndex(position);
+            Combo1_.ListIndex(position);
     });
 }
 

@@ -6,10 +6,11 @@
 #pragma once
 
 #include "calling/party_in_hand.h"
-#include "desk/elements.h"
 #include "desk/public_operations.h"
 #include "desk/session.h"
+#include "projects/project_commands.h"
 #include "prospects/prospect_status.h"
+#include "screen/combo_box.h"
 #include "screen/ports.h"
 
 #include <cstdint>
@@ -18,9 +19,16 @@ namespace dn::calling {
 
 class CallDecision {
 public:
-    CallDecision(desk::Session& session, desk::Elements& elements, PartyInHand& party,
-                 prospects::ProspectStatus& status, desk::PublicOperations& control, screen::Ports ports)
-        : session_(session), elements_(elements), party_(party), status_(status), control_(control), ports_(ports)
+    CallDecision(desk::Session& session, screen::ComboBox& Combo1, PartyInHand& party,
+                 prospects::ProspectStatus& status, projects::ProjectCommands& projects,
+                 desk::PublicOperations& control, screen::Ports ports)
+        : session_(session),
+          Combo1_(Combo1),
+          party_(party),
+          status_(status),
+          projects_(projects),
+          control_(control),
+          ports_(ports)
     {
     }
 
@@ -36,9 +44,10 @@ private:
     void selectStatus(int position);
 
     desk::Session& session_;
-    desk::Elements& elements_;
+    screen::ComboBox& Combo1_;
     PartyInHand& party_;
     prospects::ProspectStatus& status_;
+    projects::ProjectCommands& projects_;
     desk::PublicOperations& control_;
     screen::Ports ports_;
 };

@@ -60,6 +60,9 @@ void CallFlow::cmdCall_Click() // no trap
     case Party::prospect:
         callProspect();
         break;
+    case Party::project:
+        callProject();
+        break;
     }
     if (elements_.call.cmdContesta.usable()) elements_.call.cmdContesta.SetFocus();
 }
@@ -72,6 +75,17 @@ void CallFlow::callProspect() // no trap
         return;
     }
     IniciarLlamada("ut_icontact", desk::keyNumber(*row), std::string(row->ListSubItems()(telephones).Text()));
+}
+
+// The number is the one that the last click on a project found, whichever project that was.
+void CallFlow::callProject() // no trap
+{
+    const auto row = elements_.projects.lvwProy.SelectedItem();
+    if (!row) {
+        dialogs_.say("Seleccione un proyecto");
+        return;
+    }
+    IniciarLlamada("Proyecto", desk::keyNumber(*row), session_.Call_Tel);
 }
 
 void CallFlow::cmdContesta_Click() // continue-on-error

@@ -50,6 +50,7 @@ public:
 
 private:
     void callProspect();
+    void callProject();
     void lockLists();
     void showRinging();
 

@@ -24,6 +24,12 @@ void ListInSight::Call_RefreshList() // continue-on-error
     if (elements_.prospects.lvw.Visible()) {
         resumeNext([&] { prospectList_.LoadProspectos(); });
         showCount(elements_.top.lblCuenta, elements_.prospects.lvw);
+    } else if (elements_.projects.lvwProy.Visible()) {
+        resumeNext([&] { projectList_.RefreshProyectos(); });
+        showCount(elements_.top.lblCuenta, elements_.projects.lvwProy);
+    } else {
+        resumeNext([&] { queue_.RefreshRobot(); });
+        showCount(elements_.today.lblcuenta2, elements_.today.lvwHoy);
     }
 }
 

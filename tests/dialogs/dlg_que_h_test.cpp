@@ -5,29 +5,18 @@
 
 #include "dialogs/dlg_que_h.h"
 #include "tests/support/fake_ports.h"
+#include "tests/support/public_operations.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <stdexcept>
+#include <cstdint>
 
 namespace dn::tests {
 namespace {
 
-struct Contenedor : desk::PublicOperations {
-    void cmdSend_Click() override
-    {
-        ++mails;
-        if (fails) throw std::runtime_error("sin correo");
-    }
-    void Historial(std::int16_t&, std::int32_t&) override {}
-
-    int mails = 0;
-    bool fails = false;
-};
-
 struct WhatNext : testing::Test {
-    WhatNext() { dialog.Contenedor = &contenedor; }
+    WhatNext() { dialog.Contenedor = &control; }
 
     void show(const std::function<void()>& act)
     {
@@ -39,7 +28,7 @@ struct WhatNext : testing::Test {
     }
 
     FakePorts ports;
-    Contenedor contenedor;
+    FakeOperations control;
     dialogs::dlgQueH dialog{ports.ports()};
 };
 
@@ -65,12 +54,12 @@ TEST_F(WhatNext, opens_with_nothing_marked)
 TEST_F(WhatNext, gives_the_number_of_the_marked_option)
 {
     std::int16_t number = 1;
-    for (auto dlgQueH_option : {&dialogs::dlgQueH::Option1, &dialogs::dlgQueH::Option2, &dialogs::dlgQueH::Option3,
-                                &dialogs::dlgQueH::Option4}) {
+    for (auto option : {&dialogs::dlgQueH::Option1, &dialogs::dlgQueH::Option2, &dialogs::dlgQueH::Option3,
+                        &dialogs::dlgQueH::Option4}) {
         dialogs::dlgQueH fresh(ports.ports());
         ports.events.expectModal("dlgQueH", [&](screen::Form&) {
             fresh.Option4.choose(); // a change of mind
-            (fresh.*dlgQueH_option).choose();
+            (fresh.*option).choose();
             fresh.cmdOk.press();
         });
         fresh.Show();
@@ -104,14 +93,14 @@ TEST_F(WhatNext, writes_mails_and_stays)
     show([&] {
         dialog.Option3.choose();
         dialog.cmdMail.press();
-        contenedor.fails = true;
+        control.failing = true;
         dialog.cmdMail.press();
         dialog.Contenedor = nullptr;
         dialog.cmdMail.press();
         EXPECT_TRUE(dialog.Option3.Value());
         EXPECT_TRUE(dialog.cmdOk.usable());
     });
-    EXPECT_EQ(contenedor.mails, 2);
+    EXPECT_THAT(control.calls, testing::ElementsAre("cmdSend_Click", "cmdSend_Click"));
     EXPECT_EQ(dialog.Opcion, 0);
 }
 
