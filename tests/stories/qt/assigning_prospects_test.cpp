@@ -33,6 +33,7 @@ TEST_F(AssigningAtTheWindow, an_agent_passes_one_on_with_the_keyboard_alone)
         EXPECT_EQ(focus(), "cbAgente");
         EXPECT_THAT(tabOrder(window), ElementsAre("cbAgente", "Command1", "Command2"));
         key(Qt::Key_Return); // none is selected yet
+        backTo(window);
         EXPECT_EQ(focus(), "cbAgente");
         writes("be");
         EXPECT_EQ(widgetIn<QListView>(window, "cbAgente").currentIndex().data().toString(),

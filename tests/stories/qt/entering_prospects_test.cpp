@@ -96,9 +96,13 @@ TEST_F(EnteringAtTheWindow, what_is_missing_is_told_and_the_keyboard_goes_there)
     hands.expect("dlgNuevoPros", [&](QWidget& window) {
         writes("Luz");
         key(Qt::Key_Return); // in a field of one line Enter accepts
+        backTo(window);
         EXPECT_EQ(focus(), "txtNombre");
         writes(" Luna");
-        key(Qt::Key_A, Qt::AltModifier); // the accelerator too
+        key(Qt::Key_A, Qt::AltModifier); // the accelerator too; the button shows itself pressed for a while
+        const QWidget* const phone = &widgetIn<QLineEdit>(window, "txtTelefono");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.focusWidget() == phone; }, 5000));
+        backTo(window);
         EXPECT_EQ(focus(), "txtTelefono");
         EXPECT_EQ(widgetIn<QLineEdit>(window, "txtNombre").text(), QStringLiteral("Luz Luna"));
         key(Qt::Key_C, Qt::AltModifier);
@@ -234,6 +238,7 @@ TEST_F(EnteringAtTheWindow, an_apostrophe_in_a_correction_is_told_over_its_windo
         key(Qt::Key_End);
         writes(" d'Arc");
         key(Qt::Key_Return);
+        backTo(window);
         EXPECT_EQ(widgetIn<QLineEdit>(window, "txtNombre").text(), QStringLiteral("Juana d'Arc"));
         key(Qt::Key_Escape);
     });

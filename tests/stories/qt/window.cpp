@@ -54,7 +54,16 @@ void AtTheWindow::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
     QApplication::processEvents();
 }
 
-void AtTheWindow::writes(const char* text) { presses(*QApplication::focusWidget(), QString::fromUtf8(text)); }
+void AtTheWindow::writes(const char* text)
+{
+    dn::tests::presses(*QApplication::focusWidget(), QString::fromUtf8(text));
+}
+
+void AtTheWindow::backTo(QWidget& window)
+{
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
 
 std::string AtTheWindow::focus()
 {

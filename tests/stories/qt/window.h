@@ -43,6 +43,8 @@ protected:
 
     static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     static void writes(const char* text);
+    /// Gives a window the keyboard back after a box stood over it: without a window manager nobody else does.
+    static void backTo(QWidget& window);
     /// The name of the widget with the focus.
     static std::string focus();
     static std::string boxText(const QWidget& box);
