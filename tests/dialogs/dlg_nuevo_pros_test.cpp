@@ -356,6 +356,25 @@ TEST_F(NewProspect, a_name_that_holds_a_marker_takes_its_value_in)
                 HasSubstr("'soy 'maria@example.com'', 'maria@example.com', '961 111 1111', 'Acme', '@uf_Nombre'"));
 }
 
+TEST_F(NewProspect, fills_the_markers_in_the_order_of_the_columns)
+{
+    show([&] {
+        fillIn();
+        // Each text holds the marker of the column behind its own: none of them is left over.
+        dialog.txtNombre.edit("nom @uf_EMail");
+        dialog.txtCorreo.edit("a @uf_Telefono");
+        dialog.txtTelefono.edit("tel @uf_Empresa");
+        dialog.txtEmpresa.edit("@uf_Puesto");
+        dialog.txtPuesto.edit("@uf_Pais @uf_Estado");
+        dialog.cCiudad.edit("@uf_Interes");
+        dialog.cInteres.edit("@uf_Comentarios");
+        dialog.cNotas.edit("@uf_iejecutivo @uf_status @uf_tipo @uf_color @uf_redirect");
+        dialog.cmdOk.press();
+    });
+    EXPECT_THAT(cnn.statements().front(), testing::Not(HasSubstr("@uf_")));
+    EXPECT_THAT(cnn.statements().front(), HasSubstr("7 0 1 0 'URL_Directo'"));
+}
+
 // ---- Failures
 
 TEST_F(NewProspect, that_the_database_refuses_stays_on_the_screen)
