@@ -18,6 +18,10 @@
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
 #include "notes/notes.h"
+#include "projects/phone_choice.h"
+#include "projects/project_commands.h"
+#include "projects/project_detail.h"
+#include "projects/project_list.h"
 #include "prospects/assignment.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_editing.h"
@@ -152,6 +156,10 @@ private:
     prospects::ProspectStatus prospectStatus_;
     prospects::ProspectEditing prospectEditing_;
     prospects::Assignment assignment_;
+    projects::PhoneChoice phoneChoice_;
+    projects::ProjectDetail projectDetail_;
+    projects::ProjectList projectList_;
+    projects::ProjectCommands projectCommands_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;
