@@ -93,7 +93,9 @@ TEST_F(TodayCommands, a_double_click_edits)
 
 TEST_F(TodayCommands, nothing_is_edited_without_a_row)
 {
+    choose("K1");
     lvwHoy().ListItems()("K1").Selected(false);
+    cnn.forgetStatements();
     lvwHoy().doubleClickEmpty();
     edit().press();
     EXPECT_THAT(cnn.statements(), IsEmpty());
