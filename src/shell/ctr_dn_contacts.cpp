@@ -15,6 +15,8 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      prospectConversion_(session_, elements_.prospects, prospectList_, hostScreens_, ports.dialogs),
+      colourMarks_(session_, elements_.prospects, elements_.projects, elements_.top, tabStrip_, ports.dialogs),
       phoneChoice_(session_),
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),

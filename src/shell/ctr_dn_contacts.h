@@ -21,6 +21,8 @@
 #include "projects/project_commands.h"
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
+#include "prospects/colour_marks.h"
+#include "prospects/prospect_conversion.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_interaction.h"
 #include "prospects/prospect_list.h"
@@ -144,6 +146,8 @@ private:
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
+    prospects::ProspectConversion prospectConversion_;
+    prospects::ColourMarks colourMarks_;
     projects::PhoneChoice phoneChoice_;
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;

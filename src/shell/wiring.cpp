@@ -22,6 +22,7 @@ void ctrDnContacts::wire()
     using projects::ProjectCommands;
     using projects::ProjectDetail;
     using projects::ProjectList;
+    using prospects::ProspectConversion;
     using prospects::ProspectDetail;
     using prospects::ProspectInteraction;
     using prospects::ProspectStatus;
@@ -42,6 +43,10 @@ void ctrDnContacts::wire()
     join(prospects.lvw.ColumnClick, prospectInteraction_, &ProspectInteraction::lvw_ColumnClick);
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
+
+    join(prospects.cmdProsNewProj.Click, prospectConversion_, &ProspectConversion::cmdProsNewProj_Click);
+    for (std::int16_t i = 0; i < top.bColor.Count(); ++i)
+        wires_.push_back(top.bColor(i).Click.connect([this, i] { colourMarks_.bColor_Click(i); }));
 
     join(projects.cbProjStatusProj.Click, projectList_, &ProjectList::cbProjStatusProj_Click);
     join(projects.lvwProy.ItemClick, projectDetail_, &ProjectDetail::lvwProy_ItemClick);
