@@ -61,6 +61,23 @@ TEST_F(ProspectDesk, a_click_unlocks_what_needs_a_row)
     EXPECT_TRUE(elements().detail.cmdIntro.Enabled());
 }
 
+TEST_F(ProspectDesk, an_empty_list_empties_and_locks_the_detail_and_keeps_the_note)
+{
+    show({prospect(1, {{"uf_Nombre", text("María")}, {"uf_color", whole(1)}})});
+    elements().detail.txtBit.Text("lo anterior");
+    elements().detail.txtText.Text("a medias");
+    ASSERT_NE(elements().detail.txtInfo.Text(), "");
+    prospects({});
+    reload();
+    EXPECT_EQ(elements().detail.txtInfo.Text(), "");
+    EXPECT_EQ(elements().detail.txtBit.Text(), "");
+    EXPECT_FALSE(elements().detail.Combo1.Enabled());
+    EXPECT_FALSE(elements().detail.txtText.Enabled());
+    EXPECT_FALSE(elements().detail.cmdIntro.Enabled());
+    EXPECT_EQ(elements().detail.txtText.Text(), "a medias");
+    EXPECT_EQ(elements().top.picColors.BackColor(), 0x0000FFU) << "the colour of the mark shown last stays";
+}
+
 TEST_F(ProspectDesk, the_swatch_shows_the_mark_of_the_row)
 {
     show({prospect(1, {{"uf_color", whole(3)}}), prospect(2)});
