@@ -26,6 +26,8 @@
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
 #include "prospects/assignment.h"
+#include "prospects/colour_marks.h"
+#include "prospects/prospect_conversion.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_editing.h"
 #include "prospects/prospect_interaction.h"
@@ -166,6 +168,8 @@ private:
     prospects::ProspectStatus prospectStatus_;
     prospects::ProspectEditing prospectEditing_;
     prospects::Assignment assignment_;
+    prospects::ProspectConversion prospectConversion_;
+    prospects::ColourMarks colourMarks_;
     projects::PhoneChoice phoneChoice_;
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;
