@@ -17,12 +17,17 @@
 #include "desk/session.h"
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
+#include "directories/loader.h"
+#include "directories/organisations.h"
+#include "directories/persons.h"
 #include "notes/notes.h"
 #include "projects/phone_choice.h"
 #include "projects/project_commands.h"
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
 #include "prospects/assignment.h"
+#include "prospects/colour_marks.h"
+#include "prospects/prospect_conversion.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_editing.h"
 #include "prospects/prospect_interaction.h"
@@ -34,6 +39,10 @@
 #include "shell/layout.h"
 #include "shell/start_up.h"
 #include "shell/tabs.h"
+#include "today/queue.h"
+#include "today/search.h"
+#include "today/today_commands.h"
+#include "today/today_panel.h"
 
 #include <any>
 #include <cstdint>
@@ -121,6 +130,10 @@ public:
     /// @throws data::Error when the agents cannot be read; RuntimeError before SetObjects.
     void RefreshData() { startUp_.RefreshData(); }
 
+    /// Loads the queue of the day anew for the agent in view, and takes the status filters of prospects and
+    /// projects back to their first entries. Does nothing else while no single agent is in view.
+    void RefreshRobot() { queue_.RefreshRobot(); }
+
     /// Selects an agent by key; an unknown key changes nothing. The key 0, "< Sin asignar >", is the
     /// administrators'.
     void SelAgente(std::int32_t PK) { agents_.SelAgente(PK); }
@@ -149,17 +162,26 @@ private:
     desk::Counters counters_;
     desk::Timeline timeline_;
     desk::HostScreens hostScreens_;
-    notes::Notes notes_;
     prospects::ProspectDetail prospectDetail_;
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
     prospects::ProspectEditing prospectEditing_;
     prospects::Assignment assignment_;
+    prospects::ProspectConversion prospectConversion_;
+    prospects::ColourMarks colourMarks_;
     projects::PhoneChoice phoneChoice_;
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;
     projects::ProjectCommands projectCommands_;
+    today::TodayPanel todayPanel_;
+    today::Queue queue_;
+    today::TodayCommands todayCommands_;
+    today::Search search_;
+    notes::Notes notes_;
+    directories::Loader directoryLoader_;
+    directories::Organisations organisations_;
+    directories::Persons persons_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

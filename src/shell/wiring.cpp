@@ -18,15 +18,21 @@ screen::Subscription on(screen::Signal<Arguments...>& event, Room& room, void (R
 
 void ctrDnContacts::wire()
 {
+    using directories::Organisations;
+    using directories::Persons;
     using notes::Notes;
     using projects::ProjectCommands;
     using projects::ProjectDetail;
     using projects::ProjectList;
     using prospects::Assignment;
+    using prospects::ProspectConversion;
     using prospects::ProspectDetail;
     using prospects::ProspectEditing;
     using prospects::ProspectInteraction;
     using prospects::ProspectStatus;
+    using today::Search;
+    using today::TodayCommands;
+    using today::TodayPanel;
     const auto join = [this](auto& event, auto& room, auto handler) {
         wires_.push_back(on(event, room, handler));
     };
@@ -48,6 +54,10 @@ void ctrDnContacts::wire()
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
 
+    join(prospects.cmdProsNewProj.Click, prospectConversion_, &ProspectConversion::cmdProsNewProj_Click);
+    for (std::int16_t i = 0; i < top.bColor.Count(); ++i)
+        wires_.push_back(top.bColor(i).Click.connect([this, i] { colourMarks_.bColor_Click(i); }));
+
     join(projects.cbProjStatusProj.Click, projectList_, &ProjectList::cbProjStatusProj_Click);
     join(projects.lvwProy.ItemClick, projectDetail_, &ProjectDetail::lvwProy_ItemClick);
     join(projects.lvwProy.DblClick, projectCommands_, &ProjectCommands::lvwProy_DblClick);
@@ -56,6 +66,30 @@ void ctrDnContacts::wire()
     join(projects.cmdProjSeekProj.Click, projectCommands_, &ProjectCommands::cmdProjSeekProj_Click);
     join(projects.cmdProjNewContact.Click, projectCommands_, &ProjectCommands::cmdProjNewContact_Click);
     join(projects.cmdProjNewOrg.Click, projectCommands_, &ProjectCommands::cmdProjNewOrg_Click);
+
+    join(today.lvwHoy.ItemClick, todayPanel_, &TodayPanel::lvwHoy_ItemClick);
+    join(today.lvwHoy.DblClick, todayCommands_, &TodayCommands::lvwHoy_DblClick);
+    join(today.cmdEditHoy.Click, todayCommands_, &TodayCommands::cmdEditHoy_Click);
+    join(today.geProyFromContacto.Click, todayCommands_, &TodayCommands::geProyFromContacto_Click);
+    join(today.Command7.Click, todayPanel_, &TodayPanel::Command7_Click);
+
+    join(top.cmdOkBuscar.Click, search_, &Search::cmdOkBuscar_Click);
+    join(top.txtBuscar.KeyPress, search_, &Search::txtBuscar_KeyPress);
+
+    join(persons.addContact.Click, persons_, &Persons::addContact_Click);
+    join(persons.editContact.Click, persons_, &Persons::editContact_Click);
+    join(persons.deleteContact.Click, persons_, &Persons::deleteContact_Click);
+    join(persons.showContactRelations.Click, persons_, &Persons::showContactRelations_Click);
+    join(persons.genProyectFromContact.Click, persons_, &Persons::genProyectFromContact_Click);
+    join(persons.lvwContactos.DblClick, persons_, &Persons::lvwContactos_DblClick);
+
+    join(organisations.addOrganization.Click, organisations_, &Organisations::addOrganization_Click);
+    join(organisations.editOrganization.Click, organisations_, &Organisations::editOrganization_Click);
+    join(organisations.deleteOrganization.Click, organisations_, &Organisations::deleteOrganization_Click);
+    join(organisations.showOrganizationRelations.Click, organisations_,
+         &Organisations::showOrganizationRelations_Click);
+    join(organisations.genProyectFromOrganization.Click, organisations_,
+         &Organisations::genProyectFromOrganization_Click);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);

@@ -61,7 +61,7 @@ protected:
     }
 };
 
-TEST_F(Rights, are_nine_grants) { EXPECT_THAT(documentedGrants(), SizeIs(9)); }
+TEST_F(Rights, are_seventeen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(17)); }
 
 TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
 {
@@ -112,17 +112,59 @@ TEST_F(Rights, suffice_for_entering_correcting_and_assigning)
                 SizeIs(1));
 }
 
+TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
+{
+    for (const char* table : {"Proyecto", "actividad", "Persona", "Organizacion"})
+        database(std::string("DELETE FROM ") + table);
+    prospect("María");
+    database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
+    database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
+    database("INSERT INTO Persona (Sys_PK, Nombre) VALUES (1, 'Luz')");
+    database(
+        "INSERT INTO Proyecto (IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) VALUES (7, 1, 1, 1, 1)");
+    enters(ana);
+    opensTab(desk::hoy);
+    EXPECT_EQ(sees("lblcuenta2"), "Hoy: 2 actividades | Proyectos: 1 Contactos: 1");
+}
+
+TEST_F(Rights, suffice_for_the_directories)
+{
+    database("DELETE FROM Persona");
+    database("DELETE FROM Organizacion");
+    database("INSERT INTO Persona (Nombre, IEjecutivo) VALUES ('Luz', 7)");
+    database("INSERT INTO Organizacion (Nombre, IEjecutivo) VALUES ('Aceros', 7)");
+    enters(ana);
+    opensTab(desk::contactos);
+    EXPECT_EQ(sees("lblInfoContacto"), "Contactos: 1.");
+    opensTab(desk::organizaciones);
+    EXPECT_EQ(sees("lblinfoOrganizacion"), "Organizaciones: 1.");
+}
+
 TEST_F(Rights, allow_nothing_else)
 {
     prospect("María");
-    for (const char* statement :
-         {"DROP TABLE ut_icontact", "DELETE FROM ut_icontact", "DELETE FROM xt_biticontact",
-          "UPDATE xt_biticontact SET uf_Mensaje = 'otra cosa'", "UPDATE ut_icontact SET uf_Redirect = 'x'",
-          "INSERT INTO ut_icontact (uf_contactado) VALUES (1)", "DELETE FROM ut_OrigenContacto",
-          "UPDATE ut_InteresContacto SET uf_Interes = 'x'", "SELECT * FROM Persona", "SELECT * FROM Proyecto",
-          "UPDATE Agente SET Nombre = 'x'", "CREATE TABLE x (y INT)", "ALTER TABLE ut_icontact ADD x INT",
-          "TRUNCATE xt_biticontact", "SELECT * FROM mysql.user", "CREATE USER intruso",
-          "GRANT ALL ON *.* TO 'fuerza'@'%'"})
+    for (const char* statement : {"DROP TABLE ut_icontact",
+                                  "DELETE FROM ut_icontact",
+                                  "DELETE FROM xt_biticontact",
+                                  "UPDATE xt_biticontact SET uf_Mensaje = 'otra cosa'",
+                                  "UPDATE ut_icontact SET uf_Redirect = 'x'",
+                                  "INSERT INTO ut_icontact (uf_contactado) VALUES (1)",
+                                  "DELETE FROM ut_OrigenContacto",
+                                  "UPDATE ut_InteresContacto SET uf_Interes = 'x'",
+                                  "SELECT * FROM Persona",
+                                  "UPDATE Persona SET Nombre = 'x'",
+                                  "DELETE FROM Organizacion",
+                                  "SELECT Notas FROM Organizacion",
+                                  "SELECT * FROM Proyecto",
+                                  "UPDATE actividad SET Hecho = 1",
+                                  "DELETE FROM Proyecto",
+                                  "UPDATE Agente SET Nombre = 'x'",
+                                  "CREATE TABLE x (y INT)",
+                                  "ALTER TABLE ut_icontact ADD x INT",
+                                  "TRUNCATE xt_biticontact",
+                                  "SELECT * FROM mysql.user",
+                                  "CREATE USER intruso",
+                                  "GRANT ALL ON *.* TO 'fuerza'@'%'"})
         EXPECT_TRUE(isDenied(statement)) << statement;
 }
 
