@@ -63,6 +63,28 @@ protected:
 
 TEST_F(Rights, are_seventeen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(17)); }
 
+TEST_F(Rights, suffice_for_calls)
+{
+    prospect("María", {{"uf_Telefono", "'1'"}});
+    enters(ana);
+    for (int call = 0; call < 2; ++call)
+        ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
+    control.IniciarLlamada("ut_icontact", 1, "1");
+    presses("cmdCancelCall");
+    presses("cmdCall");
+    control.Call_Resumen("todo bien");
+    EXPECT_THAT(inTheDatabase("SELECT uf_res_ultimointento + uf_contactado FROM ut_icontact WHERE uf_primercontac "
+                              "IS NOT NULL AND uf_ultimocontac IS NOT NULL AND uf_ultimointento IS NOT NULL"),
+                ElementsAre("51"));
+    cnn->execute("UPDATE ut_icontact SET uf_proxcontac = NULL");
+    for (const char* statement :
+         {"UPDATE Proyecto SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where Sys_PK=1 and "
+          "isnull(uf_contactado)",
+          "UPDATE Proyecto SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, uf_ultimocontac = "
+          "CURRENT_TIMESTAMP Where Sys_PK = 1"})
+        cnn->execute(statement);
+}
+
 TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
 {
     prospect("María");
