@@ -66,7 +66,7 @@ TEST_F(HostObjects, what_is_not_there_yet_says_so_and_changes_nothing)
     expectNotAvailable();
     crm->MostrarRelaciones(kind, key, caption);
     expectNotAvailable();
-    projects->EditarProyecto(1);
+    
     EXPECT_EQ(value("SELECT COUNT(*) FROM Persona"), "2");
     EXPECT_EQ(value("SELECT COUNT(*) FROM Organizacion"), "2");
 }
