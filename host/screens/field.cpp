@@ -13,7 +13,7 @@
 namespace dn::host {
 namespace {
 
-constexpr const char* isoFormat = "yyyy-MM-dd HH:mm:ss";
+constexpr const char* isoFormat = "yyyy-MM-dd HH:mm:00"; // what was typed has no seconds
 constexpr const char* shownFormat = "dd/MM/yyyy HH:mm";
 
 QDateTime momentOf(const std::string& value)
