@@ -15,16 +15,18 @@ namespace {
 
 constexpr std::size_t lettersForAnywhere = 3;
 constexpr auto room = static_cast<std::size_t>(searchLimit);
-// A slice of so many keys takes some ten milliseconds. Keys with wide gaps must not make slices without end.
-constexpr std::int64_t keysOfSlice = 10'000;
+// A slice of so many keys takes some milliseconds. Keys with wide gaps must not make slices without end.
+constexpr std::int64_t keysOfSlice = 4'000;
 constexpr std::int64_t mostSlices = 64;
 
-/// The text as it stands, for LIKE. A bracket opens a set of letters on SQL Server.
-std::string escaped(std::string_view text)
+/// The words of a text as they stand, for LIKE; others may lie between them, so that "ana lópez" fits Ana María
+/// López. A bracket opens a set of letters on SQL Server.
+std::string patternOf(std::string_view text)
 {
     std::string pattern;
     for (const char c : text) {
         if (c == '%' || c == '_' || c == '[' || c == '!') pattern += '!';
+        if (c == ' ') pattern += '%';
         pattern += c;
     }
     return pattern;
@@ -69,7 +71,7 @@ void addNew(std::vector<Entity>& found, std::vector<Entity> more)
 void EntitySearch::begin(const std::string& text)
 {
     const std::string_view wanted = trimmed(text);
-    pattern_ = escaped(wanted);
+    pattern_ = patternOf(wanted);
     slices_.clear();
     found_.clear();
     elsewhere_.clear();
@@ -90,7 +92,7 @@ void EntitySearch::addBeginnings(const std::string& text)
     if (scope_.persons) add(names, personsFrom(pattern_), false);
     // "ana lópez": the first word leads to the index, the rest only counts its entries out.
     if (const std::size_t blank = text.find(' '); scope_.persons && blank != std::string::npos)
-        add(names, personsInFull(escaped(std::string_view(text).substr(0, blank)), pattern_), false);
+        add(names, personsInFull(patternOf(std::string_view(text).substr(0, blank)), pattern_), false);
     sortByName(names);
     addNew(found_, std::move(names));
     if (text.empty()) return;

@@ -14,6 +14,7 @@ namespace dn::host {
 namespace {
 
 constexpr int keyRole = Qt::UserRole;
+constexpr int amountColumn = 4;
 
 QString text(const std::string& cell) { return QString::fromStdString(cell); }
 
@@ -52,6 +53,7 @@ RelationsWindow::RelationsWindow(ScreenContext& context, PartyField::Kind kind, 
                           {{"Fecha", 19}, {"Tipo", 20}, {"Asunto", 0}, {"Hecha", 8}, {"Proyecto", 34}});
     parties_ = addList(partiesCaption_, "lstPartes", ofOrganisation() ? "Personas" : "Organizaciones",
                        {{"Nombre", 0}, {"Teléfono", 24}, {"Correo", 36}});
+    projects_->headerItem()->setTextAlignment(amountColumn, Qt::AlignRight | Qt::AlignVCenter);
     addClose();
     resize(fontMetrics().averageCharWidth() * 126, fontMetrics().height() * 40);
     load();
@@ -116,6 +118,7 @@ void RelationsWindow::fill(QTreeWidget& list, QLabel& caption, const QString& ti
         auto* const item = new QTreeWidgetItem;
         for (std::size_t column = 0; column < relation.cells.size(); ++column)
             item->setText(static_cast<int>(column), text(relation.cells[column]));
+        if (&list == projects_) item->setTextAlignment(amountColumn, Qt::AlignRight | Qt::AlignVCenter);
         item->setData(0, keyRole, relation.key);
         items.append(item);
     }

@@ -4,8 +4,25 @@
 #include "host/screens/report_list.h"
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 
 namespace dn::host {
+namespace {
+
+constexpr int roomInRow = 6; // pixels above and below the text, taken together
+
+/// Rows with some air, for whoever reads them all day.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, roomInRow);
+    }
+};
+
+} // namespace
 
 void dressAsReport(QTreeWidget& list, const char* name, const char* accessible,
                    const std::vector<ReportColumn>& columns)
@@ -16,6 +33,7 @@ void dressAsReport(QTreeWidget& list, const char* name, const char* accessible,
     list.setUniformRowHeights(true);
     list.setAlternatingRowColors(true);
     list.setAllColumnsShowFocus(true);
+    list.setItemDelegate(new RowDelegate(&list));
     QStringList captions;
     for (const ReportColumn& column : columns)
         captions.append(column.caption);
