@@ -78,7 +78,7 @@ QTreeWidget* RelationsWindow::addList(QLabel*& caption, const char* name, const 
 void RelationsWindow::addClose()
 {
     auto* const line = new QHBoxLayout;
-    auto* const hint = new QLabel("Entrar o doble clic abre el renglón.", this);
+    auto* const hint = new QLabel("Con Enter o doble clic se abre el renglón.", this);
     hint->setObjectName("lblAyuda");
     line->addWidget(hint, 1);
     auto* const close = new QPushButton("&Cerrar", this);

@@ -27,9 +27,6 @@ std::shared_ptr<UIProyectos> ScreensFactory::newUIProyectos()
 // This program has no mail yet: the control takes nothing as a failure.
 std::shared_ptr<CorreoHost> ScreensFactory::newCorreoHost() { return nullptr; }
 
-std::shared_ptr<PersonaRegistro> ScreensFactory::newPersonaRegistro()
-{
-    return std::make_shared<PersonRecord>();
-}
+std::shared_ptr<PersonaRegistro> ScreensFactory::newPersonaRegistro() { return std::make_shared<PersonRecord>(); }
 
 } // namespace dn::host
