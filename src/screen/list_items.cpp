@@ -169,6 +169,8 @@ void ListItems::Remove(std::string_view key)
 
 int ListItems::Count() const { return static_cast<int>(list_->rows_.count()); }
 
+bool ListItems::Contains(std::string_view key) const { return list_->rows_.find(key) != ListRows::none; }
+
 ListItem ListItems::operator()(int index) const
 {
     if (index < 1 || index > Count()) throw RuntimeError("El índice está fuera de los límites");

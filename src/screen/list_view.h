@@ -115,6 +115,8 @@ public:
     void Clear();
     void Remove(std::string_view key);
     int Count() const;
+    /// Whether there is a row of that key; for whoever expects repeated keys and would not pay for a failing Add.
+    bool Contains(std::string_view key) const;
     /// @param index counted from 1. @throws RuntimeError out of range.
     ListItem operator()(int index) const;
     /// @throws RuntimeError for a key that is not there.

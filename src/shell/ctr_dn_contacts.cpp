@@ -15,8 +15,12 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      phoneChoice_(session_),
+      projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
+      projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
+      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
       layout_(elements_),
-      tabs_(session_, elements_, tabStrip_, prospectDetail_, prospectList_),
+      tabs_(session_, elements_, tabStrip_, {prospectDetail_, prospectList_, projectDetail_, projectList_}),
       agents_(session_, elements_.top, tabs_),
       startUp_(session_, elements_, agents_, tabs_, ports)
 {

@@ -17,6 +17,10 @@
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
 #include "notes/notes.h"
+#include "projects/phone_choice.h"
+#include "projects/project_commands.h"
+#include "projects/project_detail.h"
+#include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_interaction.h"
 #include "prospects/prospect_list.h"
@@ -140,6 +144,10 @@ private:
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
+    projects::PhoneChoice phoneChoice_;
+    projects::ProjectDetail projectDetail_;
+    projects::ProjectList projectList_;
+    projects::ProjectCommands projectCommands_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

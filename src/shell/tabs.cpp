@@ -40,7 +40,7 @@ void Tabs::ShowActiveTab() // continue-on-error
         resumeNext([&] { element->Visible(true); });
     resumeNext([&] { elements_.today.cmdEditHoy.Enabled(false); });
     resumeNext([&] { elements_.today.geProyFromContacto.Enabled(false); });
-    resumeNext([&] { detail_.LimpiaDetalle(); });
+    resumeNext([&] { rooms_.prospectDetail.LimpiaDetalle(); });
     std::int16_t active = desk::none;
     resumeNext([&] { strip_.GetActiveTab(active); });
     showTab(active);
@@ -112,12 +112,12 @@ void Tabs::showProspects()
     placeInfo(465, 2190);
     const std::uint64_t thisSwitch = switches_;
     resumeNext([&] { // the row that stayed selected fills the detail again, ahead of the load
-        if (const auto selected = prospects.lvw.SelectedItem()) detail_.lvw_ItemClick(selected);
+        if (const auto selected = prospects.lvw.SelectedItem()) rooms_.prospectDetail.lvw_ItemClick(selected);
     });
     if (thisSwitch != switches_) return; // the operator went to another tab while the timeline was read
     resumeNext([&] { prospects.picAdmin.Visible(session_.GAdmon); });
     resumeNext([&] { prospects.lvw.CheckBoxes(session_.GAdmon); });
-    resumeNext([&] { prospectList_.LoadProspectos(); });
+    resumeNext([&] { rooms_.prospectList.LoadProspectos(); });
 }
 
 void Tabs::showProjects()
@@ -125,6 +125,13 @@ void Tabs::showProjects()
     resumeNext([&] { elements_.projects.lvwProy.Visible(true); });
     resumeNext([&] { elements_.top.picColors.Visible(true); });
     placeInfo(15, 2640); // the room of Combo1 goes to the text
+    const std::uint64_t thisSwitch = switches_;
+    resumeNext([&] {
+        if (const auto selected = elements_.projects.lvwProy.SelectedItem())
+            rooms_.projectDetail.lvwProy_ItemClick(selected);
+    });
+    if (thisSwitch != switches_) return; // the operator went to another tab while the timeline was read
+    resumeNext([&] { rooms_.projectList.RefreshProyectos(); });
 }
 
 void Tabs::showToday()

@@ -8,6 +8,8 @@
 #include "desk/elements.h"
 #include "desk/session.h"
 #include "desk/tab_strip.h"
+#include "projects/project_detail.h"
+#include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_list.h"
 
@@ -15,11 +17,18 @@
 
 namespace dn::shell {
 
+/// The rooms whose lists and details the tabs show.
+struct TabRooms {
+    prospects::ProspectDetail& prospectDetail;
+    prospects::ProspectList& prospectList;
+    projects::ProjectDetail& projectDetail;
+    projects::ProjectList& projectList;
+};
+
 class Tabs {
 public:
-    Tabs(desk::Session& session, desk::Elements& elements, desk::TabStrip& strip,
-         prospects::ProspectDetail& detail, prospects::ProspectList& prospectList)
-        : session_(session), elements_(elements), strip_(strip), detail_(detail), prospectList_(prospectList)
+    Tabs(desk::Session& session, desk::Elements& elements, desk::TabStrip& strip, TabRooms rooms)
+        : session_(session), elements_(elements), strip_(strip), rooms_(rooms)
     {
     }
 
@@ -48,8 +57,7 @@ private:
     desk::Session& session_;
     desk::Elements& elements_;
     desk::TabStrip& strip_;
-    prospects::ProspectDetail& detail_;
-    prospects::ProspectList& prospectList_;
+    TabRooms rooms_;
     std::uint64_t switches_ = 0; // counts the switches, so that one overtaken in a yield knows
 };
 

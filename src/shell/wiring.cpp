@@ -19,6 +19,9 @@ screen::Subscription on(screen::Signal<Arguments...>& event, Room& room, void (R
 void ctrDnContacts::wire()
 {
     using notes::Notes;
+    using projects::ProjectCommands;
+    using projects::ProjectDetail;
+    using projects::ProjectList;
     using prospects::ProspectDetail;
     using prospects::ProspectInteraction;
     using prospects::ProspectStatus;
@@ -39,6 +42,15 @@ void ctrDnContacts::wire()
     join(prospects.lvw.ColumnClick, prospectInteraction_, &ProspectInteraction::lvw_ColumnClick);
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
+
+    join(projects.cbProjStatusProj.Click, projectList_, &ProjectList::cbProjStatusProj_Click);
+    join(projects.lvwProy.ItemClick, projectDetail_, &ProjectDetail::lvwProy_ItemClick);
+    join(projects.lvwProy.DblClick, projectCommands_, &ProjectCommands::lvwProy_DblClick);
+    join(projects.cmdProjNewProj.Click, projectCommands_, &ProjectCommands::cmdProjNewProj_Click);
+    join(projects.cmdNewProjEditProj.Click, projectCommands_, &ProjectCommands::cmdNewProjEditProj_Click);
+    join(projects.cmdProjSeekProj.Click, projectCommands_, &ProjectCommands::cmdProjSeekProj_Click);
+    join(projects.cmdProjNewContact.Click, projectCommands_, &ProjectCommands::cmdProjNewContact_Click);
+    join(projects.cmdProjNewOrg.Click, projectCommands_, &ProjectCommands::cmdProjNewOrg_Click);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);

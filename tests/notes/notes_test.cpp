@@ -132,6 +132,7 @@ TEST_F(Notes, of_a_project_carry_its_key_and_no_prospect)
     elements().top.lblItem(1).click();
     elements().projects.lvwProy.ListItems().Add("K88", "2026-03-14");
     detail().cmdIntro.Enabled(true);
+    cnn.forgetStatements();
     registers("visita");
     EXPECT_THAT(cnn.statements(), ElementsAre(insertProject + std::string("visita','ana',0,88)")));
 }

@@ -61,6 +61,23 @@ TEST_F(ProspectDesk, a_click_unlocks_what_needs_a_row)
     EXPECT_TRUE(elements().detail.cmdIntro.Enabled());
 }
 
+TEST_F(ProspectDesk, an_empty_list_empties_and_locks_the_detail_and_keeps_the_note)
+{
+    show({prospect(1, {{"uf_Nombre", text("María")}, {"uf_color", whole(1)}})});
+    elements().detail.txtBit.Text("lo anterior");
+    elements().detail.txtText.Text("a medias");
+    ASSERT_NE(elements().detail.txtInfo.Text(), "");
+    prospects({});
+    reload();
+    EXPECT_EQ(elements().detail.txtInfo.Text(), "");
+    EXPECT_EQ(elements().detail.txtBit.Text(), "");
+    EXPECT_FALSE(elements().detail.Combo1.Enabled());
+    EXPECT_FALSE(elements().detail.txtText.Enabled());
+    EXPECT_FALSE(elements().detail.cmdIntro.Enabled());
+    EXPECT_EQ(elements().detail.txtText.Text(), "a medias");
+    EXPECT_EQ(elements().top.picColors.BackColor(), 0x0000FFU) << "the colour of the mark shown last stays";
+}
+
 TEST_F(ProspectDesk, the_swatch_shows_the_mark_of_the_row)
 {
     show({prospect(1, {{"uf_color", whole(3)}}), prospect(2)});
@@ -156,7 +173,9 @@ TEST_F(ProspectDesk, a_tab_opened_while_the_timeline_is_read_keeps_its_own_detai
     elements().top.lblItem(0).click(); // its first yield is that of the timeline of the selected row
     EXPECT_EQ(elements().detail.txtBit.Text(), "");
     EXPECT_TRUE(elements().projects.lvwProy.Visible());
-    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("xt_biticontact")));
+    EXPECT_THAT(cnn.statements(),
+                ElementsAre(testing::HasSubstr("xt_biticontact"), testing::HasSubstr("FROM ((((mdtpactividad"),
+                            testing::HasSubstr("FROM ((Proyecto")));
 }
 
 TEST_F(ProspectDesk, a_list_emptied_while_the_timeline_is_read_shows_no_timeline)

@@ -94,9 +94,10 @@ TEST_F(Tabs, a_switch_locks_the_detail_and_the_commands_of_the_day)
                  &elements().today.geProyFromContacto})
             element->Enabled(true);
         click(tab);
-        EXPECT_FALSE(detail.Combo1.Enabled());
-        EXPECT_FALSE(detail.txtText.Enabled());
-        EXPECT_FALSE(detail.cmdIntro.Enabled());
+        const bool unlocked = tab == 1; // the end of a load of the projects unlocks it, with a row and without
+        EXPECT_EQ(detail.Combo1.Enabled(), unlocked);
+        EXPECT_EQ(detail.txtText.Enabled(), unlocked);
+        EXPECT_EQ(detail.cmdIntro.Enabled(), unlocked);
         EXPECT_FALSE(elements().today.cmdEditHoy.Enabled());
         EXPECT_FALSE(elements().today.geProyFromContacto.Enabled());
     }
@@ -125,11 +126,15 @@ TEST_F(Tabs, the_rights_are_looked_at_on_each_switch_to_the_prospects)
     }
 }
 
-TEST_F(Tabs, only_the_prospects_are_loaded_by_their_tab)
+TEST_F(Tabs, load_the_list_that_they_show)
 {
     start(7, true);
     click(0);
-    EXPECT_THAT(cnn.statements(), testing::SizeIs(1));
+    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("FROM ut_icontact")));
+    cnn.forgetStatements();
+    click(1);
+    EXPECT_THAT(cnn.statements(),
+                ElementsAre(testing::HasSubstr("FROM ((((mdtpactividad"), testing::HasSubstr("FROM ((Proyecto")));
 }
 
 TEST_F(Tabs, without_an_active_one_a_change_of_agent_hides_all_lists_and_loads_nothing)

@@ -50,6 +50,11 @@ screen::Answer FakeDialogs::MsgBox(const screen::MessageBox& box)
     if (!step) return screen::Answer::no;
     if (step->prompt.has_value()) {
         EXPECT_EQ(box.prompt, *step->prompt);
+        EXPECT_EQ(box.title, "") << box.prompt;
+        EXPECT_EQ(box.icon, screen::MessageBox::Icon::none) << box.prompt;
+        EXPECT_EQ(box.buttons, step->answer == screen::Answer::ok ? screen::MessageBox::Buttons::ok
+                                                                  : screen::MessageBox::Buttons::yesNo)
+            << box.prompt;
     }
     return step->answer;
 }

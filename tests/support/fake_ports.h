@@ -26,9 +26,10 @@ class FakeDialogs : public screen::Dialogs {
 public:
     ~FakeDialogs() override;
 
-    /// The next question will be a message box of this prompt.
+    /// The next question will be a message box of this prompt, without an icon and a title of its own, and with the
+    /// buttons that the answer is one of.
     void expectBox(std::string prompt, screen::Answer answer = screen::Answer::ok);
-    /// The next question will be a message box, whose text is looked at afterwards.
+    /// The next question will be a message box, whose text and style are looked at afterwards.
     void expectAnyBox(screen::Answer answer = screen::Answer::ok);
     /// The next question will be an input box of this prompt.
     void expectInput(std::string prompt, std::string answer);
