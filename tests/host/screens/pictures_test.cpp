@@ -94,8 +94,15 @@ TEST_F(Pictures, of_each_window)
     });
     pictures("EditarActividad");
     opens();
-    pictures("CrearProyecto");
-    newProject(1, acme);
+    operatorAt.expect("CrearProyecto", [](QWidget& window) {
+        fillsWhatIsRequired(window);
+        types(window, "Monto", "125,000");
+        picks(window, "Temperatura", "Tibio");
+        picks(window, "Color", "Verde");
+        takes(window);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    newProject(0, ana);
     std::int16_t kind = 1;
     std::string caption = "Relaciones de la organización: Acme del Sureste";
     pictures("MostrarRelaciones");
