@@ -38,10 +38,9 @@ std::size_t readAll(MYSQL_RES* result, std::size_t& bytes)
 
 } // namespace
 
-Cost bareFetch(const BenchDatabase& database, std::size_t& cells)
+Cost bareFetch(const BenchDatabase& database, const std::string& statement, std::size_t& cells)
 {
     const Handle handle = open(database.target());
-    const std::string statement = database.statement();
     std::size_t bytes = 0;
     const Cost cost = measure([&] {
         if (mysql_real_query(handle.get(), statement.data(), statement.size()) != 0)

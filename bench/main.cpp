@@ -3,18 +3,21 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|memory|filling|growth] [--rows N] [--rounds N] [--folder DIR]
+//     dn_bench [--check] [--only loading|directory|memory|filling|growth|commands] [--rows N] [--rounds N]
+//              [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
+#include "bench/commands.h"
 #include "bench/measure.h"
 #include "bench/report.h"
 #include "bench/workbench.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 
 #include <cstdio>
 #include <exception>
@@ -41,12 +44,20 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rows("rows", "Prospects.", "number", "100000");
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
-                                    "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, memory, filling or growth.", "benchmark");
+                                    QDir::tempPath() + "/dn-bench");
+    const QCommandLineOption only(
+        "only", "One benchmark: loading, directory, memory, filling, growth or commands.", "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
-    return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
-            (parser.value(folder) + "-" + parser.value(rows)).toStdString(), parser.value(only)};
+    const QStringList benchmarks{"", "loading", "directory", "memory", "filling", "growth", "commands"};
+    if (!benchmarks.contains(parser.value(only)))
+        throw std::runtime_error("no such benchmark: " + parser.value(only).toStdString());
+    const qulonglong count = parser.value(rows).toULongLong();
+    if (count < 1000) throw std::runtime_error("--rows takes 1,000 and more");
+    const int times = parser.value(rounds).toInt();
+    if (times < 1) throw std::runtime_error("--rounds takes 1 and more");
+    return {parser.isSet(check), count, times, (parser.value(folder) + "-" + parser.value(rows)).toStdString(),
+            parser.value(only)};
 }
 
 // ---- Loading the prospects -------------------------------------------------------------------------------------
@@ -63,7 +74,7 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
     std::size_t modelRows = 0;
     for (int round = 0; round < rounds; ++round) {
         ours.push_back(workbench.load());
-        bare.push_back(bareFetch(database, cells));
+        bare.push_back(bareFetch(database, database.statement(), cells));
         queryModel.push_back(sqlQueryModel(database, Reading::shownCells, modelRows));
         queryModelRead.push_back(sqlQueryModel(database, Reading::everyCell, modelRows));
     }
@@ -84,6 +95,29 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
                1.0 / 6, "times");
 }
 
+// ---- Loading the persons ---------------------------------------------------------------------------------------
+
+void benchDirectory(BenchDatabase& database, int rounds, Report& report)
+{
+    Workbench workbench(dn::desk::contactos);
+    workbench.open(database);
+    std::vector<Cost> ours;
+    std::vector<Cost> bare;
+    std::size_t cells = 0;
+    for (int round = 0; round < rounds; ++round) {
+        ours.push_back(workbench.load());
+        bare.push_back(bareFetch(database, database.personStatement(), cells));
+    }
+    if (workbench.rows() != database.rows()) report.wrong("LoadContactos", "rows are missing in the list");
+    const auto columns = database.connection().execute(database.personStatement())->names().size();
+    if (cells != database.rows() * columns) report.wrong("bare fetch of the persons", "cells are missing");
+    const double load = median(ours).cpu;
+    report.figure("LoadContactos to the first frame, client CPU", load, "ms");
+    report.figure("LoadContactos to the first frame, wall", median(ours).wall, "ms");
+    report.figure("bare libmariadb store_result of the persons, client CPU", median(bare).cpu, "ms");
+    report.bar("LoadContactos against the bare fetch", load / median(bare).cpu, 3, "times");
+}
+
 // ---- Rows in memory --------------------------------------------------------------------------------------------
 
 Texts textsOf(dn::screen::ListView& list)
@@ -99,7 +133,7 @@ Texts textsOf(dn::screen::ListView& list)
 void benchFilling(const Texts& texts, int rounds, Report& report)
 {
     Workbench workbench;
-    workbench.lvw().Visible(true);
+    workbench.list().Visible(true);
     QCoreApplication::processEvents();
     std::vector<Cost> ours;
     std::vector<Cost> tree;
@@ -127,7 +161,7 @@ void benchMemory(BenchDatabase& database, Report& report)
     workbench.load();
     const std::size_t held = heapBytes() - before;
     std::size_t text = 0;
-    const dn::screen::ListRows& rows = workbench.lvw().rows();
+    const dn::screen::ListRows& rows = workbench.list().rows();
     for (std::size_t row = 0; row < rows.count(); ++row) {
         const auto number = static_cast<dn::screen::ListRows::RowNumber>(row);
         text += rows.key(number).size() + rows.toolTip(number).size();
@@ -151,7 +185,7 @@ struct Constant {
 Constant constantWork(const Texts& texts, std::size_t count, int rounds)
 {
     Workbench workbench;
-    workbench.lvw().Visible(true);
+    workbench.list().Visible(true);
     workbench.fill(Texts(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(count)));
     constexpr int times = 20; // one alone is too short to be measured well
     std::vector<Cost> repaints;
@@ -188,12 +222,14 @@ int run(const QApplication& application)
     BenchDatabase database(options.folder, options.rows);
     Report report;
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
+    if (options.runs("directory")) benchDirectory(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
+    if (options.runs("commands")) benchCommands(database, options.rounds, report);
     Texts texts;
-    {
+    if (options.runs("filling") || options.runs("growth")) {
         Workbench workbench;
         workbench.open(database);
-        texts = textsOf(workbench.lvw());
+        texts = textsOf(workbench.list());
     }
     if (options.runs("filling")) benchFilling(texts, options.rounds, report);
     if (options.runs("growth")) benchGrowth(texts, options.rounds, report);
