@@ -3,18 +3,21 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|directory|memory|filling|growth] [--rows N] [--rounds N] [--folder DIR]
+//     dn_bench [--check] [--only loading|directory|memory|filling|growth|commands] [--rows N] [--rounds N]
+//              [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
+#include "bench/commands.h"
 #include "bench/measure.h"
 #include "bench/report.h"
 #include "bench/workbench.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 
 #include <cstdio>
 #include <exception>
@@ -41,13 +44,20 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rows("rows", "Prospects.", "number", "100000");
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
-                                    "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, directory, memory, filling or growth.",
-                                  "benchmark");
+                                    QDir::tempPath() + "/dn-bench");
+    const QCommandLineOption only(
+        "only", "One benchmark: loading, directory, memory, filling, growth or commands.", "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
-    return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
-            (parser.value(folder) + "-" + parser.value(rows)).toStdString(), parser.value(only)};
+    const QStringList benchmarks{"", "loading", "directory", "memory", "filling", "growth", "commands"};
+    if (!benchmarks.contains(parser.value(only)))
+        throw std::runtime_error("no such benchmark: " + parser.value(only).toStdString());
+    const qulonglong count = parser.value(rows).toULongLong();
+    if (count < 1000) throw std::runtime_error("--rows takes 1,000 and more");
+    const int times = parser.value(rounds).toInt();
+    if (times < 1) throw std::runtime_error("--rounds takes 1 and more");
+    return {parser.isSet(check), count, times, (parser.value(folder) + "-" + parser.value(rows)).toStdString(),
+            parser.value(only)};
 }
 
 // ---- Loading the prospects -------------------------------------------------------------------------------------
@@ -214,8 +224,9 @@ int run(const QApplication& application)
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
     if (options.runs("directory")) benchDirectory(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
+    if (options.runs("commands")) benchCommands(database, options.rounds, report);
     Texts texts;
-    {
+    if (options.runs("filling") || options.runs("growth")) {
         Workbench workbench;
         workbench.open(database);
         texts = textsOf(workbench.list());
