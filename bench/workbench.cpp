@@ -9,12 +9,12 @@
 
 namespace dn::bench {
 
-Workbench::Workbench()
+Workbench::Workbench(desk::Tab tab) : tab_(tab)
 {
     widget_.resize(1280, 760);
     widget_.show();
-    view_ = widget_.findChild<QAbstractItemView*>("lvw");
-    if (view_ == nullptr) throw std::runtime_error("the control has no view of its prospects");
+    view_ = widget_.findChild<QAbstractItemView*>(QString::fromStdString(list().name()));
+    if (view_ == nullptr) throw std::runtime_error("the control has no view of its list");
     counter_ = new PaintCounter(*view_); // owned by the view
 }
 
@@ -23,14 +23,17 @@ void Workbench::open(BenchDatabase& database)
     ctrDnContacts& control = widget_.control();
     control.SetObjects(&database.connection(), database.agent(), false, "bench");
     control.RefreshData();
-    control.elements().top.lblItem(desk::prospectos).click();
+    control.elements().top.lblItem(tab_).click();
     counter_->awaitPaint();
 }
 
 Cost Workbench::load()
 {
     return measure([&] {
-        widget_.control().elements().top.lblItem(desk::prospectos).click();
+        if (tab_ == desk::prospectos)
+            elements().top.lblItem(desk::prospectos).click();
+        else
+            elements().projects.cbProjStatusProj.pick(0);
         awaitRows();
     });
 }
@@ -43,7 +46,7 @@ Cost Workbench::fill(const Texts& texts)
     return measure([&] {
         for (std::size_t row = 0; row < texts.size(); ++row) {
             const std::vector<std::string>& cells = texts[row];
-            screen::ListSubItems subItems = lvw().ListItems().Add(keys[row], cells.front()).ListSubItems();
+            screen::ListSubItems subItems = list().ListItems().Add(keys[row], cells.front()).ListSubItems();
             for (std::size_t column = 1; column < cells.size(); ++column)
                 subItems.Add(cells[column]);
         }
@@ -53,7 +56,7 @@ Cost Workbench::fill(const Texts& texts)
 
 void Workbench::clear()
 {
-    lvw().ListItems().Clear();
+    list().ListItems().Clear();
     QCoreApplication::processEvents();
 }
 
@@ -68,14 +71,19 @@ Cost Workbench::repaint()
 Cost Workbench::select(const std::string& key)
 {
     return measure([&] {
-        screen::ListItem item = lvw().ListItems()(key);
+        screen::ListItem item = list().ListItems()(key);
         item.Selected(true);
         item.EnsureVisible();
         counter_->awaitPaint();
     });
 }
 
-std::size_t Workbench::rows() { return static_cast<std::size_t>(lvw().ListItems().Count()); }
+screen::ListView& Workbench::list()
+{
+    return tab_ == desk::prospectos ? elements().prospects.lvw : elements().projects.lvwProy;
+}
+
+std::size_t Workbench::rows() { return static_cast<std::size_t>(list().ListItems().Count()); }
 
 std::size_t Workbench::shownRows() const { return static_cast<std::size_t>(view_->model()->rowCount()); }
 

@@ -20,12 +20,14 @@ namespace dn::bench {
 
 class Workbench {
 public:
-    Workbench();
+    /// @param tab "Prospectos" or "Proyectos": whose list is measured.
+    explicit Workbench(desk::Tab tab = desk::prospectos);
 
-    /// Binds the control to the database and shows the tab of the prospects, which loads them.
+    /// Binds the control to the database and shows the tab, which loads its list.
     void open(BenchDatabase& database);
 
-    /// `LoadProspectos` from its statement to the first painted frame, as a click on the tab runs it.
+    /// `LoadProspectos`, as a click on the tab runs it, or `RefreshProyectos`, as a pick in the filter does, from
+    /// the statement to the first painted frame.
     Cost load();
     /// Fills the list with rows from memory, up to the first painted frame.
     Cost fill(const Texts& texts);
@@ -38,11 +40,14 @@ public:
     std::size_t rows();
     /// The rows that the view knows of.
     std::size_t shownRows() const;
-    screen::ListView& lvw() { return widget_.control().elements().prospects.lvw; }
+    screen::ListView& list();
 
 private:
     void awaitRows();
 
+    desk::Elements& elements() { return widget_.control().elements(); }
+
+    desk::Tab tab_;
     screen::qt::CtrDnContactsWidget widget_;
     QAbstractItemView* view_ = nullptr;
     PaintCounter* counter_ = nullptr;

@@ -4,7 +4,7 @@
 // The rights that docs/database.md asks for are enough for a day's work, and for nothing more.
 
 #include "data/mariadb/connection.h"
-#include "tests/stories/operator.h"
+#include "tests/stories/project_operator.h"
 #include "tests/support/maria_server.h"
 
 #include <fstream>
@@ -30,7 +30,7 @@ std::vector<std::string> documentedGrants()
     return grants;
 }
 
-class Rights : public Operator {
+class Rights : public ProjectOperator {
 protected:
     Rights()
     {
@@ -59,7 +59,7 @@ protected:
     }
 };
 
-TEST_F(Rights, are_three_grants) { EXPECT_THAT(documentedGrants(), SizeIs(3)); }
+TEST_F(Rights, are_one_grant_for_each_table) { EXPECT_THAT(documentedGrants(), SizeIs(10)); }
 
 TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
 {
@@ -80,6 +80,22 @@ TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
                 ElementsAre("pide precios", ">> Sin interés: ya compró", ">> Descartado: x"));
 }
 
+TEST_F(Rights, suffice_for_projects_conversions_and_colours)
+{
+    prospect("María", {{"uf_Tipo", "1"}});
+    activity(project("Veinte puestos"), "visita");
+    project("Sin citas");
+    enters(ana);
+    presses("bColor(1)");
+    presses("cmdProsNewProj");
+    EXPECT_THAT(inTheDatabase("SELECT CONCAT(uf_color, uf_Status) FROM ut_icontact"), ElementsAre("11"));
+    opensTab(desk::proyectos);
+    EXPECT_THAT(seesProjects(), ElementsAre("Veinte puestos", "Sin citas"));
+    EXPECT_THAT(sees("txtInfo"), testing::HasSubstr("Tel_Movil: 55 2222"));
+    presses("bColor(3)");
+    EXPECT_THAT(inTheDatabase("SELECT UF_Color FROM Proyecto WHERE UF_Color IS NOT NULL"), ElementsAre("3"));
+}
+
 TEST_F(Rights, allow_nothing_else)
 {
     prospect("María");
@@ -87,6 +103,7 @@ TEST_F(Rights, allow_nothing_else)
          {"DROP TABLE ut_icontact", "DELETE FROM ut_icontact", "DELETE FROM xt_biticontact",
           "UPDATE xt_biticontact SET uf_Mensaje = 'otra cosa'", "UPDATE ut_icontact SET uf_IEjecutivo = 9",
           "INSERT INTO ut_icontact (uf_Nombre) VALUES ('x')", "SELECT * FROM Persona", "SELECT * FROM Proyecto",
+          "SELECT Notas FROM Proyecto", "UPDATE Proyecto SET UF_Status1 = 6", "DELETE FROM actividad",
           "UPDATE Agente SET Nombre = 'x'", "CREATE TABLE x (y INT)", "ALTER TABLE ut_icontact ADD x INT",
           "TRUNCATE xt_biticontact", "SELECT * FROM mysql.user", "CALL AddInteresContacto('x')",
           "CREATE USER intruso", "GRANT ALL ON *.* TO 'fuerza'@'%'"})
