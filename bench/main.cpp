@@ -3,12 +3,15 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|projects|memory|filling|growth] [--rows N] [--rounds N] [--folder DIR]
+//     dn_bench [--check] [--only loading|projects|directory|memory|filling|growth|commands] [--rows N] [--rounds
+//     N]
+//              [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
+#include "bench/commands.h"
 #include "bench/measure.h"
 #include "bench/project_rows.h"
 #include "bench/report.h"
@@ -43,8 +46,8 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
                                     "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, projects, memory, filling or growth.",
-                                  "benchmark");
+    const QCommandLineOption only(
+        "only", "One benchmark: loading, projects, directory, memory, filling, growth or commands.", "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
     return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
@@ -86,8 +89,7 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
                1.0 / 6, "times");
 }
 
-// ---- Loading the projects
-// ---------------------------------------------------------------------------------------
+// ---- Loading the projects --------------------------------------------------------------------------------------
 
 void benchProjects(BenchDatabase& database, int rounds, Report& report)
 {
@@ -112,6 +114,29 @@ void benchProjects(BenchDatabase& database, int rounds, Report& report)
     report.figure("bare libmariadb store_result of both statements, every cell read, client CPU", median(bare).cpu,
                   "ms");
     report.bar("RefreshProyectos against the bare fetch", median(ours).cpu / median(bare).cpu, 3, "times");
+}
+
+// ---- Loading the persons ---------------------------------------------------------------------------------------
+
+void benchDirectory(BenchDatabase& database, int rounds, Report& report)
+{
+    Workbench workbench(dn::desk::contactos);
+    workbench.open(database);
+    std::vector<Cost> ours;
+    std::vector<Cost> bare;
+    std::size_t cells = 0;
+    for (int round = 0; round < rounds; ++round) {
+        ours.push_back(workbench.load());
+        bare.push_back(bareFetch(database, {database.personStatement()}, cells));
+    }
+    if (workbench.rows() != database.rows()) report.wrong("LoadContactos", "rows are missing in the list");
+    const auto columns = database.connection().execute(database.personStatement())->names().size();
+    if (cells != database.rows() * columns) report.wrong("bare fetch of the persons", "cells are missing");
+    const double load = median(ours).cpu;
+    report.figure("LoadContactos to the first frame, client CPU", load, "ms");
+    report.figure("LoadContactos to the first frame, wall", median(ours).wall, "ms");
+    report.figure("bare libmariadb store_result of the persons, client CPU", median(bare).cpu, "ms");
+    report.bar("LoadContactos against the bare fetch", load / median(bare).cpu, 3, "times");
 }
 
 // ---- Rows in memory --------------------------------------------------------------------------------------------
@@ -219,9 +244,11 @@ int run(const QApplication& application)
     Report report;
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
     if (options.runs("projects")) benchProjects(database, options.rounds, report);
+    if (options.runs("directory")) benchDirectory(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
+    if (options.runs("commands")) benchCommands(database, options.rounds, report);
     Texts texts;
-    {
+    if (options.runs("filling") || options.runs("growth")) {
         Workbench workbench;
         workbench.open(database);
         texts = textsOf(workbench.list());

@@ -11,10 +11,14 @@ namespace dn::bench {
 
 Workbench::Workbench(desk::Tab tab) : tab_(tab)
 {
+    desk::Elements& elements = widget_.control().elements();
+    list_ = tab == desk::contactos   ? &elements.persons.lvwContactos
+            : tab == desk::proyectos ? &elements.projects.lvwProy
+                                     : &elements.prospects.lvw;
     widget_.resize(1280, 760);
     widget_.show();
-    view_ = widget_.findChild<QAbstractItemView*>(QString::fromStdString(list().name()));
-    if (view_ == nullptr) throw std::runtime_error("the control has no view of its list");
+    view_ = widget_.findChild<QAbstractItemView*>(QString::fromStdString(list_->name()));
+    if (view_ == nullptr) throw std::runtime_error("the control has no view of " + list_->name());
     counter_ = new PaintCounter(*view_); // owned by the view
 }
 
@@ -30,10 +34,11 @@ void Workbench::open(BenchDatabase& database)
 Cost Workbench::load()
 {
     return measure([&] {
-        if (tab_ == desk::prospectos)
-            elements().top.lblItem(desk::prospectos).click();
+        desk::Elements& elements = widget_.control().elements();
+        if (tab_ == desk::proyectos)
+            elements.projects.cbProjStatusProj.pick(0);
         else
-            elements().projects.cbProjStatusProj.pick(0);
+            elements.top.lblItem(tab_).click();
         awaitRows();
     });
 }
@@ -76,11 +81,6 @@ Cost Workbench::select(const std::string& key)
         item.EnsureVisible();
         counter_->awaitPaint();
     });
-}
-
-screen::ListView& Workbench::list()
-{
-    return tab_ == desk::prospectos ? elements().prospects.lvw : elements().projects.lvwProy;
 }
 
 std::size_t Workbench::rows() { return static_cast<std::size_t>(list().ListItems().Count()); }

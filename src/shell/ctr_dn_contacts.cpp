@@ -3,6 +3,8 @@
 
 #include "shell/ctr_dn_contacts.h"
 
+#include "base/runtime_error.h"
+
 namespace dn {
 
 ctrDnContacts::ctrDnContacts(screen::Ports ports)
@@ -10,26 +12,52 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       counters_(elements_),
       timeline_(session_, elements_, ports),
       hostScreens_(session_),
-      notes_(session_, elements_, tabStrip_, ports),
       prospectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_),
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      prospectEditing_(session_, elements_.prospects, elements_.top, prospectList_, *this, ports),
+      assignment_(session_, elements_.prospects, prospectList_, *this, ports),
       prospectConversion_(session_, elements_.prospects, prospectList_, hostScreens_, ports.dialogs),
       colourMarks_(session_, elements_.prospects, elements_.projects, elements_.top, tabStrip_, ports.dialogs),
       phoneChoice_(session_),
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
       projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
+      todayPanel_(elements_, prospectDetail_, projectDetail_, *this),
+      queue_(session_, elements_, tabStrip_, todayPanel_, counters_, ports.clock),
+      todayCommands_(elements_.today, queue_, prospectEditing_, prospectConversion_, hostScreens_, ports.dialogs),
+      search_(elements_, prospectDetail_, projectDetail_, ports.dialogs),
+      notes_(session_, elements_, tabStrip_, todayPanel_, ports),
+      directoryLoader_(session_, elements_.top, counters_, ports.dialogs),
+      organisations_(elements_.organisations, directoryLoader_, hostScreens_, ports.dialogs),
+      persons_(session_, elements_.persons, directoryLoader_, hostScreens_, ports.dialogs),
+      partyInHand_(elements_, tabStrip_, todayPanel_),
+      listInSight_(elements_, prospectList_, projectList_, queue_),
+      callDecision_(session_, elements_.detail.Combo1, partyInHand_, prospectStatus_, projectCommands_, *this,
+                    ports),
+      callOutcomes_(session_, elements_, notes_, callDecision_, listInSight_, ports.dialogs),
+      callFlow_(session_, elements_, partyInHand_, callOutcomes_, ports.dialogs),
       layout_(elements_),
-      tabs_(session_, elements_, tabStrip_, {prospectDetail_, prospectList_, projectDetail_, projectList_}),
-      agents_(session_, elements_.top, tabs_),
-      startUp_(session_, elements_, agents_, tabs_, ports)
+      tabs_(session_, elements_, tabStrip_,
+            {prospectDetail_, prospectList_, projectDetail_, projectList_, queue_, organisations_, persons_}),
+      agents_(session_, elements_.top, tabs_, ports),
+      startUp_(session_, elements_, agents_, tabs_, queue_, ports)
 {
     wire();
     startUp_.UserControl_Initialize();
 }
 
 ctrDnContacts::~ctrDnContacts() = default;
+
+namespace {
+
+constexpr const char* noMail = "El correo todavía no está disponible";
+
+}
+
+void ctrDnContacts::cmdSend_Click() { throw RuntimeError(noMail); }
+
+void ctrDnContacts::Historial(std::int16_t&, std::int32_t&) { throw RuntimeError(noMail); }
 
 } // namespace dn

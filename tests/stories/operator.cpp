@@ -3,6 +3,7 @@
 
 #include "tests/stories/operator.h"
 
+#include "base/text.h"
 #include "data/mariadb/connection.h"
 #include "host/database/schema.h"
 #include "tests/support/element_tree.h"
@@ -146,7 +147,7 @@ std::vector<std::string> Operator::changesSent()
 {
     std::vector<std::string> changes;
     for (const std::string& statement : cnn->statements)
-        if (statement.rfind("SELECT", 0) != 0 && statement.rfind("Select", 0) != 0) changes.push_back(statement);
+        if (toLower(statement).rfind("select", 0) != 0) changes.push_back(statement);
     cnn->statements.clear();
     return changes;
 }

@@ -6,6 +6,7 @@
 #include "screen/button.h"
 #include "screen/qt/focus_keeper.h"
 #include "screen/qt/geometry.h"
+#include "screen/qt/shortcuts.h"
 #include "screen/qt/text.h"
 #include "screen/qt/theme.h"
 #include "screen/qt/view_factory.h"
@@ -36,7 +37,9 @@ FormView::FormView(screen::Form& form, QWidget* parent, Guard& guard)
       guard_(guard)
 {
     setObjectName(fromUtf8(form.name()));
-    focus_ = std::make_unique<FocusKeeper>(*this, buildViews(form, *this, guard));
+    const std::vector<View> views = buildViews(form, *this, guard);
+    focus_ = std::make_unique<FocusKeeper>(*this, views);
+    shortcuts_ = std::make_unique<Shortcuts>(*this, views, guard);
     dress(*this);
     wires_.push_back(form.changed.connect([this] { mirror(); }));
     wires_.push_back(form.ended.connect([this] {
@@ -60,9 +63,31 @@ void FormView::mirror()
 {
     if (element_ == nullptr) return;
     setWindowTitle(fromUtf8(element_->Caption()));
-    setFixedSize(pixelRect(*element_).size());
+    mirrorSize();
     setEnabled(element_->Enabled());
     if (!element_->Visible()) finish();
+}
+
+void FormView::mirrorSize()
+{
+    if (following_) return;
+    const QSize size = pixelRect(*element_).size();
+    if (!element_->resizable()) {
+        setFixedSize(size);
+        return;
+    }
+    setMinimumSize(pixelEdge(element_->MinWidth()), pixelEdge(element_->MinHeight()));
+    setSizeGripEnabled(true);
+    resize(size);
+}
+
+void FormView::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (element_ == nullptr || size() == pixelRect(*element_).size()) return;
+    following_ = true;
+    guard_.run([this] { element_->resize(width() * twipsPerPixel, height() * twipsPerPixel); });
+    following_ = false;
 }
 
 // A form that is shown again gets a view of its own; this one is over.

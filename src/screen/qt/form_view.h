@@ -14,6 +14,7 @@
 namespace dn::screen::qt {
 
 class FocusKeeper;
+class Shortcuts;
 
 class FormView : public QDialog {
 public:
@@ -27,15 +28,19 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void mirror();
+    void mirrorSize();
     void finish();
     void close(bool byKey);
 
     screen::Form* element_;
     Guard& guard_;
+    bool following_ = false; ///< the element takes the window's size: what it tells meanwhile is half of it
     std::unique_ptr<FocusKeeper> focus_;
+    std::unique_ptr<Shortcuts> shortcuts_;
     Subscriptions wires_;
 };
 
