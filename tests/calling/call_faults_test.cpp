@@ -185,5 +185,32 @@ TEST(CallInAClosingApplication, does_not_ask_for_a_reason_for_ever)
     EXPECT_THAT(cnn.statements(), Contains(testing::HasSubstr("<Otra razón para no comunicarme>")));
 }
 
+/// A host that goes on working while the operator is asked.
+struct BusyHost : FakeDialogs {
+    std::function<std::string()> answer;
+    std::string InputBox(const std::string&) override { return answer(); }
+};
+
+TEST(CallOfABusyHost, during_the_question_for_a_reason_takes_the_place_of_the_first)
+{
+    FakePorts ports;
+    BusyHost busy;
+    FakeConnection cnn;
+    ctrDnContacts control({busy, ports.pointer, ports.events, ports.clock});
+    control.SetObjects(&cnn, 7, false, "ana");
+    control.elements().prospects.lvw.ListItems().Add("K12", "");
+    busy.answer = [&] {
+        control.IniciarLlamada("Proyecto", 88, "222");
+        return "no habla";
+    };
+    ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
+    control.IniciarLlamada("ut_icontact", 12, "111");
+    control.Call_Connect(5);
+    EXPECT_THAT(cnn.statements(), Contains(testing::HasSubstr("llamada al: 222 pero no")));
+    EXPECT_THAT(cnn.statements(), Contains("UPDATE Proyecto SET uf_ultimointento= CURRENT_TIMESTAMP, "
+                                           "uf_res_ultimointento =  16 Where Sys_PK = 88"));
+    EXPECT_FALSE(control.Call_Progress());
+}
+
 } // namespace
 } // namespace dn::tests

@@ -7,6 +7,8 @@
 #include "tests/support/element_tree.h"
 #include "tests/today/fixture.h"
 
+#include <functional>
+
 namespace dn::tests {
 namespace {
 
@@ -222,6 +224,60 @@ TEST_F(CallToOthers, on_a_directory_the_queue_is_loaded_anew)
     EXPECT_EQ(elements().today.lblcuenta2.Caption(), "3");
 }
 
+// The lists are locked during a call: what counts is the row that was selected there before.
+TEST_F(CallToOthers, an_end_on_another_tab_writes_to_the_called_party_and_logs_and_asks_by_that_tab)
+{
+    struct Elsewhere {
+        const char* selected; ///< on the tab "Hoy", nothing for an empty queue
+        std::int16_t tab;
+        const char* noteEnds;
+        bool asks;
+    };
+    const std::vector<std::function<void()>> endings{[this] { call().cmdOcupado.press(); },
+                                                     [this] {
+                                                         call().cmdContesta.press();
+                                                         call().cmdCallCon(2).press();
+                                                     },
+                                                     [this] {
+                                                         control.Call_Connect(6);
+                                                         call().cmdOkCall.press();
+                                                     }};
+    for (const Elsewhere& elsewhere :
+         {Elsewhere{"P88", desk::hoy, "'ana',0,88)", false}, Elsewhere{"K13", desk::hoy, "'ana',13)", true},
+          Elsewhere{nullptr, desk::hoy, nullptr, false}, Elsewhere{"K13", desk::organizaciones, "'ana',12)", true},
+          Elsewhere{"K13", desk::contactos, "'ana',12)", true}})
+        for (const auto& ending : endings) {
+            if (elsewhere.selected == nullptr) due({});
+            openToday();
+            if (elsewhere.selected != nullptr) click(elsewhere.selected);
+            openProspects();
+            lvw().clickRow(0);
+            rings();
+            elements().top.lblItem(elsewhere.tab).click();
+            cnn.forgetStatements();
+            if (elsewhere.asks) closesTheQuestion();
+            ending();
+            bool noted = false;
+            bool stored = false;
+            for (const std::string& change : changes()) {
+                if (change.rfind("UPDATE", 0) == 0) {
+                    stored = true;
+                    EXPECT_THAT(change, testing::ContainsRegex("^UPDATE ut_icontact .*Sys_PK ?= ?12"));
+                } else {
+                    noted = true;
+                    EXPECT_THAT(change,
+                                testing::EndsWith(elsewhere.noteEnds == nullptr ? "" : elsewhere.noteEnds));
+                }
+            }
+            EXPECT_TRUE(stored);
+            EXPECT_EQ(noted, elsewhere.noteEnds != nullptr);
+            EXPECT_EQ(host.log.calls.size(), elsewhere.selected != nullptr && !elsewhere.asks ? 1U : 0U);
+            expectIdle();
+            elements().detail.txtText.Text("");
+            due({queuedProspect(13), queuedProject(88), queuedProject(12)});
+        }
+}
+
 TEST_F(CallToOthers, the_keyboard_comes_back_to_the_list_in_sight)
 {
     lvwProy().SetFocus();
@@ -236,6 +292,14 @@ TEST_F(CallToOthers, the_keyboard_comes_back_to_the_list_in_sight)
     closesTheQuestion();
     call().cmdCancelCall.press();
     EXPECT_TRUE(lvwHoy().hasFocus());
+    openProspects();
+    lvw().SetFocus();
+    rings();
+    elements().top.lblItem(desk::contactos).click();
+    call().cmdContesta.SetFocus();
+    closesTheQuestion();
+    call().cmdCancelCall.press();
+    EXPECT_TRUE(elements().persons.lvwContactos.hasFocus());
 }
 
 } // namespace

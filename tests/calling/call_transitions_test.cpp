@@ -272,6 +272,26 @@ TEST_F(CallTransitions, a_call_that_the_host_starts_during_the_question_stays_on
     EXPECT_EQ(state(), CallState::idle);
 }
 
+TEST_F(CallTransitions, a_call_that_the_host_starts_while_another_one_is_scheduled_leaves_the_schedule_alone)
+{
+    rings();
+    decides(1);
+    ports.events.expectModal("dlgAgendarContacto", [&](screen::Form& form) {
+        control.IniciarLlamada("ut_icontact", 13, "777");
+        ports.dialogs.expectBox("¿Seguro desea programar el contacto para: 2026-mar-14 10:30:00?",
+                                screen::Answer::yes);
+        elementNamed<screen::Button>(form, "cmdOk").press();
+    });
+    call().cmdCancelCall.press();
+    EXPECT_THAT(steps, testing::Contains(
+                           testing::AllOf(testing::HasSubstr("uf_proxcontac"), testing::EndsWith("Sys_PK=12"))));
+    EXPECT_TRUE(call().picLlamando.shown());
+    EXPECT_EQ(control.Call_PK(), 13);
+    closesTheQuestion();
+    call().cmdCancelCall.press();
+    EXPECT_EQ(state(), CallState::idle);
+}
+
 TEST_F(CallTransitions, a_reason_unheard_of_is_logged_without_a_result_and_stored_nowhere)
 {
     rings();

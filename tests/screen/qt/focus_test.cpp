@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 
 namespace dn::tests {
@@ -64,6 +65,18 @@ TEST_F(FocusTest, tab_goes_by_place_where_no_index_is_set)
     show();
     widget<QWidget>("txt").setFocus();
     EXPECT_EQ(walk(4), QStringLiteral("txt cmd1 cmd2 cb txt"));
+}
+
+TEST_F(FocusTest, a_label_that_shows_data_shows_its_ampersands_and_leads_nowhere)
+{
+    label.UseMnemonic(false);
+    label.Caption("García &Hijos 55");
+    show();
+    EXPECT_EQ(widget<QLabel>("lbl").text(), QStringLiteral("García &Hijos 55"));
+    EXPECT_EQ(widget<QLabel>("lbl").buddy(), nullptr) << "else it would be drawn as a key";
+    EXPECT_NE(spoken(widget<QLineEdit>("txt")), QStringLiteral("García Hijos 55"));
+    label.Caption("1 && 2");
+    EXPECT_EQ(widget<QLabel>("lbl").text(), QStringLiteral("1 && 2"));
 }
 
 TEST_F(FocusTest, tab_goes_by_index_over_all_containers)

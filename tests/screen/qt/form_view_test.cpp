@@ -119,6 +119,46 @@ TEST_F(FormViewTest, enter_presses_the_default_button_and_escape_the_one_that_ca
     EXPECT_EQ(sample->cancelled, 1);
 }
 
+// Held down since before the window came up.
+TEST_F(FormViewTest, keys_that_are_held_down_answer_no_window)
+{
+    const auto repeats = [](QWidget& widget, Qt::Key key) {
+        QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&widget, &again);
+    };
+    sample->cancel.Cancel(false); // Escape closes the window
+    driver.expect("dlgMuestra", [&](QWidget& window) {
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
+            for (const char* part : {"txtNombre", "cmdCancel", "cmdOk"})
+                repeats(*window.findChild<QWidget*>(QString::fromUtf8(part)), key);
+        repeats(window, Qt::Key_Escape);
+        repeats(window, Qt::Key_Return);
+        EXPECT_TRUE(sample->form.Visible());
+        EXPECT_EQ(sample->accepted + sample->cancelled, 0);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    events.ShowModal(sample->form);
+    for (const MessageBox::Buttons kind : {MessageBox::Buttons::ok, MessageBox::Buttons::yesNo}) {
+        driver.expect("MsgBox", [&](QWidget& box) {
+            for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
+                repeats(*QApplication::focusWidget(), key);
+            repeats(box, Qt::Key_Escape);
+            EXPECT_TRUE(box.isVisible());
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        dialogs.MsgBox({.prompt = "¿Seguro?", .buttons = kind});
+    }
+    driver.expect("InputBox", [&](QWidget& box) {
+        auto& edit = *box.findChild<QLineEdit*>();
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
+            repeats(edit, key);
+        EXPECT_TRUE(box.isVisible());
+        QTest::keyClicks(&edit, QStringLiteral("otro"));
+        QTest::keyClick(&edit, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.InputBox("Motivo:"), "otro");
+}
+
 TEST_F(FormViewTest, escape_without_a_button_to_press_and_the_frames_button_close_the_window_and_nothing_else)
 {
     sample->cancel.Enabled(false);

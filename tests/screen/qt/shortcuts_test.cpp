@@ -88,6 +88,23 @@ TEST_F(ShortcutsTest, a_button_that_ended_is_pressed_no_more)
     EXPECT_EQ(pressed, "");
 }
 
+TEST_F(ShortcutsTest, a_key_of_a_part_of_the_screen_counts_there_alone)
+{
+    first.Shortcut("Esc", panel);
+    show();
+    QShortcut hosts(QKeySequence(Qt::Key_Escape), view.get());
+    int taken = 0;
+    QObject::connect(&hosts, &QShortcut::activated, view.get(), [&] { ++taken; });
+    widget<QLineEdit>("txt").setFocus();
+    key(Qt::Key_Escape);
+    EXPECT_EQ(pressed, "");
+    EXPECT_EQ(taken, 1) << "elsewhere it is the host's";
+    hosts.setEnabled(false);
+    widget<QPushButton>("cmd1").setFocus();
+    key(Qt::Key_Escape);
+    EXPECT_EQ(pressed, "1");
+}
+
 TEST_F(ShortcutsTest, the_tool_tip_tells_the_key)
 {
     show();
