@@ -117,8 +117,8 @@ TEST_F(CallFaults, a_party_that_is_deleted_meanwhile_is_written_to_no_row_and_le
         ending();
         EXPECT_EQ(state(), CallState::idle);
         for (const std::string& step : steps)
-            if (step.rfind("UPDATE", 0) == 0)
-                EXPECT_THAT(step, testing::ContainsRegex("Where Sys_PK ?= ?12")) << "and not who is selected now";
+            EXPECT_THAT(step, testing::AnyOf(testing::Not(testing::StartsWith("UPDATE")),
+                                             testing::ContainsRegex("Where Sys_PK ?= ?12")));
         EXPECT_THAT(steps, Contains(testing::StartsWith("UPDATE")));
         EXPECT_THAT(steps, Contains(testing::EndsWith("'ana',12)")));
         EXPECT_THAT(keys(lvw()), testing::ElementsAre("K13"));

@@ -5,6 +5,7 @@
 
 #include "tests/calling/call_fixture.h"
 
+#include <array>
 #include <cstdlib>
 
 namespace dn::tests {
@@ -124,15 +125,17 @@ TEST_P(HostEvents, do_the_same_wherever_the_call_stands)
     EXPECT_EQ(state(), CallState::idle);
 }
 
+std::string nameOf(const testing::TestParamInfo<std::tuple<Event, CallState>>& one)
+{
+    constexpr std::array states{"idle", "ringing", "on_the_line", "summary"};
+    return std::get<0>(one.param).name + "_from_" + states.at(static_cast<std::size_t>(std::get<1>(one.param)));
+}
+
 INSTANTIATE_TEST_SUITE_P(Calls, HostEvents,
                          testing::Combine(testing::ValuesIn(events()),
                                           testing::Values(CallState::idle, CallState::ringing,
                                                           CallState::onTheLine, CallState::summary)),
-                         [](const auto& one) {
-                             constexpr std::array states{"idle", "ringing", "on_the_line", "summary"};
-                             return std::get<0>(one.param).name + "_from_" +
-                                    states.at(static_cast<std::size_t>(std::get<1>(one.param)));
-                         });
+                         nameOf);
 
 } // namespace
 } // namespace dn::tests

@@ -5,6 +5,8 @@
 
 #include "screen/qt/text.h"
 
+#include <QWidget>
+
 #include <algorithm>
 
 namespace dn::screen::qt {
