@@ -109,6 +109,7 @@ TEST_F(CallFaults, a_party_that_is_deleted_meanwhile_is_written_to_no_row_and_le
     for (const Ending& ending : endings()) {
         prospects({prospect(12, {{"uf_Telefono", text("1")}}), prospect(13)});
         openProspects();
+        lvw().clickRow(0);
         const auto goes = control.callStarted().connect(
             [this](const std::string&, std::int32_t, const std::string&) { prospects({prospect(13)}); });
         ending();
