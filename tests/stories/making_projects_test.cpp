@@ -56,7 +56,7 @@ TEST_F(MakingProjects, a_prospect_that_became_a_project_leaves_the_list_with_a_n
 
 TEST_F(MakingProjects, what_is_missing_is_filled_in_for_the_operator_to_correct)
 {
-    typedIn("x", {{"uf_Nombre", "NULL"}});
+    typedIn("sin nombre");
     database("UPDATE ut_icontact SET uf_Nombre = NULL, uf_IEjecutivo = NULL");
     entersAsAdministrator();
     presses("cmdProsNewProj");

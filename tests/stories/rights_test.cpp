@@ -5,7 +5,7 @@
 
 #include "data/mariadb/connection.h"
 #include "screen/list_box.h"
-#include "tests/stories/operator.h"
+#include "tests/stories/project_operator.h"
 #include "tests/support/element_tree.h"
 #include "tests/support/maria_server.h"
 
@@ -32,7 +32,7 @@ std::vector<std::string> documentedGrants()
     return grants;
 }
 
-class Rights : public Operator {
+class Rights : public ProjectOperator {
 protected:
     Rights()
     {
@@ -61,7 +61,7 @@ protected:
     }
 };
 
-TEST_F(Rights, are_seventeen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(17)); }
+TEST_F(Rights, are_eighteen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(18)); }
 
 TEST_F(Rights, suffice_for_calls)
 {
@@ -136,8 +136,6 @@ TEST_F(Rights, suffice_for_entering_correcting_and_assigning)
 
 TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
 {
-    for (const char* table : {"Proyecto", "actividad", "Persona", "Organizacion"})
-        database(std::string("DELETE FROM ") + table);
     prospect("María");
     database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
     database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
@@ -149,10 +147,24 @@ TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
     EXPECT_EQ(sees("lblcuenta2"), "Hoy: 2 actividades | Proyectos: 1 Contactos: 1");
 }
 
+TEST_F(Rights, suffice_for_projects_conversions_and_colours)
+{
+    prospect("María", {{"uf_Tipo", "1"}});
+    activity(project("Veinte puestos"), "visita");
+    project("Sin citas");
+    enters(ana);
+    presses("bColor(1)");
+    presses("cmdProsNewProj");
+    EXPECT_THAT(inTheDatabase("SELECT CONCAT(uf_color, uf_Status) FROM ut_icontact"), ElementsAre("11"));
+    opensTab(desk::proyectos);
+    EXPECT_THAT(seesProjects(), ElementsAre("Veinte puestos", "Sin citas"));
+    EXPECT_THAT(sees("txtInfo"), testing::HasSubstr("Tel_Movil: 55 2222"));
+    presses("bColor(3)");
+    EXPECT_THAT(inTheDatabase("SELECT UF_Color FROM Proyecto WHERE UF_Color IS NOT NULL"), ElementsAre("3"));
+}
+
 TEST_F(Rights, suffice_for_the_directories)
 {
-    database("DELETE FROM Persona");
-    database("DELETE FROM Organizacion");
     database("INSERT INTO Persona (Nombre, IEjecutivo) VALUES ('Luz', 7)");
     database("INSERT INTO Organizacion (Nombre, IEjecutivo) VALUES ('Aceros', 7)");
     enters(ana);
@@ -178,6 +190,9 @@ TEST_F(Rights, allow_nothing_else)
                                   "DELETE FROM Organizacion",
                                   "SELECT Notas FROM Organizacion",
                                   "SELECT * FROM Proyecto",
+                                  "SELECT Notas FROM Proyecto",
+                                  "UPDATE Proyecto SET UF_Status1 = 6",
+                                  "SELECT * FROM Ciudad",
                                   "UPDATE actividad SET Hecho = 1",
                                   "DELETE FROM Proyecto",
                                   "UPDATE Agente SET Nombre = 'x'",

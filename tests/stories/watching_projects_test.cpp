@@ -75,7 +75,8 @@ TEST_F(WatchingProjects, the_filter_shows_one_status_or_what_is_open)
     for (const int status : {1, 2, 3, 4, 5, 6})
         for (const bool planned : {true, false}) {
             const std::string name = std::to_string(status) + (planned ? " con cita" : " sin cita");
-            const Columns columns{{"UF_Status1", std::to_string(status)}};
+            const Columns columns{{"UF_Status1", std::to_string(status)},
+                                  {"FInicio", "'2026-01-0" + std::to_string(status) + "'"}};
             if (planned)
                 due(name, status, columns);
             else
