@@ -134,14 +134,10 @@ TEST_F(Rights, suffice_for_entering_correcting_and_assigning)
                 SizeIs(1));
 }
 
-TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
+TEST_F(Rights, suffice_for_the_queue_of_the_day)
 {
     prospect("María");
-    database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
-    database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
-    database("INSERT INTO Persona (Sys_PK, Nombre) VALUES (1, 'Luz')");
-    database(
-        "INSERT INTO Proyecto (IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) VALUES (7, 1, 1, 1, 1)");
+    project("Sin citas");
     enters(ana);
     opensTab(desk::hoy);
     EXPECT_EQ(sees("lblcuenta2"), "Hoy: 2 actividades | Proyectos: 1 Contactos: 1");
