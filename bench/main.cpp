@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 
 #include <cstdio>
 #include <exception>
@@ -45,13 +46,21 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rows("rows", "Prospects.", "number", "100000");
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
-                                    "/tmp/dn-bench");
+                                    QDir::tempPath() + "/dn-bench");
     const QCommandLineOption only(
         "only", "One benchmark: loading, projects, directory, memory, filling, growth or commands.", "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
-    return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
-            (parser.value(folder) + "-" + parser.value(rows)).toStdString(), parser.value(only)};
+    const QStringList benchmarks{"",       "loading", "projects", "directory",
+                                 "memory", "filling", "growth",   "commands"};
+    if (!benchmarks.contains(parser.value(only)))
+        throw std::runtime_error("no such benchmark: " + parser.value(only).toStdString());
+    const qulonglong count = parser.value(rows).toULongLong();
+    if (count < 1000) throw std::runtime_error("--rows takes 1,000 and more");
+    const int times = parser.value(rounds).toInt();
+    if (times < 1) throw std::runtime_error("--rounds takes 1 and more");
+    return {parser.isSet(check), count, times, (parser.value(folder) + "-" + parser.value(rows)).toStdString(),
+            parser.value(only)};
 }
 
 // ---- Loading the prospects -------------------------------------------------------------------------------------

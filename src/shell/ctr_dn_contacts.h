@@ -6,7 +6,7 @@
 //
 // Order of the host's calls, which is binding: create the control, hand over the factory of the host's objects,
 // `SetObjects`, `InitUICRM`, `RefreshData`; from then on any of them again, at will. Everything runs on the host's
-// user-interface thread.
+// user-interface thread. Neither the control nor the connection may end while one of the control's windows is open.
 #pragma once
 
 #include "calling/call_decision.h"

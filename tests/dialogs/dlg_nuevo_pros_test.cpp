@@ -54,7 +54,9 @@ protected:
         dialog.Show();
     }
 
-    void fillIn()
+    void fillIn() { fillIn(dialog); }
+
+    static void fillIn(dialogs::dlgNuevoPros& dialog)
     {
         dialog.txtNombre.edit("María Ñúñez");
         dialog.txtTelefono.edit("961 111 1111");
@@ -112,18 +114,7 @@ TEST_F(NewProspect, reads_the_lists_ahead_of_the_first_sight_and_preselects_none
 TEST_F(NewProspect, has_each_field_beside_its_label_in_the_order_of_the_key_tab)
 {
     show([&] {
-        screen::Container& form = *dialog.txtNombre.parent();
-        std::vector<screen::Element*> order(form.children());
-        std::stable_sort(order.begin(), order.end(),
-                         [](const screen::Element* left, const screen::Element* right) {
-                             return left->TabIndex() < right->TabIndex();
-                         });
-        std::vector<std::string> seen;
-        for (const screen::Element* element : order) {
-            const auto* const label = dynamic_cast<const screen::Label*>(element);
-            seen.push_back(label != nullptr ? label->Caption() : element->name());
-        }
-        EXPECT_THAT(seen,
+        EXPECT_THAT(inTabOrder(*dialog.txtNombre.parent()),
                     ElementsAre("Nombre:", "txtNombre", "Teléfono:", "txtTelefono",
                                 "Correo electrónico:", "txtCorreo", "Empresa:", "txtEmpresa",
                                 "Puesto:", "txtPuesto", "País:", "cPais", "Estado:", "cEdo", "Ciudad:", "cCiudad",
@@ -305,7 +296,19 @@ TEST_F(NewProspect, does_not_care_whether_he_is_a_dealer)
         dialog.chk1.toggle();
         dialog.cmdOk.press();
     });
-    EXPECT_THAT(cnn.statements().front(), HasSubstr("7, 0, 1, 0, 'URL_Directo')"));
+    const std::vector<std::string> ofDealer = cnn.statements();
+    cnn.forgetStatements();
+    dialogs::dlgNuevoPros other(ports.ports());
+    other.Motor = dialog.Motor;
+    other.pkEjecutivo = dialog.pkEjecutivo;
+    other.Cnn = &cnn;
+    ports.events.expectModal("dlgNuevoPros", [&](screen::Form&) {
+        cnn.forgetStatements();
+        fillIn(other);
+        other.cmdOk.press();
+    });
+    other.Show();
+    EXPECT_EQ(cnn.statements(), ofDealer);
 }
 
 TEST_F(NewProspect, writes_the_line_ends_of_the_notes_as_four_characters)

@@ -206,9 +206,10 @@ TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
     EXPECT_THAT(inTheDatabase("SELECT CONCAT(IProyecto, '|', FInicio, '|', Hecho) FROM actividad ORDER BY Sys_PK"),
                 ElementsAre(silo + "|2026-03-14 08:00:00|1", silo + "|2026-03-20 10:00:00|0",
                             molino + "|2026-03-20 10:00:00|0"));
-    EXPECT_THAT(host.log.calls, testing::IsSupersetOf(std::vector<std::string>{
-                                    "CrearPersona Nora|Internal|Internal|1|961||x@x.mx||7", "CrearProyecto 0 501",
-                                    "CrearProyecto 2 0", "EditarProyecto " + silo, "EditarProyecto " + molino}));
+    const std::vector<std::string> asked{"CrearPersona Nora|Internal|Internal|1|961||x@x.mx||7",
+                                         "CrearProyecto 0 501", "CrearProyecto 2 0", "EditarProyecto " + silo,
+                                         "EditarProyecto " + molino};
+    EXPECT_THAT(host.log.calls, testing::IsSupersetOf(asked));
 
     itIs("2026-03-15 08:00:00");
     opensTab(desk::hoy);

@@ -136,8 +136,6 @@ TEST_F(Rights, suffice_for_entering_correcting_and_assigning)
 
 TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
 {
-    for (const char* table : {"Proyecto", "actividad", "Persona", "Organizacion"})
-        database(std::string("DELETE FROM ") + table);
     prospect("María");
     database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
     database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
@@ -167,8 +165,6 @@ TEST_F(Rights, suffice_for_projects_conversions_and_colours)
 
 TEST_F(Rights, suffice_for_the_directories)
 {
-    database("DELETE FROM Persona");
-    database("DELETE FROM Organizacion");
     database("INSERT INTO Persona (Nombre, IEjecutivo) VALUES ('Luz', 7)");
     database("INSERT INTO Organizacion (Nombre, IEjecutivo) VALUES ('Aceros', 7)");
     enters(ana);
