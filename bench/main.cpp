@@ -3,12 +3,13 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|memory|filling|growth] [--rows N] [--rounds N] [--folder DIR]
+//     dn_bench [--check] [--only loading|memory|filling|growth|commands] [--rows N] [--rounds N] [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
+#include "bench/commands.h"
 #include "bench/measure.h"
 #include "bench/report.h"
 #include "bench/workbench.h"
@@ -42,7 +43,8 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
                                     "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, memory, filling or growth.", "benchmark");
+    const QCommandLineOption only("only", "One benchmark: loading, memory, filling, growth or commands.",
+                                  "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
     return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
@@ -189,8 +191,9 @@ int run(const QApplication& application)
     Report report;
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
+    if (options.runs("commands")) benchCommands(database, options.rounds, report);
     Texts texts;
-    {
+    if (options.runs("filling") || options.runs("growth")) {
         Workbench workbench;
         workbench.open(database);
         texts = textsOf(workbench.lvw());

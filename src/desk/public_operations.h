@@ -15,6 +15,8 @@ public:
     virtual void cmdSend_Click() = 0;
     /// Shows the mails of a record. @param t 0 a prospect, 1 a project. @param Sys_PK its key.
     virtual void Historial(std::int16_t& t, std::int32_t& Sys_PK) = 0;
+    /// Asks for an agent. @return his key; 0 when none was chosen or anything failed.
+    virtual std::int32_t ShSelAgente() = 0;
 
 protected:
     ~PublicOperations() = default;

@@ -58,6 +58,22 @@ public:
 
     void Caption(std::string caption) { set(caption_, std::move(caption)); }
 
+    /// Whether the operator may change its size, by its frame.
+    bool resizable() const { return resizable_; }
+
+    /// From now on he may, down to the size that it has at present.
+    void makeResizable();
+
+    Twips MinWidth() const { return minWidth_; }
+    Twips MinHeight() const { return minHeight_; }
+
+    /// The operator gives it another size; no smaller one than the smallest, and none at all unless it is
+    /// resizable.
+    void resize(Twips width, Twips height);
+
+    /// Raised when a resizing has changed the size.
+    Signal<> Resize;
+
     /// Ends the modal loop; the elements keep their state.
     void Hide() { Visible(false); }
 
@@ -70,6 +86,9 @@ public:
 
 private:
     std::string caption_;
+    Twips minWidth_ = 0;
+    Twips minHeight_ = 0;
+    bool resizable_ = false;
 };
 
 /// A plain line drawn on a form.

@@ -4,6 +4,8 @@
 #include "shell/agents.h"
 
 #include "data/failure_modes.h"
+#include "desk/agent_rows.h"
+#include "dialogs/dlg_sel_agente.h"
 
 namespace dn::shell {
 
@@ -11,16 +13,11 @@ using data::resumeNext;
 
 void Agents::LoadAgentes() // no trap
 {
-    const auto agents = session_.cnn().execute("Select Sys_PK, Nombre From Agente Order By Nombre");
+    const auto agents = session_.cnn().execute(desk::agentsStatement);
     desk::ComboBox& cbAgente = top_.cbAgente;
     cbAgente.Clear();
     cbAgente.AddItem("< Sin asignar >");
-    if (!agents) throw RuntimeError::objectNotSet(); // an update in disguise: there is nothing to read
-    while (!agents->Eof()) {
-        cbAgente.AddItem(agents->Fields()("Nombre").Value().toText());
-        cbAgente.ItemData(cbAgente.NewIndex(), agents->Fields()("Sys_PK").Value().toInt32());
-        agents->MoveNext();
-    }
+    desk::addAgents(cbAgente, agents.get());
 }
 
 void Agents::SelAgente(std::int32_t PK) // continue-on-error
@@ -43,6 +40,16 @@ void Agents::cbAgente_Click() // continue-on-error
     });
     resumeNext([&] { tabs_.ArrangeTabs(); });
     resumeNext([&] { tabs_.ShowActiveTab(); });
+}
+
+std::int32_t Agents::ShSelAgente() // continue-on-error
+{
+    std::int32_t key = 0;
+    dialogs::dlgSelAgente dialog(ports_);
+    resumeNext([&] { dialog.Cnn = session_.AdoCnn; });
+    resumeNext([&] { dialog.Show(); });
+    resumeNext([&] { key = dialog.pkAgenteSel; });
+    return key;
 }
 
 } // namespace dn::shell

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The combo of agents: whose work the control shows.
+// The agents: the combo of whose work the control shows, and the choice of one in a dialog.
 #pragma once
 
 #include "desk/elements.h"
 #include "desk/session.h"
+#include "screen/ports.h"
 #include "shell/tabs.h"
 
 #include <cstdint>
@@ -14,7 +15,8 @@ namespace dn::shell {
 
 class Agents {
 public:
-    Agents(desk::Session& session, desk::TopElements& top, Tabs& tabs) : session_(session), top_(top), tabs_(tabs)
+    Agents(desk::Session& session, desk::TopElements& top, Tabs& tabs, screen::Ports ports)
+        : session_(session), top_(top), tabs_(tabs), ports_(ports)
     {
     }
 
@@ -29,10 +31,14 @@ public:
     /// Tells the host's screens who works, and shows the tab in view anew.
     void cbAgente_Click();
 
+    /// Asks for an agent. @return his key; 0 when none was chosen or anything failed.
+    std::int32_t ShSelAgente();
+
 private:
     desk::Session& session_;
     desk::TopElements& top_;
     Tabs& tabs_;
+    screen::Ports ports_;
 };
 
 } // namespace dn::shell

@@ -3,6 +3,8 @@
 
 #include "shell/ctr_dn_contacts.h"
 
+#include "base/runtime_error.h"
+
 namespace dn {
 
 ctrDnContacts::ctrDnContacts(screen::Ports ports)
@@ -15,13 +17,15 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       prospectInteraction_(elements_.prospects),
       prospectList_(session_, elements_.prospects, elements_.top, tabStrip_, prospectDetail_, counters_, ports),
       prospectStatus_(session_, elements_.prospects, elements_.detail, prospectList_, hostScreens_, ports.dialogs),
+      prospectEditing_(session_, elements_.prospects, elements_.top, prospectList_, *this, ports),
+      assignment_(session_, elements_.prospects, prospectList_, *this, ports),
       phoneChoice_(session_),
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
       projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_, {prospectDetail_, prospectList_, projectDetail_, projectList_}),
-      agents_(session_, elements_.top, tabs_),
+      agents_(session_, elements_.top, tabs_, ports),
       startUp_(session_, elements_, agents_, tabs_, ports)
 {
     wire();
@@ -29,5 +33,15 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
 }
 
 ctrDnContacts::~ctrDnContacts() = default;
+
+namespace {
+
+constexpr const char* noMail = "El correo todavía no está disponible";
+
+}
+
+void ctrDnContacts::cmdSend_Click() { throw RuntimeError(noMail); }
+
+void ctrDnContacts::Historial(std::int16_t&, std::int32_t&) { throw RuntimeError(noMail); }
 
 } // namespace dn

@@ -13,6 +13,7 @@
 #include "desk/elements.h"
 #include "desk/host_objects.h"
 #include "desk/host_screens.h"
+#include "desk/public_operations.h"
 #include "desk/session.h"
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
@@ -21,7 +22,9 @@
 #include "projects/project_commands.h"
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
+#include "prospects/assignment.h"
 #include "prospects/prospect_detail.h"
+#include "prospects/prospect_editing.h"
 #include "prospects/prospect_interaction.h"
 #include "prospects/prospect_list.h"
 #include "prospects/prospect_status.h"
@@ -39,7 +42,7 @@
 
 namespace dn {
 
-class ctrDnContacts {
+class ctrDnContacts : public desk::PublicOperations {
 public:
     /// @param ports what the control needs of the machine; kept alive by the caller for the life of the control.
     explicit ctrDnContacts(screen::Ports ports);
@@ -122,6 +125,13 @@ public:
     /// administrators'.
     void SelAgente(std::int32_t PK) { agents_.SelAgente(PK); }
 
+    /// Asks for an agent in a dialog. @return his key; 0 when none was chosen or anything failed.
+    std::int32_t ShSelAgente() override { return agents_.ShSelAgente(); }
+
+    // There is no mail yet. @throws RuntimeError always.
+    void cmdSend_Click() override;
+    void Historial(std::int16_t& t, std::int32_t& Sys_PK) override;
+
     // ---- For the screen layer and for tests
 
     /// The outermost element, for the layer that shows the control and gives it its size.
@@ -144,6 +154,8 @@ private:
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
+    prospects::ProspectEditing prospectEditing_;
+    prospects::Assignment assignment_;
     projects::PhoneChoice phoneChoice_;
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;

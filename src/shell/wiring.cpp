@@ -22,7 +22,9 @@ void ctrDnContacts::wire()
     using projects::ProjectCommands;
     using projects::ProjectDetail;
     using projects::ProjectList;
+    using prospects::Assignment;
     using prospects::ProspectDetail;
+    using prospects::ProspectEditing;
     using prospects::ProspectInteraction;
     using prospects::ProspectStatus;
     const auto join = [this](auto& event, auto& room, auto handler) {
@@ -38,6 +40,9 @@ void ctrDnContacts::wire()
     join(prospects.cbStatus.Click, prospectStatus_, &ProspectStatus::cbStatus_Click);
     join(detail.Combo1.Click, prospectStatus_, &ProspectStatus::Combo1_Click);
     join(prospects.cmdProsDiscart.Click, prospectStatus_, &ProspectStatus::cmdProsDiscart_Click);
+    join(prospects.cmdProsNewPros.Click, prospectEditing_, &ProspectEditing::cmdProsNewPros_Click);
+    join(detail.cmdEditC.Click, prospectEditing_, &ProspectEditing::cmdEditC_Click);
+    join(prospects.cmdProsAsignPros.Click, assignment_, &Assignment::cmdProsAsignPros_Click);
     join(prospects.lvw.ItemClick, prospectDetail_, &ProspectDetail::lvw_ItemClick);
     join(prospects.lvw.ColumnClick, prospectInteraction_, &ProspectInteraction::lvw_ColumnClick);
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);

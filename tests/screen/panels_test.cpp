@@ -171,5 +171,45 @@ TEST_F(Dialog, closing_its_window_hides_it_and_presses_nothing)
     EXPECT_EQ(clicks.count(), 0);
 }
 
+TEST_F(Dialog, keeps_its_size_unless_it_is_made_resizable)
+{
+    const Listener resized(form.Resize);
+    form.Move(0, 0, 3000, 1500);
+    form.Visible(true);
+
+    form.resize(6000, 6000);
+
+    EXPECT_THAT(frameOf(form), ElementsAre(0, 0, 3000, 1500));
+    EXPECT_EQ(resized.count(), 0);
+}
+
+TEST_F(Dialog, made_resizable_grows_and_goes_back_to_its_first_size_at_the_least)
+{
+    const Listener resized(form.Resize);
+    form.Move(0, 0, 3000, 1500);
+    form.makeResizable();
+    form.Visible(true);
+
+    form.resize(4500, 1500);
+    EXPECT_THAT(frameOf(form), ElementsAre(0, 0, 4500, 1500));
+    form.resize(4500, 1500);
+    EXPECT_EQ(resized.count(), 1) << "the same size again is none";
+    form.resize(15, 15);
+    EXPECT_THAT(frameOf(form), ElementsAre(0, 0, 3000, 1500));
+    EXPECT_EQ(resized.count(), 2);
+    EXPECT_EQ(form.MinWidth(), 3000);
+    EXPECT_EQ(form.MinHeight(), 1500);
+}
+
+TEST_F(Dialog, takes_no_size_while_it_is_hidden)
+{
+    form.Move(0, 0, 3000, 1500);
+    form.makeResizable();
+
+    form.resize(6000, 6000);
+
+    EXPECT_THAT(frameOf(form), ElementsAre(0, 0, 3000, 1500));
+}
+
 } // namespace
 } // namespace dn::screen

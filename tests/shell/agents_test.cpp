@@ -3,7 +3,9 @@
 
 // The combo of agents: filling it, selecting by key, and what a selection does.
 
+#include "screen/list_box.h"
 #include "tests/support/control_fixture.h"
+#include "tests/support/element_tree.h"
 
 namespace dn::tests {
 namespace {
@@ -113,6 +115,36 @@ TEST_F(Agents, a_key_beyond_32_bits_is_an_error_of_the_call)
     cnn.on(agentsStatement).gives({"Sys_PK", "Nombre"}, {{whole(3'000'000'000), text("Imposible")}});
     connect(7, true);
     EXPECT_THROW(control.RefreshData(), RuntimeError);
+}
+
+// ---- Asking for an agent
+
+TEST_F(Agents, ShSelAgente_gives_the_key_of_the_agent_chosen)
+{
+    connect(7, true);
+    ports.events.expectModal("dlgSelAgente", [](screen::Form& form) {
+        elementNamed<screen::ListBox>(form, "cbAgente").doubleClick(1);
+    });
+    EXPECT_EQ(control.ShSelAgente(), 9);
+    EXPECT_THAT(cnn.statements(), ElementsAre(agentsStatement));
+}
+
+TEST_F(Agents, ShSelAgente_gives_0_when_none_is_chosen)
+{
+    connect(7, true);
+    ports.events.expectModal("dlgSelAgente", [](screen::Form& form) {
+        elementNamed<screen::ListBox>(form, "cbAgente").pick(1);
+        form.closeWindow();
+    });
+    EXPECT_EQ(control.ShSelAgente(), 0);
+}
+
+TEST_F(Agents, ShSelAgente_gives_0_when_anything_fails)
+{
+    EXPECT_EQ(control.ShSelAgente(), 0) << "there is no connection yet";
+    connect(7, true);
+    failAt(1);
+    EXPECT_EQ(control.ShSelAgente(), 0);
 }
 
 } // namespace

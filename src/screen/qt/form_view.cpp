@@ -60,9 +60,31 @@ void FormView::mirror()
 {
     if (element_ == nullptr) return;
     setWindowTitle(fromUtf8(element_->Caption()));
-    setFixedSize(pixelRect(*element_).size());
+    mirrorSize();
     setEnabled(element_->Enabled());
     if (!element_->Visible()) finish();
+}
+
+void FormView::mirrorSize()
+{
+    if (following_) return;
+    const QSize size = pixelRect(*element_).size();
+    if (!element_->resizable()) {
+        setFixedSize(size);
+        return;
+    }
+    setMinimumSize(pixelEdge(element_->MinWidth()), pixelEdge(element_->MinHeight()));
+    setSizeGripEnabled(true);
+    resize(size);
+}
+
+void FormView::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (element_ == nullptr || size() == pixelRect(*element_).size()) return;
+    following_ = true;
+    guard_.run([this] { element_->resize(width() * twipsPerPixel, height() * twipsPerPixel); });
+    following_ = false;
 }
 
 // A form that is shown again gets a view of its own; this one is over.

@@ -27,14 +27,17 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void mirror();
+    void mirrorSize();
     void finish();
     void close(bool byKey);
 
     screen::Form* element_;
     Guard& guard_;
+    bool following_ = false; ///< the element takes the window's size: what it tells meanwhile is half of it
     std::unique_ptr<FocusKeeper> focus_;
     Subscriptions wires_;
 };

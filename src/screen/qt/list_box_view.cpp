@@ -57,11 +57,14 @@ void ListBoxView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void ListBoxView::keyPressEvent(QKeyEvent* event)
 {
-    const QPersistentModelIndex before = currentIndex();
-    if (event->key() == Qt::Key_Space && before.isValid()) {
-        bond_.gesture([&](auto& it) { it.toggle(before.row()); });
+    if (event->key() == Qt::Key_Space && currentIndex().isValid()) {
+        bond_.gesture([row = currentIndex().row()](auto& it) { it.toggle(row); });
         return;
     }
+    // The toolkit steps into the first line with the focus; where none is selected, that is to be the first key's.
+    const ListBox* const list = bond_.element();
+    if (list != nullptr && !list->checkBoxes() && list->ListIndex() < 0) selectionModel()->clearCurrentIndex();
+    const QPersistentModelIndex before = currentIndex();
     QListView::keyPressEvent(event);
     if (QPersistentModelIndex(currentIndex()) != before) pickCurrent();
 }
