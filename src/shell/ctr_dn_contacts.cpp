@@ -22,7 +22,7 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       phoneChoice_(session_),
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
-      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
+      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_, {prospectDetail_, prospectList_, projectDetail_, projectList_}),
       agents_(session_, elements_.top, tabs_, ports),

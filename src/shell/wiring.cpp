@@ -56,6 +56,7 @@ void ctrDnContacts::wire()
     join(projects.cmdProjSeekProj.Click, projectCommands_, &ProjectCommands::cmdProjSeekProj_Click);
     join(projects.cmdProjNewContact.Click, projectCommands_, &ProjectCommands::cmdProjNewContact_Click);
     join(projects.cmdProjNewOrg.Click, projectCommands_, &ProjectCommands::cmdProjNewOrg_Click);
+    join(projects.cmdNewProjTool.Click, projectCommands_, &ProjectCommands::cmdNewProjTool_Click);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);
