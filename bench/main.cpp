@@ -3,13 +3,15 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|memory|filling|growth|commands] [--rows N] [--rounds N] [--folder DIR]
+//     dn_bench [--check] [--only loading|memory|filling|growth|commands|export] [--rows N] [--rounds N] [--folder
+//     DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
 #include "bench/commands.h"
+#include "bench/export.h"
 #include "bench/measure.h"
 #include "bench/report.h"
 #include "bench/workbench.h"
@@ -43,7 +45,7 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
                                     "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, memory, filling, growth or commands.",
+    const QCommandLineOption only("only", "One benchmark: loading, memory, filling, growth, commands or export.",
                                   "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
@@ -184,11 +186,9 @@ void benchGrowth(const Texts& texts, int rounds, Report& report)
     report.bar("selection by key, a hundred times the rows", large.select / small.select, 1.5, "times");
 }
 
-int run(const QApplication& application)
+void benchOnTheDatabase(const Options& options, Report& report)
 {
-    const Options options = readOptions(application);
     BenchDatabase database(options.folder, options.rows);
-    Report report;
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
     if (options.runs("commands")) benchCommands(database, options.rounds, report);
@@ -200,6 +200,14 @@ int run(const QApplication& application)
     }
     if (options.runs("filling")) benchFilling(texts, options.rounds, report);
     if (options.runs("growth")) benchGrowth(texts, options.rounds, report);
+}
+
+int run(const QApplication& application)
+{
+    const Options options = readOptions(application);
+    Report report;
+    if (options.runs("export")) benchExport(options.rounds, report);
+    if (options.only != "export") benchOnTheDatabase(options, report);
     std::printf("%zu prospects, the middle of %d rounds\n\n%s", options.rows, options.rounds,
                 report.table().c_str());
     if (!options.check) return 0;

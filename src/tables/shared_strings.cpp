@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::uint16_t sharedStrings = 0x00FC;
 
+bool isFirstHalf(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+
 } // namespace
 
 SharedStrings::SharedStrings(Records& records) : records_(records)
@@ -22,8 +24,8 @@ SharedStrings::SharedStrings(Records& records) : records_(records)
 void SharedStrings::add(std::string_view text)
 {
     convert(text);
-    constexpr std::size_t head = 3; // it must not be torn from its first unit
-    if (records_.room() < head + (wide_ ? 2 : 1)) goOn();
+    constexpr std::size_t head = 3; // it must not be torn from its first character
+    if (records_.room() < head + (wide_ ? 4 : 1)) goOn();
     records_.u16(static_cast<std::uint32_t>(units_.size())).u8(wide_ ? 1 : 0);
     writeUnits();
     ++count_;
@@ -58,18 +60,19 @@ void SharedStrings::append(char32_t character)
     }
 }
 
-// A text that goes on in a further record says there once more how wide its units are.
+// A text that goes on in a further record says there once more how wide its units are. Both halves of a character
+// stay in one record: readers decode record by record.
 void SharedStrings::writeUnits()
 {
     const std::size_t width = wide_ ? 2 : 1;
     for (std::size_t next = 0; next < units_.size();) {
-        if (records_.room() < width) {
-            goOn();
-            records_.u8(wide_ ? 1 : 0);
-        }
-        const std::size_t behind = std::min(units_.size(), next + records_.room() / width);
+        std::size_t behind = std::min(units_.size(), next + records_.room() / width);
+        if (behind > next && behind < units_.size() && isFirstHalf(units_[behind - 1])) --behind;
         for (; next < behind; ++next)
             wide_ ? records_.u16(units_[next]) : records_.u8(units_[next]);
+        if (next == units_.size()) return;
+        goOn();
+        records_.u8(wide_ ? 1 : 0);
     }
 }
 
