@@ -3,6 +3,7 @@
 
 #include "bench/bench_database.h"
 
+#include "directories/statement.h"
 #include "prospects/prospect_statement.h"
 
 #include <cstdio>
@@ -34,6 +35,27 @@ BenchDatabase::BenchDatabase(const std::string& folder, std::size_t rows)
     if (counted != static_cast<std::int64_t>(rows))
         throw std::runtime_error("the folder holds " + std::to_string(counted) + " prospects and not " +
                                  std::to_string(rows));
+    makePersons();
+}
+
+// A person for each prospect. A former run left as many as there are, or the sample data fewer.
+void BenchDatabase::makePersons()
+{
+    const auto counted = connection().execute("SELECT COUNT(*) FROM Persona")->value(0).toWhole();
+    if (counted == static_cast<std::int64_t>(rows_)) return;
+    connection().execute("DELETE FROM Persona");
+    connection().execute(
+        "INSERT INTO Persona (Codigo, Nombre, Apellido1, Apellido2, EMail, Tel_Casa, Tel_Movil, Domicilio, "
+        "Colonia, "
+        "CodPostal, IEjecutivo) SELECT CONCAT('P-', Sys_PK), SUBSTRING_INDEX(uf_Nombre, ' ', 1), "
+        "SUBSTRING_INDEX(uf_Nombre, ' ', -1), uf_Ciudad, uf_EMail, uf_Telefono, uf_Telefono, CONCAT('Calle ', "
+        "uf_Ciudad, ' ', Sys_PK), uf_Estado, LPAD(Sys_PK % 100000, 5, '0'), " +
+        std::to_string(agent_) + " FROM ut_icontact");
+}
+
+std::string BenchDatabase::personStatement() const
+{
+    return directories::directoryStatement(directories::persons, true, agent_);
 }
 
 std::string BenchDatabase::statement() const { return prospects::prospectStatement(true, agent_, 0); }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The rows that all benchmarks share: a private server with sample prospects, all of one agent and one status.
+// The rows that all benchmarks share: a private server with sample prospects, all of one agent and one status, and
+// as many persons of the same agent.
 #pragma once
 
 #include "host/database/database.h"
@@ -24,10 +25,14 @@ public:
     std::size_t rows() const { return rows_; }
     /// Where the alternatives reach the same server.
     const host::MariadbTarget& target() const { return target_; }
-    /// The statement that the control sends for these rows.
+    /// The statement that the control sends for the prospects.
     std::string statement() const;
+    /// The statement that the control sends for the persons.
+    std::string personStatement() const;
 
 private:
+    void makePersons();
+
     host::Database database_;
     host::MariadbTarget target_;
     std::int32_t agent_ = 0;

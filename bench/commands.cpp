@@ -168,7 +168,9 @@ void benchDetail(Desk& desk, BenchDatabase& database, int rounds, Report& report
     std::vector<Cost> timelines;
     for (int round = 0; round < rounds; ++round) {
         clicks.push_back(desk.toTimeline([&] { desk.lvw().clickRow(static_cast<std::size_t>(round) + 1); }));
-        if (desk.control.elements().detail.txtInfo.Text().empty()) report.wrong("click", "the detail is empty");
+        const std::string_view key = desk.lvw().ListItems()(round + 2).Key();
+        if (!desk.control.elements().detail.txtInfo.Text().starts_with(key))
+            report.wrong("click", "the detail is not that of the row");
         timelines.push_back(desk.toTimeline([&] { desk.lvw().clickRow(0); }));
     }
     if (desk.shownLines() < 3U * longTimeline) report.wrong("timeline", "lines are missing");

@@ -10,7 +10,7 @@
 namespace dn::bench {
 
 /// Sorts and checks all rows, clicks one, opens a long timeline, discards and assigns a thousand.
-/// Leaves the rows as it found them.
+/// Leaves the rows open and assigned as it found them, without the reasons of earlier discards.
 void benchCommands(BenchDatabase& database, int rounds, Report& report);
 
 } // namespace dn::bench

@@ -3,8 +3,9 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|memory|filling|growth|commands|export] [--rows N] [--rounds N] [--folder
-//     DIR]
+//     dn_bench [--check] [--only loading|projects|directory|memory|filling|growth|commands|export] [--rows N]
+//     [--rounds N]
+//              [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
@@ -13,11 +14,13 @@
 #include "bench/commands.h"
 #include "bench/export.h"
 #include "bench/measure.h"
+#include "bench/project_rows.h"
 #include "bench/report.h"
 #include "bench/workbench.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 
 #include <cstdio>
 #include <exception>
@@ -44,13 +47,22 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rows("rows", "Prospects.", "number", "100000");
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
-                                    "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, memory, filling, growth, commands or export.",
-                                  "benchmark");
+                                    QDir::tempPath() + "/dn-bench");
+    const QCommandLineOption only(
+        "only", "One benchmark: loading, projects, directory, memory, filling, growth, commands or export.",
+        "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
-    return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
-            (parser.value(folder) + "-" + parser.value(rows)).toStdString(), parser.value(only)};
+    const QStringList benchmarks{"",        "loading", "projects", "directory", "memory",
+                                 "filling", "growth",  "commands", "export"};
+    if (!benchmarks.contains(parser.value(only)))
+        throw std::runtime_error("no such benchmark: " + parser.value(only).toStdString());
+    const qulonglong count = parser.value(rows).toULongLong();
+    if (count < 1000) throw std::runtime_error("--rows takes 1,000 and more");
+    const int times = parser.value(rounds).toInt();
+    if (times < 1) throw std::runtime_error("--rounds takes 1 and more");
+    return {parser.isSet(check), count, times, (parser.value(folder) + "-" + parser.value(rows)).toStdString(),
+            parser.value(only)};
 }
 
 // ---- Loading the prospects -------------------------------------------------------------------------------------
@@ -67,7 +79,7 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
     std::size_t modelRows = 0;
     for (int round = 0; round < rounds; ++round) {
         ours.push_back(workbench.load());
-        bare.push_back(bareFetch(database, cells));
+        bare.push_back(bareFetch(database, {database.statement()}, cells));
         queryModel.push_back(sqlQueryModel(database, Reading::shownCells, modelRows));
         queryModelRead.push_back(sqlQueryModel(database, Reading::everyCell, modelRows));
     }
@@ -88,6 +100,56 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
                1.0 / 6, "times");
 }
 
+// ---- Loading the projects --------------------------------------------------------------------------------------
+
+void benchProjects(BenchDatabase& database, int rounds, Report& report)
+{
+    const ProjectRows rows(database);
+    Workbench workbench(dn::desk::proyectos);
+    workbench.open(database);
+    std::vector<Cost> ours;
+    std::vector<Cost> bare;
+    std::size_t cells = 0;
+    for (int round = 0; round < rounds; ++round) {
+        ours.push_back(workbench.load());
+        bare.push_back(bareFetch(database, rows.statements(), cells));
+    }
+    if (workbench.rows() != ProjectRows::projects)
+        report.wrong("RefreshProyectos", "rows are missing in the list");
+    if (cells != rows.cells()) report.wrong("bare fetch of the projects", "cells are missing");
+    for (int row = 1; row <= workbench.list().ListItems().Count(); ++row)
+        if (workbench.list().ListItems()(row).ListSubItems().Count() != 14)
+            report.wrong("RefreshProyectos", "a project is not shown by its activity");
+    report.figure("RefreshProyectos to the first frame, client CPU", median(ours).cpu, "ms");
+    report.figure("RefreshProyectos to the first frame, wall", median(ours).wall, "ms");
+    report.figure("bare libmariadb store_result of both statements, every cell read, client CPU", median(bare).cpu,
+                  "ms");
+    report.bar("RefreshProyectos against the bare fetch", median(ours).cpu / median(bare).cpu, 3, "times");
+}
+
+// ---- Loading the persons ---------------------------------------------------------------------------------------
+
+void benchDirectory(BenchDatabase& database, int rounds, Report& report)
+{
+    Workbench workbench(dn::desk::contactos);
+    workbench.open(database);
+    std::vector<Cost> ours;
+    std::vector<Cost> bare;
+    std::size_t cells = 0;
+    for (int round = 0; round < rounds; ++round) {
+        ours.push_back(workbench.load());
+        bare.push_back(bareFetch(database, {database.personStatement()}, cells));
+    }
+    if (workbench.rows() != database.rows()) report.wrong("LoadContactos", "rows are missing in the list");
+    const auto columns = database.connection().execute(database.personStatement())->names().size();
+    if (cells != database.rows() * columns) report.wrong("bare fetch of the persons", "cells are missing");
+    const double load = median(ours).cpu;
+    report.figure("LoadContactos to the first frame, client CPU", load, "ms");
+    report.figure("LoadContactos to the first frame, wall", median(ours).wall, "ms");
+    report.figure("bare libmariadb store_result of the persons, client CPU", median(bare).cpu, "ms");
+    report.bar("LoadContactos against the bare fetch", load / median(bare).cpu, 3, "times");
+}
+
 // ---- Rows in memory --------------------------------------------------------------------------------------------
 
 Texts textsOf(dn::screen::ListView& list)
@@ -103,7 +165,7 @@ Texts textsOf(dn::screen::ListView& list)
 void benchFilling(const Texts& texts, int rounds, Report& report)
 {
     Workbench workbench;
-    workbench.lvw().Visible(true);
+    workbench.list().Visible(true);
     QCoreApplication::processEvents();
     std::vector<Cost> ours;
     std::vector<Cost> tree;
@@ -131,7 +193,7 @@ void benchMemory(BenchDatabase& database, Report& report)
     workbench.load();
     const std::size_t held = heapBytes() - before;
     std::size_t text = 0;
-    const dn::screen::ListRows& rows = workbench.lvw().rows();
+    const dn::screen::ListRows& rows = workbench.list().rows();
     for (std::size_t row = 0; row < rows.count(); ++row) {
         const auto number = static_cast<dn::screen::ListRows::RowNumber>(row);
         text += rows.key(number).size() + rows.toolTip(number).size();
@@ -155,7 +217,7 @@ struct Constant {
 Constant constantWork(const Texts& texts, std::size_t count, int rounds)
 {
     Workbench workbench;
-    workbench.lvw().Visible(true);
+    workbench.list().Visible(true);
     workbench.fill(Texts(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(count)));
     constexpr int times = 20; // one alone is too short to be measured well
     std::vector<Cost> repaints;
@@ -190,13 +252,15 @@ void benchOnTheDatabase(const Options& options, Report& report)
 {
     BenchDatabase database(options.folder, options.rows);
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
+    if (options.runs("projects")) benchProjects(database, options.rounds, report);
+    if (options.runs("directory")) benchDirectory(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
     if (options.runs("commands")) benchCommands(database, options.rounds, report);
     Texts texts;
     if (options.runs("filling") || options.runs("growth")) {
         Workbench workbench;
         workbench.open(database);
-        texts = textsOf(workbench.lvw());
+        texts = textsOf(workbench.list());
     }
     if (options.runs("filling")) benchFilling(texts, options.rounds, report);
     if (options.runs("growth")) benchGrowth(texts, options.rounds, report);

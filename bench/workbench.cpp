@@ -9,12 +9,16 @@
 
 namespace dn::bench {
 
-Workbench::Workbench()
+Workbench::Workbench(desk::Tab tab) : tab_(tab)
 {
+    desk::Elements& elements = widget_.control().elements();
+    list_ = tab == desk::contactos   ? &elements.persons.lvwContactos
+            : tab == desk::proyectos ? &elements.projects.lvwProy
+                                     : &elements.prospects.lvw;
     widget_.resize(1280, 760);
     widget_.show();
-    view_ = widget_.findChild<QAbstractItemView*>("lvw");
-    if (view_ == nullptr) throw std::runtime_error("the control has no view of its prospects");
+    view_ = widget_.findChild<QAbstractItemView*>(QString::fromStdString(list_->name()));
+    if (view_ == nullptr) throw std::runtime_error("the control has no view of " + list_->name());
     counter_ = new PaintCounter(*view_); // owned by the view
 }
 
@@ -23,14 +27,18 @@ void Workbench::open(BenchDatabase& database)
     ctrDnContacts& control = widget_.control();
     control.SetObjects(&database.connection(), database.agent(), false, "bench");
     control.RefreshData();
-    control.elements().top.lblItem(desk::prospectos).click();
+    control.elements().top.lblItem(tab_).click();
     counter_->awaitPaint();
 }
 
 Cost Workbench::load()
 {
     return measure([&] {
-        widget_.control().elements().top.lblItem(desk::prospectos).click();
+        desk::Elements& elements = widget_.control().elements();
+        if (tab_ == desk::proyectos)
+            elements.projects.cbProjStatusProj.pick(0);
+        else
+            elements.top.lblItem(tab_).click();
         awaitRows();
     });
 }
@@ -43,7 +51,7 @@ Cost Workbench::fill(const Texts& texts)
     return measure([&] {
         for (std::size_t row = 0; row < texts.size(); ++row) {
             const std::vector<std::string>& cells = texts[row];
-            screen::ListSubItems subItems = lvw().ListItems().Add(keys[row], cells.front()).ListSubItems();
+            screen::ListSubItems subItems = list().ListItems().Add(keys[row], cells.front()).ListSubItems();
             for (std::size_t column = 1; column < cells.size(); ++column)
                 subItems.Add(cells[column]);
         }
@@ -53,7 +61,7 @@ Cost Workbench::fill(const Texts& texts)
 
 void Workbench::clear()
 {
-    lvw().ListItems().Clear();
+    list().ListItems().Clear();
     QCoreApplication::processEvents();
 }
 
@@ -68,14 +76,14 @@ Cost Workbench::repaint()
 Cost Workbench::select(const std::string& key)
 {
     return measure([&] {
-        screen::ListItem item = lvw().ListItems()(key);
+        screen::ListItem item = list().ListItems()(key);
         item.Selected(true);
         item.EnsureVisible();
         counter_->awaitPaint();
     });
 }
 
-std::size_t Workbench::rows() { return static_cast<std::size_t>(lvw().ListItems().Count()); }
+std::size_t Workbench::rows() { return static_cast<std::size_t>(list().ListItems().Count()); }
 
 std::size_t Workbench::shownRows() const { return static_cast<std::size_t>(view_->model()->rowCount()); }
 

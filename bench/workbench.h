@@ -20,12 +20,14 @@ namespace dn::bench {
 
 class Workbench {
 public:
-    Workbench();
+    /// @param tab the one whose list is measured: the prospects, the projects or the persons.
+    explicit Workbench(desk::Tab tab = desk::prospectos);
 
-    /// Binds the control to the database and shows the tab of the prospects, which loads them.
+    /// Binds the control to the database and shows the tab, which loads its list.
     void open(BenchDatabase& database);
 
-    /// `LoadProspectos` from its statement to the first painted frame, as a click on the tab runs it.
+    /// The load from its statement to the first painted frame, as a click on the tab runs it; for the projects, as
+    /// a pick in their filter does, without the detail ahead of it.
     Cost load();
     /// Fills the list with rows from memory, up to the first painted frame.
     Cost fill(const Texts& texts);
@@ -38,12 +40,14 @@ public:
     std::size_t rows();
     /// The rows that the view knows of.
     std::size_t shownRows() const;
-    screen::ListView& lvw() { return widget_.control().elements().prospects.lvw; }
+    screen::ListView& list() { return *list_; }
 
 private:
     void awaitRows();
 
     screen::qt::CtrDnContactsWidget widget_;
+    desk::Tab tab_;
+    screen::ListView* list_;
     QAbstractItemView* view_ = nullptr;
     PaintCounter* counter_ = nullptr;
 };

@@ -3,6 +3,7 @@
 
 #include "host/main_window.h"
 
+#include "host/dialler.h"
 #include "shell/ctr_dn_contacts.h"
 
 #include <QAction>
@@ -12,11 +13,6 @@
 #include <QStandardPaths>
 
 namespace dn::host {
-namespace {
-
-constexpr std::int16_t firstTab = desk::prospectos;
-
-} // namespace
 
 MainWindow::MainWindow(Database& database, const Worker& worker)
     : database_(database),
@@ -41,7 +37,14 @@ void MainWindow::start(std::optional<std::int16_t> tab)
     HostObject lands;
     control().InitUICRM(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString(), lands);
     control().RefreshData();
-    control().elements().top.lblItem(tab.value_or(firstTab)).click();
+    if (tab) control().elements().top.lblItem(*tab).click();
+}
+
+// The control does not dial. A number that nobody can dial is the operator's to dial by hand.
+void MainWindow::dialCalls()
+{
+    calls_ = control().callStarted().connect(
+        [](const std::string& /*table*/, std::int32_t /*key*/, const std::string& number) { dial(number); });
 }
 
 void MainWindow::addMenus()
@@ -65,13 +68,17 @@ void MainWindow::addMenus()
     });
 }
 
-// A click on the tab in view loads its list anew.
+// A click on the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
 void MainWindow::refresh()
 {
     for (int i = 0; i < desk::TabStrip::count; ++i) {
         screen::Label& tab = control().elements().top.lblItem(i);
-        if (tab.BackColor() == desk::TabStrip::activeColour) tab.click();
+        if (tab.BackColor() == desk::TabStrip::activeColour) {
+            tab.click();
+            return;
+        }
     }
+    control().RefreshRobot();
 }
 
 void MainWindow::reportError(const std::exception& failure)

@@ -146,6 +146,17 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string without(std::string_view text, std::string_view part)
+{
+    std::string result;
+    std::size_t begin = 0;
+    for (std::size_t found = text.find(part); found != std::string_view::npos; found = text.find(part, begin)) {
+        result.append(text, begin, found - begin);
+        begin = found + part.size();
+    }
+    return result.append(text, begin);
+}
+
 char32_t foldCase(char32_t character)
 {
     static const FoldTable table;

@@ -21,6 +21,9 @@ std::size_t length(std::string_view text);
 /// Without the blanks (U+0020) at both ends.
 std::string_view trimmed(std::string_view text);
 
+/// Without any of the places where `part`, which is not empty, stands; what comes together by that stays.
+std::string without(std::string_view text, std::string_view part);
+
 /// Reads the character at the front and takes it off. Invalid bytes come one at a time as U+DC80 to U+DCFF, so
 /// that they stay distinct from each other and from every valid text.
 /// @param text not empty.

@@ -6,6 +6,7 @@
 #include "desk/elements.h"
 
 #include <array>
+#include <string>
 
 namespace dn::desk {
 namespace {
@@ -58,13 +59,14 @@ CallElements::CallElements(Container& control)
     LabelLlamando.Caption("Llamando...");
     LabelLlamando.FontBold(true);
     LabelLlamando.Move(0, 60, inner, 300);
-    lbltel.Move(0, 390, inner, 300);
-    PG.Move(0, 780, inner, 240);
-    layOut(cmdContesta, "Llamada establecida", "call", 0, 1260, 3630);
-    layOut(cmdOcupado, "Ocupado", "call-busy", 3765, 1260, 3630);
-    layOut(cmdNoContestan, "No contestan", "call-unanswered", 0, 1770, 3630);
-    layOut(cmdFueraServ, "Fuera de servicio", "call-unavailable", 3765, 1770, 3630);
-    layOut(cmdCancelCall, "Cancelar", "cancel", 0, 2280, inner);
+    lbltel.FontBold(true);
+    lbltel.Move(0, 420, inner, 300);
+    PG.Move(0, 900, inner, 240);
+    layOut(cmdContesta, "Llamada establecida", "call", 0, 1530, 3630);
+    layOut(cmdOcupado, "Ocupado", "call-busy", 3765, 1530, 3630);
+    layOut(cmdNoContestan, "No contestan", "call-unanswered", 0, 2160, 3630);
+    layOut(cmdFueraServ, "Fuera de servicio", "call-unavailable", 3765, 2160, 3630);
+    layOut(cmdCancelCall, "Cancelar", "cancel", 0, 2790, inner);
 
     int index = 0;
     for (const char* answer : answers) {
@@ -78,8 +80,17 @@ CallElements::CallElements(Container& control)
     txtResCall.Move(0, 330, inner, 2670);
     layOut(cmdOkCall, "Fin de la llamada", "call-end", 0, 3150, inner);
 
+    int number = 0;
+    for (Button* command : {&cmdContesta, &cmdOcupado, &cmdNoContestan, &cmdFueraServ})
+        command->Shortcut("Ctrl+" + std::to_string(++number));
+    cmdCancelCall.Shortcut("Esc");
+    for (int i = 0; i < cmdCallCon.Count(); ++i)
+        cmdCallCon(i).Shortcut("Ctrl+" + std::to_string(i + 1));
+    cmdOkCall.Shortcut("F8");
+
     PG.Range(0, 100);
     Timer1.Interval(25);
+    Timer1.Moves(PG);
 }
 
 } // namespace dn::desk

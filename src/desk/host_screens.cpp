@@ -47,6 +47,9 @@ std::int32_t HostScreens::NuevoProyecto(std::int32_t&) // continue-on-error
     return made ? result : 0;
 }
 
+// A reference of the caller's own: the host may replace the property while one of its operations runs.
+std::shared_ptr<UI_CRM> HostScreens::oUICRM() const { return present(session_.oUICRM); }
+
 UIProyectos& HostScreens::oUIProyectos()
 {
     if (!oUIProyectos_) oUIProyectos_ = present(make().newUIProyectos());

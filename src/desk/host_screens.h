@@ -33,6 +33,9 @@ public:
     /// @param Key is not used. @return the new project's key; 0 or less when none was made or anything failed.
     std::int32_t NuevoProyecto(std::int32_t& Key);
 
+    /// The directory screens. @throws RuntimeError when there are none.
+    std::shared_ptr<UI_CRM> oUICRM() const;
+
     /// The project screens, created when they are needed for the first time.
     UIProyectos& oUIProyectos();
 

@@ -11,20 +11,6 @@
 #include "desk/timeline.h"
 
 namespace dn::notes {
-namespace {
-
-std::string without(const std::string& text, std::string_view part)
-{
-    std::string result;
-    std::size_t begin = 0;
-    for (std::size_t found = text.find(part); found != std::string::npos; found = text.find(part, begin)) {
-        result.append(text, begin, found - begin);
-        begin = found + part.size();
-    }
-    return result.append(text, begin);
-}
-
-} // namespace
 
 void Notes::cmdIntro_Click() // trap
 {
@@ -74,7 +60,8 @@ screen::ListView* Notes::targetList()
     case desk::hoy: {
         const auto row = elements_.today.lvwHoy.SelectedItem();
         if (!row) return nullptr;
-        return row->Text() == "Contacto" ? &lvw : &lvwProy;
+        todayPanel_.lvwHoy_ItemClick(row); // selects the record that the row points to
+        return row->Text() == today::prospectType ? &lvw : &lvwProy;
     }
     default:
         return &lvw;

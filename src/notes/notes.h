@@ -10,6 +10,7 @@
 #include "desk/session.h"
 #include "desk/tab_strip.h"
 #include "screen/ports.h"
+#include "today/today_panel.h"
 
 #include <string>
 
@@ -17,8 +18,9 @@ namespace dn::notes {
 
 class Notes {
 public:
-    Notes(desk::Session& session, desk::Elements& elements, desk::TabStrip& tabs, screen::Ports ports)
-        : session_(session), elements_(elements), tabs_(tabs), ports_(ports)
+    Notes(desk::Session& session, desk::Elements& elements, desk::TabStrip& tabs, today::TodayPanel& todayPanel,
+          screen::Ports ports)
+        : session_(session), elements_(elements), tabs_(tabs), todayPanel_(todayPanel), ports_(ports)
     {
     }
 
@@ -40,6 +42,7 @@ private:
     desk::Session& session_;
     desk::Elements& elements_;
     desk::TabStrip& tabs_;
+    today::TodayPanel& todayPanel_;
     screen::Ports ports_;
 };
 

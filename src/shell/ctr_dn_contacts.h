@@ -6,9 +6,14 @@
 //
 // Order of the host's calls, which is binding: create the control, hand over the factory of the host's objects,
 // `SetObjects`, `InitUICRM`, `RefreshData`; from then on any of them again, at will. Everything runs on the host's
-// user-interface thread.
+// user-interface thread. Neither the control nor the connection may end while one of the control's windows is open.
 #pragma once
 
+#include "calling/call_decision.h"
+#include "calling/call_flow.h"
+#include "calling/call_outcomes.h"
+#include "calling/list_in_sight.h"
+#include "calling/party_in_hand.h"
 #include "desk/counters.h"
 #include "desk/elements.h"
 #include "desk/host_objects.h"
@@ -17,12 +22,17 @@
 #include "desk/session.h"
 #include "desk/tab_strip.h"
 #include "desk/timeline.h"
+#include "directories/loader.h"
+#include "directories/organisations.h"
+#include "directories/persons.h"
 #include "notes/notes.h"
 #include "projects/phone_choice.h"
 #include "projects/project_commands.h"
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
 #include "prospects/assignment.h"
+#include "prospects/colour_marks.h"
+#include "prospects/prospect_conversion.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_editing.h"
 #include "prospects/prospect_interaction.h"
@@ -34,6 +44,10 @@
 #include "shell/layout.h"
 #include "shell/start_up.h"
 #include "shell/tabs.h"
+#include "today/queue.h"
+#include "today/search.h"
+#include "today/today_commands.h"
+#include "today/today_panel.h"
 
 #include <any>
 #include <cstdint>
@@ -121,6 +135,10 @@ public:
     /// @throws data::Error when the agents cannot be read; RuntimeError before SetObjects.
     void RefreshData() { startUp_.RefreshData(); }
 
+    /// Loads the queue of the day anew for the agent in view, and takes the status filters of prospects and
+    /// projects back to their first entries. Does nothing else while no single agent is in view.
+    void RefreshRobot() { queue_.RefreshRobot(); }
+
     /// Selects an agent by key; an unknown key changes nothing. The key 0, "< Sin asignar >", is the
     /// administrators'.
     void SelAgente(std::int32_t PK) { agents_.SelAgente(PK); }
@@ -135,6 +153,37 @@ public:
     // There is no mail yet. @throws RuntimeError always.
     void cmdSend_Click() override;
     void Historial(std::int16_t& t, std::int32_t& Sys_PK) override;
+
+    // ---- The call: whoever dials drives it by these, in the place of the operator's buttons. None of them
+    // throws.
+
+    /// Shows that a party is being called; a call in progress is forgotten. Writes nothing to the database.
+    /// @param Tabla "ut_icontact" for a prospect, "Proyecto" for a project. @param PK key of its row there.
+    /// @param Tel the number, shown and logged; a text that is no number is shown as it is.
+    void IniciarLlamada(const std::string& Tabla, std::int32_t PK, const std::string& Tel)
+    {
+        callFlow_.IniciarLlamada(Tabla, PK, Tel);
+    }
+
+    /// The line was answered.
+    /// @param R 6 or more: by the right person, which leads to the summary and stores nothing yet. Below: 0 not
+    /// there, 1 busy, 2 wrong number, 3 hung up, 4 wants nothing, 5 another reason, which the operator is asked
+    /// for; the call then ends. Returns when the operator has said what happens next.
+    void Call_Connect(std::int16_t R) { callOutcomes_.Call_Connect(R); }
+
+    /// Ends a call with contact; returns when the operator has said what happens next. @param S what was said.
+    void Call_Resumen(const std::string& S) { callOutcomes_.Call_Resumen(S); }
+
+    /// Ends a call that reached nobody; returns when the operator has said what happens next.
+    /// @param motivo 0 cancelled, 1 busy, 2 no answer, 3 out of service. Only 0 leaves no trace.
+    void Call_NoConnect(std::int16_t motivo) { callOutcomes_.Call_NoConnect(motivo); }
+
+    /// A call has started, by the operator or by the host: table, key and number as `IniciarLlamada` took them.
+    /// Raised when the screen shows it. What a listener throws is passed over.
+    screen::Signal<std::string, std::int32_t, std::string>& callStarted() { return callFlow_.started; }
+
+    /// A call has ended, or the screen was told so. Raised ahead of the question what happens next.
+    screen::Signal<>& callEnded() { return callOutcomes_.ended; }
 
     // ---- For the screen layer and for tests
 
@@ -153,17 +202,31 @@ private:
     desk::Counters counters_;
     desk::Timeline timeline_;
     desk::HostScreens hostScreens_;
-    notes::Notes notes_;
     prospects::ProspectDetail prospectDetail_;
     prospects::ProspectInteraction prospectInteraction_;
     prospects::ProspectList prospectList_;
     prospects::ProspectStatus prospectStatus_;
     prospects::ProspectEditing prospectEditing_;
     prospects::Assignment assignment_;
+    prospects::ProspectConversion prospectConversion_;
+    prospects::ColourMarks colourMarks_;
     projects::PhoneChoice phoneChoice_;
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;
     projects::ProjectCommands projectCommands_;
+    today::TodayPanel todayPanel_;
+    today::Queue queue_;
+    today::TodayCommands todayCommands_;
+    today::Search search_;
+    notes::Notes notes_;
+    directories::Loader directoryLoader_;
+    directories::Organisations organisations_;
+    directories::Persons persons_;
+    calling::PartyInHand partyInHand_;
+    calling::ListInSight listInSight_;
+    calling::CallDecision callDecision_;
+    calling::CallOutcomes callOutcomes_;
+    calling::CallFlow callFlow_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

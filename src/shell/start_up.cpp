@@ -53,6 +53,7 @@ void StartUp::RefreshData() // no trap
     agents_.LoadAgentes();
     agents_.SelAgente(session_.PKAgente);
     if (elements_.top.cbAgente.ListIndex() >= 1) {
+        queue_.RefreshRobot();
         elements_.today.picHoy.Visible(false);
         elements_.today.lvwHoy.Visible(true);
         elements_.detail.Combo1.Visible(false);

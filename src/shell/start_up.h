@@ -10,6 +10,7 @@
 #include "screen/ports.h"
 #include "shell/agents.h"
 #include "shell/tabs.h"
+#include "today/queue.h"
 
 #include <cstdint>
 #include <string>
@@ -18,8 +19,9 @@ namespace dn::shell {
 
 class StartUp {
 public:
-    StartUp(desk::Session& session, desk::Elements& elements, Agents& agents, Tabs& tabs, screen::Ports ports)
-        : session_(session), elements_(elements), agents_(agents), tabs_(tabs), ports_(ports)
+    StartUp(desk::Session& session, desk::Elements& elements, Agents& agents, Tabs& tabs, today::Queue& queue,
+            screen::Ports ports)
+        : session_(session), elements_(elements), agents_(agents), tabs_(tabs), queue_(queue), ports_(ports)
     {
     }
 
@@ -42,6 +44,7 @@ private:
     desk::Elements& elements_;
     Agents& agents_;
     Tabs& tabs_;
+    today::Queue& queue_;
     screen::Ports ports_;
 };
 

@@ -93,9 +93,11 @@ void Tabs::showTab(std::int16_t index)
         break;
     case desk::organizaciones:
         showDirectory(elements_.organisations.lvwOrganizaciones, elements_.organisations.picOrganizacion);
+        resumeNext([&] { rooms_.organisations.LoadOrganizaciones(); });
         break;
     case desk::contactos:
         showDirectory(elements_.persons.lvwContactos, elements_.persons.picContactos);
+        resumeNext([&] { rooms_.persons.LoadContactos(); });
         break;
     default:
         break;
@@ -139,6 +141,7 @@ void Tabs::showToday()
     resumeNext([&] { elements_.today.lvwHoy.Visible(true); });
     resumeNext([&] { elements_.today.picHoy.Visible(true); });
     placeInfo(15, 2640);
+    resumeNext([&] { rooms_.queue.RefreshRobot(); });
 }
 
 void Tabs::showDirectory(screen::ListView& list, screen::PicturePanel& panel)

@@ -8,10 +8,13 @@
 #include "desk/elements.h"
 #include "desk/session.h"
 #include "desk/tab_strip.h"
+#include "directories/organisations.h"
+#include "directories/persons.h"
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_list.h"
+#include "today/queue.h"
 
 #include <cstdint>
 
@@ -23,6 +26,9 @@ struct TabRooms {
     prospects::ProspectList& prospectList;
     projects::ProjectDetail& projectDetail;
     projects::ProjectList& projectList;
+    today::Queue& queue;
+    directories::Organisations& organisations;
+    directories::Persons& persons;
 };
 
 class Tabs {

@@ -45,6 +45,15 @@ TEST(Trimmed, TakesBlanksOffBothEndsAndNothingElse)
     EXPECT_EQ(trimmed("\u00A0x\u00A0"), "\u00A0x\u00A0"); // the blank that does not break
 }
 
+TEST(Without, TakesEveryPlaceOutOnceFromTheLeft)
+{
+    EXPECT_EQ(without("a'b''c'", "'"), "abc");
+    EXPECT_EQ(without("a\r\nb\nc\r\n", crlf), "ab\nc");
+    EXPECT_EQ(without("PPKK", "PK"), "PK"); // what comes together stays
+    EXPECT_EQ(without("", "x"), "");
+    EXPECT_EQ(without("x", "xy"), "x");
+}
+
 struct CharacterCase {
     const char* name;
     std::string bytes;

@@ -141,14 +141,19 @@ TEST_F(Notes, of_the_day_go_where_the_row_belongs)
 {
     elements().projects.lvwProy.ListItems().Add("K88", "");
     elements().top.lblItem(2).click();
+    cnn.forgetStatements();
     detail().cmdIntro.Enabled(true);
     elements().today.lvwHoy.ListItems().Add("K12", "Contacto");
     registers("al prospecto");
     elements().today.lvwHoy.ListItems().Clear();
     elements().today.lvwHoy.ListItems().Add("P88", "contacto"); // the text must be exact
     registers("al proyecto");
-    EXPECT_THAT(cnn.statements(), ElementsAre(insertProspect + std::string("al prospecto','ana',12)"),
-                                              insertProject + std::string("al proyecto','ana',0,88)")));
+    // Each is preceded by the click on its row, which reads the timeline of its record.
+    EXPECT_THAT(cnn.statements(),
+                ElementsAre(testing::HasSubstr("uf_Iicontact = 12"),
+                            insertProspect + std::string("al prospecto','ana',12)"),
+                            testing::HasSubstr("Proyecto.Sys_PK"), testing::HasSubstr("uf_IProy = 88"),
+                            insertProject + std::string("al proyecto','ana',0,88)")));
 }
 
 TEST_F(Notes, on_a_directory_go_to_the_prospect_selected_behind_it)

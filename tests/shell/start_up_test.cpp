@@ -137,7 +137,21 @@ TEST_F(StartUp, RefreshData_shows_the_queue_of_an_agent_and_no_tab)
     EXPECT_FALSE(elements().detail.cmdEditC.Visible());
     EXPECT_FALSE(lvw().Visible());
     EXPECT_EQ(desk::TabStrip(elements().top).GetActiveTab(), -1);
-    EXPECT_THAT(cnn.statements(), ElementsAre(agentsStatement));
+    // The projects come with their filter, which had no entry before; the prospects' filter had its first one.
+    EXPECT_THAT(cnn.statements(), ElementsAre(agentsStatement, testing::HasSubstr("mdtpactividad"),
+                                              testing::HasSubstr("FROM ((Proyecto"),
+                                              testing::HasSubstr("from qhoy where ejecutivo=9 "),
+                                              testing::HasSubstr("from qatascados where ejecutivo=9 ")));
+}
+
+TEST_F(StartUp, RefreshData_hands_the_host_no_failure_of_the_queue)
+{
+    for (std::size_t failing = 2; failing <= 5; ++failing) {
+        connect(9, false);
+        cnn.failAt(failing);
+        control.RefreshData();
+        EXPECT_TRUE(elements().today.lvwHoy.Visible());
+    }
 }
 
 TEST_F(StartUp, RefreshData_shows_an_administrator_without_key_the_prospects_of_nobody)

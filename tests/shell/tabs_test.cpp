@@ -98,7 +98,7 @@ TEST_F(Tabs, a_switch_locks_the_detail_and_the_commands_of_the_day)
         EXPECT_EQ(detail.Combo1.Enabled(), unlocked);
         EXPECT_EQ(detail.txtText.Enabled(), unlocked);
         EXPECT_EQ(detail.cmdIntro.Enabled(), unlocked);
-        EXPECT_FALSE(elements().today.cmdEditHoy.Enabled());
+        EXPECT_FALSE(elements().today.cmdEditHoy.Enabled()) << "the queue is empty";
         EXPECT_FALSE(elements().today.geProyFromContacto.Enabled());
     }
 }
@@ -135,6 +135,28 @@ TEST_F(Tabs, load_the_list_that_they_show)
     click(1);
     EXPECT_THAT(cnn.statements(),
                 ElementsAre(testing::HasSubstr("FROM ((((mdtpactividad"), testing::HasSubstr("FROM ((Proyecto")));
+}
+
+TEST_F(Tabs, the_queue_is_loaded_by_its_own_and_nothing_is_clicked_there)
+{
+    start(7, true);
+    cnn.onContaining("from qhoy").gives({"Tipo", "Sys_PK", "cita"}, {{text("Proyecto"), whole(3), null}});
+    click(2);
+    EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("from qhoy where ejecutivo=7 "),
+                                              testing::HasSubstr("from qatascados where ejecutivo=7 ")));
+    EXPECT_TRUE(elements().today.cmdEditHoy.Enabled());
+    EXPECT_FALSE(elements().detail.cmdIntro.Enabled());
+}
+
+TEST_F(Tabs, the_directories_are_loaded_by_theirs)
+{
+    start(7, true);
+    for (const int tab : {3, 3, 4, 3}) {
+        cnn.forgetStatements();
+        click(tab);
+        EXPECT_THAT(cnn.statements(),
+                    ElementsAre(testing::HasSubstr(tab == 3 ? "FROM Organizacion " : "FROM Persona ")));
+    }
 }
 
 TEST_F(Tabs, without_an_active_one_a_change_of_agent_hides_all_lists_and_loads_nothing)

@@ -3,6 +3,7 @@
 
 #include "tests/stories/operator.h"
 
+#include "base/text.h"
 #include "data/mariadb/connection.h"
 #include "host/database/schema.h"
 #include "tests/support/element_tree.h"
@@ -39,7 +40,8 @@ void Operator::SetUpTestSuite()
 
 Operator::Operator() : beside(connect()), cnn(std::make_unique<RecordingConnection>(connect()))
 {
-    for (const char* table : {"ut_icontact", "xt_biticontact", "Agente"})
+    for (const char* table :
+         {"ut_icontact", "xt_biticontact", "Agente", "Persona", "Organizacion", "Proyecto", "actividad"})
         database(std::string("DELETE FROM ") + table);
     database("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana'), (9, 'Beto')");
 }
@@ -146,7 +148,7 @@ std::vector<std::string> Operator::changesSent()
 {
     std::vector<std::string> changes;
     for (const std::string& statement : cnn->statements)
-        if (statement.rfind("SELECT", 0) != 0 && statement.rfind("Select", 0) != 0) changes.push_back(statement);
+        if (toLower(statement).rfind("select", 0) != 0) changes.push_back(statement);
     cnn->statements.clear();
     return changes;
 }

@@ -10,6 +10,7 @@ namespace dn::tests {
 void HostLog::called(const std::string& operation, const std::string& arguments)
 {
     calls.push_back(arguments.empty() ? operation : operation + " " + arguments);
+    if (during) during(calls.back());
     if (failing.count(operation) > 0) throw std::runtime_error("falló " + operation);
 }
 

@@ -17,6 +17,8 @@ namespace dn::tests {
 struct HostLog {
     std::vector<std::string> calls;
     std::set<std::string> failing; ///< names of operations
+    /// What happens in the host while an operation runs: called with the call as it is written down.
+    std::function<void(const std::string& call)> during;
 
     /// Writes down a call. @throws std::runtime_error when the operation is to fail.
     void called(const std::string& operation, const std::string& arguments = {});

@@ -6,11 +6,13 @@
 #include "screen/button.h"
 #include "screen/qt/focus_keeper.h"
 #include "screen/qt/geometry.h"
+#include "screen/qt/shortcuts.h"
 #include "screen/qt/text.h"
 #include "screen/qt/theme.h"
 #include "screen/qt/view_factory.h"
 
 #include <QCloseEvent>
+#include <QPointer>
 
 namespace dn::screen::qt {
 namespace {
@@ -36,7 +38,9 @@ FormView::FormView(screen::Form& form, QWidget* parent, Guard& guard)
       guard_(guard)
 {
     setObjectName(fromUtf8(form.name()));
-    focus_ = std::make_unique<FocusKeeper>(*this, buildViews(form, *this, guard));
+    const std::vector<View> views = buildViews(form, *this, guard);
+    focus_ = std::make_unique<FocusKeeper>(*this, views);
+    shortcuts_ = std::make_unique<Shortcuts>(*this, views, guard);
     dress(*this);
     wires_.push_back(form.changed.connect([this] { mirror(); }));
     wires_.push_back(form.ended.connect([this] {
@@ -52,8 +56,9 @@ void FormView::run()
 {
     if (element_ == nullptr || !element_->Visible()) return;
     focus_->begin(element_->focused());
+    const QPointer<FormView> alive(this); // the window that it stands over may take it along
     exec();
-    if (element_ != nullptr) element_->Hide(); // the window was ended from outside
+    if (alive && element_ != nullptr) element_->Hide(); // the window was ended from outside
 }
 
 void FormView::mirror()
@@ -98,8 +103,8 @@ void FormView::reject() { close(true); }
 
 void FormView::closeEvent(QCloseEvent* event)
 {
-    event->ignore();
     close(false);
+    event->setAccepted(element_ == nullptr); // a window that stays open holds up the end of the session, no other
 }
 
 // Escape presses the button that cancels, where there is one; the frame's button closes the window.
