@@ -20,10 +20,10 @@ struct ListFilter {
     };
 
     std::int32_t ejecutivo = 0; ///< of both lists
-    Choice status;              ///< of the prospects; all others of the projects
-    Choice meta;
+    Choice status{};            ///< of the prospects; all others of the projects
+    Choice meta{};
     Choice color{anyColour};
-    Choice estado;
+    Choice estado{};
     bool exceptCerrados = false;
     bool exceptPerdidos = false;
 };
