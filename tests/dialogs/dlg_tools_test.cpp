@@ -284,7 +284,7 @@ class GroupToolInTheControl : public ControlTest {};
 
 TEST_F(GroupToolInTheControl, opens_from_its_button_on_the_connection_in_use)
 {
-    start(0, true);
+    start(7, true);
     ports.events.expectModal("dlgTools", [&](screen::Form& form) {
         EXPECT_THAT(cnn.statements(), ElementsAre(agentsStatement));
         EXPECT_EQ(elementNamed<screen::ComboBox>(form, "cmdDestino").ListCount(), 2);
@@ -299,7 +299,7 @@ TEST_F(GroupToolInTheControl, opens_from_its_button_on_the_connection_in_use)
 
 TEST_F(GroupToolInTheControl, that_cannot_be_opened_is_passed_over)
 {
-    start(0, true);
+    start(7, true);
     elements().top.lblItem(desk::proyectos).click();
     ports.events.expectModal("dlgTools", [](screen::Form& form) {
         form.Hide();

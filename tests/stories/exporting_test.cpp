@@ -143,7 +143,7 @@ TEST_F(Exporting, a_group_of_projects_changes_hands_in_one_statement)
     project(1, 1, 3, 1);
     project(2, 2, 3, 2);
     project(1, 2, 1, 1);
-    entersAsAdministrator();
+    entersAsAdministrator(ana);
     opensTab(desk::proyectos);
     changesSent();
     ports.events.expectModal("dlgTools", [&](screen::Form& form) {
@@ -169,7 +169,7 @@ TEST_F(Exporting, a_group_of_projects_changes_hands_in_one_statement)
 TEST_F(Exporting, a_refused_change_leaves_every_project_where_it_was)
 {
     project(1, 1);
-    entersAsAdministrator();
+    entersAsAdministrator(ana);
     opensTab(desk::proyectos);
     ports.events.expectModal("dlgTools", [&](screen::Form& form) {
         elementNamed<screen::ComboBox>(form, "cmdDestino").pick("Beto");

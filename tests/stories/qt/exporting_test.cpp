@@ -111,7 +111,7 @@ TEST_F(ExportingAtTheWindow, lists_are_filtered_shown_sorted_copied_and_saved_wi
 
 TEST_F(ExportingAtTheWindow, a_group_changes_hands_with_clicks)
 {
-    opens(0, true);
+    opens(ana, true);
     widget.control().elements().top.lblItem(desk::proyectos).click();
     QApplication::processEvents();
     hands.expect("dlgTools", [&](QWidget& window) {
@@ -142,7 +142,7 @@ TEST_F(ExportingAtTheWindow, a_group_changes_hands_with_clicks)
 
 TEST_F(ExportingAtTheWindow, the_enter_key_refuses_an_irreversible_change)
 {
-    opens(0, true);
+    opens(ana, true);
     widget.control().elements().top.lblItem(desk::proyectos).click();
     QApplication::processEvents();
     hands.expect("dlgTools", [&](QWidget& window) {
