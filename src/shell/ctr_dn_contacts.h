@@ -146,6 +146,10 @@ public:
     /// Asks for an agent in a dialog. @return his key; 0 when none was chosen or anything failed.
     std::int32_t ShSelAgente() override { return agents_.ShSelAgente(); }
 
+    /// Opens the export of the mail lists of prospects and projects, for which the control has no button of its
+    /// own. Returns when the operator closes it; a failure of a statement goes where those of his own clicks go.
+    void ExportarListas() { projectCommands_.ExportarListas(); }
+
     // There is no mail yet. @throws RuntimeError always.
     void cmdSend_Click() override;
     void Historial(std::int16_t& t, std::int32_t& Sys_PK) override;
