@@ -66,6 +66,7 @@ int run(const ProgramOptions& options)
 
     MainWindow window(database, *worker);
     window.resize(options.size);
+    if (options.dial) window.dialCalls();
     if (picture) {
         window.start(options.tab);
         savePicture(window, options.screenshot);

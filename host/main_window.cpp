@@ -3,6 +3,7 @@
 
 #include "host/main_window.h"
 
+#include "host/dialler.h"
 #include "shell/ctr_dn_contacts.h"
 
 #include <QAction>
@@ -12,6 +13,7 @@
 #include <QStandardPaths>
 
 namespace dn::host {
+
 MainWindow::MainWindow(Database& database, const Worker& worker)
     : database_(database),
       worker_(worker),
@@ -36,6 +38,13 @@ void MainWindow::start(std::optional<std::int16_t> tab)
     control().InitUICRM(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString(), lands);
     control().RefreshData();
     if (tab) control().elements().top.lblItem(*tab).click();
+}
+
+// The control does not dial. A number that nobody can dial is the operator's to dial by hand.
+void MainWindow::dialCalls()
+{
+    calls_ = control().callStarted().connect(
+        [](const std::string& /*table*/, std::int32_t /*key*/, const std::string& number) { dial(number); });
 }
 
 void MainWindow::addMenus()

@@ -9,6 +9,7 @@
 #include "host/screens/screens_factory.h"
 #include "host/worker.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
+#include "screen/signal.h"
 
 #include <QMainWindow>
 
@@ -26,6 +27,9 @@ public:
     /// @param tab the tab to open, if one was asked for.
     void start(std::optional<std::int16_t> tab);
 
+    /// From now on hands the number of each call to the desktop's own telephone program.
+    void dialCalls();
+
     ctrDnContacts& control() { return widget_->control(); }
 
 private:
@@ -37,6 +41,7 @@ private:
     Worker worker_;
     ScreensFactory screens_;
     screen::qt::CtrDnContactsWidget* widget_;
+    screen::Subscription calls_;
 };
 
 } // namespace dn::host

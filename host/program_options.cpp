@@ -28,6 +28,9 @@ const QCommandLineOption tabOption("tab",
                                    "Pestaña inicial: 0 Prospectos, 1 Proyectos, 2 Hoy, 3 Organizaciones, "
                                    "4 Contactos.",
                                    "número");
+const QCommandLineOption dialOption("dial",
+                                    "Al iniciar una llamada, entrega el número al programa del escritorio que "
+                                    "marca teléfonos (tel:).");
 const QCommandLineOption screenshotOption("screenshot", "Guarda la ventana en un archivo PNG y termina.",
                                           "archivo");
 const QCommandLineOption sizeOption("size", "Tamaño de la ventana en píxeles lógicos (1280x800).", "ANCHOxALTO");
@@ -65,7 +68,7 @@ ProgramOptions readProgramOptions()
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({connectOption, createSchemaOption, dataFolderOption, demoRowsOption, agentOption,
-                       adminOption, userOption, tabOption, screenshotOption, sizeOption});
+                       adminOption, userOption, tabOption, dialOption, screenshotOption, sizeOption});
     if (!parser.parse(QCoreApplication::arguments())) throw HostError(parser.errorText().toStdString());
     if (parser.isSet("help")) parser.showHelp();
     if (parser.isSet("version")) parser.showVersion();
@@ -82,6 +85,7 @@ ProgramOptions readProgramOptions()
     options.admin = parser.isSet(adminOption);
     options.user = parser.value(userOption);
     options.tab = numberOf<std::int16_t>(parser, tabOption, 0, 4);
+    options.dial = parser.isSet(dialOption);
     options.screenshot = parser.value(screenshotOption);
     if (parser.isSet(sizeOption)) options.size = sizeOf(parser.value(sizeOption));
     return options;

@@ -22,6 +22,7 @@ struct ProgramOptions {
     bool admin = false;
     QString user;
     std::optional<std::int16_t> tab; ///< tab to show first
+    bool dial = false;               ///< hand the number of a call to the desktop
     QString screenshot;              ///< file to render the window to, instead of showing it
     QSize size{1280, 800};           ///< of the window, in logical pixels
 

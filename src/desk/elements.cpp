@@ -121,6 +121,7 @@ DetailElements::DetailElements(Container& control)
     cmdEditC.Move(2370, 75, 1170, 330);
     cmdEditC.Caption("Corregir");
     cmdEditC.Picture("edit");
+    cmdEditC.Shortcut("F2");
     txtInfo.Move(30, 465, 3510, 2190);
     txtInfo.MultiLine(true);
     txtInfo.Locked(true);
@@ -129,18 +130,22 @@ DetailElements::DetailElements(Container& control)
     cmdCall.Move(0, 0, 1155, 345);
     cmdCall.Caption("Llamar");
     cmdCall.Picture("call");
+    cmdCall.Shortcut("F8");
     cmdNote.Move(1185, 0, 1155, 345);
     cmdNote.Caption("Nota");
     cmdNote.Picture("note");
+    cmdNote.Shortcut("F6");
     cmdSend.Move(2370, 0, 1155, 345);
     cmdSend.Caption("Correo");
     cmdSend.Picture("mail");
+    cmdSend.Shortcut("F7");
     txtText.Move(30, 3090, 2340, 315);
     txtText.MultiLine(true);   // one line high, yet a text that is pasted or set by code keeps its line ends
     txtText.ScrollBars(false); // the arrows of a bar would fill it
     txtText.Enabled(false);
     cmdIntro.Move(2400, 3090, 1155, 315);
     cmdIntro.Caption("Registrar");
+    cmdIntro.Shortcut("F9");
     cmdIntro.Enabled(false);
 
     txtBit.Move(30, 3450, 3510, 4740);

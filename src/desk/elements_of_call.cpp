@@ -6,6 +6,7 @@
 #include "desk/elements.h"
 
 #include <array>
+#include <string>
 
 namespace dn::desk {
 namespace {
@@ -78,8 +79,17 @@ CallElements::CallElements(Container& control)
     txtResCall.Move(0, 330, inner, 2670);
     layOut(cmdOkCall, "Fin de la llamada", "call-end", 0, 3150, inner);
 
+    int number = 0;
+    for (Button* command : {&cmdContesta, &cmdOcupado, &cmdNoContestan, &cmdFueraServ})
+        command->Shortcut("Ctrl+" + std::to_string(++number));
+    cmdCancelCall.Shortcut("Esc");
+    for (int i = 0; i < cmdCallCon.Count(); ++i)
+        cmdCallCon(i).Shortcut("Ctrl+" + std::to_string(i + 1));
+    cmdOkCall.Shortcut("F8");
+
     PG.Range(0, 100);
     Timer1.Interval(25);
+    Timer1.Moves(PG);
 }
 
 } // namespace dn::desk

@@ -40,6 +40,12 @@ public:
 
     void Cancel(bool cancels) { set(cancel_, cancels); }
 
+    /// The key that presses it from anywhere on its screen, "F8" or "Ctrl+1"; empty for none. Buttons that never
+    /// can be used at the same time may share one.
+    const std::string& Shortcut() const { return shortcut_; }
+
+    void Shortcut(std::string key) { set(shortcut_, std::move(key)); }
+
     /// The operator presses it.
     void press()
     {
@@ -51,6 +57,7 @@ public:
 private:
     std::string caption_;
     std::string picture_;
+    std::string shortcut_;
     std::optional<Colour> backColor_;
     bool default_ = false;
     bool cancel_ = false;

@@ -42,7 +42,7 @@ public:
 
     /// Closing the box by its frame counts as OK, or as No.
     virtual Answer MsgBox(const MessageBox& box) = 0;
-    /// @return the typed text; the empty text on cancel.
+    /// @return the typed text; the empty text on cancel. @throws RuntimeError when the application ends meanwhile.
     virtual std::string InputBox(const std::string& prompt) = 0;
     /// @param filter pairs of name and pattern, "Archivos HTML|*.html", joined by "|".
     /// @return nothing on cancel.

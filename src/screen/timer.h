@@ -19,6 +19,13 @@ public:
 
     void Interval(int milliseconds) { set(interval_, milliseconds); }
 
+    /// The element that the ticks move, where they do nothing else. While that one does not show, the ticks may
+    /// come late and several together, so that nobody wakes up for what nobody sees.
+    const Element* Moves() const { return moves_; }
+
+    /// @param element outlives the timer.
+    void Moves(const Element& element) { set<const Element*>(moves_, &element); }
+
     /// The interval has passed.
     void tick()
     {
@@ -29,6 +36,7 @@ public:
 
 private:
     int interval_ = 0;
+    const Element* moves_ = nullptr;
 };
 
 } // namespace dn::screen

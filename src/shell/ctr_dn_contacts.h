@@ -9,6 +9,11 @@
 // user-interface thread.
 #pragma once
 
+#include "calling/call_decision.h"
+#include "calling/call_flow.h"
+#include "calling/call_outcomes.h"
+#include "calling/list_in_sight.h"
+#include "calling/party_in_hand.h"
 #include "desk/counters.h"
 #include "desk/elements.h"
 #include "desk/host_objects.h"
@@ -143,6 +148,37 @@ public:
     void cmdSend_Click() override;
     void Historial(std::int16_t& t, std::int32_t& Sys_PK) override;
 
+    // ---- The call: whoever dials drives it by these, in the place of the operator's buttons. None of them
+    // throws.
+
+    /// Shows that a party is being called; a call in progress is forgotten. Writes nothing to the database.
+    /// @param Tabla "ut_icontact" for a prospect, "Proyecto" for a project. @param PK key of its row there.
+    /// @param Tel the number, shown and logged; a text that is no number is shown as it is.
+    void IniciarLlamada(const std::string& Tabla, std::int32_t PK, const std::string& Tel)
+    {
+        callFlow_.IniciarLlamada(Tabla, PK, Tel);
+    }
+
+    /// The line was answered.
+    /// @param R 6 or more: by the right person, which leads to the summary and stores nothing yet. Below: 0 not
+    /// there, 1 busy, 2 wrong number, 3 hung up, 4 wants nothing, 5 another reason, which the operator is asked
+    /// for; the call then ends. Returns when the operator has said what happens next.
+    void Call_Connect(std::int16_t R) { callOutcomes_.Call_Connect(R); }
+
+    /// Ends a call with contact; returns when the operator has said what happens next. @param S what was said.
+    void Call_Resumen(const std::string& S) { callOutcomes_.Call_Resumen(S); }
+
+    /// Ends a call that reached nobody; returns when the operator has said what happens next.
+    /// @param motivo 0 cancelled, 1 busy, 2 no answer, 3 out of service. Only 0 leaves no trace.
+    void Call_NoConnect(std::int16_t motivo) { callOutcomes_.Call_NoConnect(motivo); }
+
+    /// A call has started, by the operator or by the host: table, key and number as `IniciarLlamada` took them.
+    /// Raised when the screen shows it. What a listener throws is passed over.
+    screen::Signal<std::string, std::int32_t, std::string>& callStarted() { return callFlow_.started; }
+
+    /// A call has ended, or the screen was told so. Raised ahead of the question what happens next.
+    screen::Signal<>& callEnded() { return callOutcomes_.ended; }
+
     // ---- For the screen layer and for tests
 
     /// The outermost element, for the layer that shows the control and gives it its size.
@@ -178,6 +214,11 @@ private:
     directories::Loader directoryLoader_;
     directories::Organisations organisations_;
     directories::Persons persons_;
+    calling::PartyInHand partyInHand_;
+    calling::ListInSight listInSight_;
+    calling::CallDecision callDecision_;
+    calling::CallOutcomes callOutcomes_;
+    calling::CallFlow callFlow_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

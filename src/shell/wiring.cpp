@@ -18,8 +18,11 @@ screen::Subscription on(screen::Signal<Arguments...>& event, Room& room, void (R
 
 void ctrDnContacts::wire()
 {
+    using calling::CallFlow;
+    using calling::CallOutcomes;
     using directories::Organisations;
     using directories::Persons;
+
     using notes::Notes;
     using projects::ProjectCommands;
     using projects::ProjectDetail;
@@ -84,6 +87,18 @@ void ctrDnContacts::wire()
          &Organisations::showOrganizationRelations_Click);
     join(organisations.genProyectFromOrganization.Click, organisations_,
          &Organisations::genProyectFromOrganization_Click);
+
+    join(prospects.lvw.DblClick, callOutcomes_, &CallOutcomes::lvw_DblClick);
+    join(detail.cmdCall.Click, callFlow_, &CallFlow::cmdCall_Click);
+    join(call.cmdContesta.Click, callFlow_, &CallFlow::cmdContesta_Click);
+    join(call.cmdOcupado.Click, callFlow_, &CallFlow::cmdOcupado_Click);
+    join(call.cmdNoContestan.Click, callFlow_, &CallFlow::cmdNoContestan_Click);
+    join(call.cmdFueraServ.Click, callFlow_, &CallFlow::cmdFueraServ_Click);
+    join(call.cmdCancelCall.Click, callFlow_, &CallFlow::cmdCancelCall_Click);
+    for (std::int16_t i = 0; i < call.cmdCallCon.Count(); ++i)
+        wires_.push_back(call.cmdCallCon(i).Click.connect([this, i] { callFlow_.cmdCallCon_Click(i); }));
+    join(call.cmdOkCall.Click, callFlow_, &CallFlow::cmdOkCall_Click);
+    join(call.Timer1.TimerEvent, callFlow_, &CallFlow::Timer1_Timer);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);

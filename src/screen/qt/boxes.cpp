@@ -3,6 +3,7 @@
 
 // The message box, the input box and the save-file dialog.
 
+#include "base/runtime_error.h"
 #include "screen/qt/file_filter.h"
 #include "screen/qt/ports.h"
 #include "screen/qt/text.h"
@@ -124,7 +125,13 @@ Answer QtDialogs::MsgBox(const MessageBox& box)
 std::string QtDialogs::InputBox(const std::string& prompt)
 {
     InputDialog dialog(fromUtf8(prompt), windowBelow(owner_));
-    return dialog.exec() == QDialog::Accepted ? toUtf8(dialog.text()) : std::string();
+    bool ended = false;
+    QObject::connect(&dialog, &QDialog::finished, &dialog, [&] { ended = true; });
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    // The event loop was ended around the box. An empty answer would make a question that must be answered come
+    // back for ever, in a program that cannot show it any more.
+    if (!ended) throw RuntimeError("La aplicación se está cerrando.");
+    return accepted ? toUtf8(dialog.text()) : std::string();
 }
 
 std::optional<SaveChoice> QtDialogs::ShowSave(const std::string& filter)

@@ -7,10 +7,26 @@
 #include "screen/qt/icons.h"
 #include "screen/qt/text.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+#include <vector>
+
 namespace dn::screen::qt {
+namespace {
+
+QString tipWithKey(const screen::Button& button)
+{
+    const QString key =
+        QKeySequence(fromUtf8(button.Shortcut()), QKeySequence::PortableText).toString(QKeySequence::NativeText);
+    const QString text =
+        button.ToolTipText().empty() ? withoutMnemonic(button.Caption()) : fromUtf8(button.ToolTipText());
+    return asToolTip(toUtf8(QStringLiteral("%1 (%2)").arg(text, key)));
+}
+
+} // namespace
 
 ButtonView::ButtonView(screen::Button& button, QWidget* parent, Guard& guard)
     : QPushButton(parent), bond_(button, *this, guard, [this](const auto& state) { mirror(state); })
@@ -25,8 +41,16 @@ void ButtonView::mirror(const screen::Button& button)
     setText(fromUtf8(button.Caption()));
     setIcon(drawing(button.Picture()));
     setDefault(button.Default());
+    if (!button.Shortcut().empty()) setToolTip(tipWithKey(button));
     swatch_ = button.BackColor() ? fromColour(*button.BackColor()) : QColor();
     update();
+}
+
+// A key that is held down presses what has the focus once, and not also what gets it next.
+void ButtonView::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || !event->isAutoRepeat()) QPushButton::keyPressEvent(event);
 }
 
 // A colour button is a swatch: its picture tells it apart for who does not tell colours apart.
@@ -56,6 +80,40 @@ OptionButtonView::OptionButtonView(screen::OptionButton& option, QWidget* parent
     setAutoExclusive(false); // the elements exclude each other themselves
     connect(this, &QRadioButton::clicked, this, [this] { bond_.gesture([](auto& it) { it.choose(); }); });
     bond_.refresh();
+}
+
+// The arrows go through the options that exclude each other, and choose.
+void OptionButtonView::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+        chooseNext(-1);
+        break;
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+        chooseNext(1);
+        break;
+    default:
+        QRadioButton::keyPressEvent(event);
+    }
+}
+
+void OptionButtonView::chooseNext(int step)
+{
+    const screen::OptionButton* const own = bond_.element();
+    if (own == nullptr || own->parent() == nullptr) return;
+    std::vector<screen::OptionButton*> options;
+    for (Element* sibling : own->parent()->children())
+        if (auto* option = dynamic_cast<screen::OptionButton*>(sibling); option != nullptr && option->usable())
+            options.push_back(option);
+    const auto place = std::find(options.begin(), options.end(), own) - options.begin() + step;
+    if (place < 0 || place >= static_cast<std::ptrdiff_t>(options.size())) return;
+    screen::OptionButton& next = *options[static_cast<std::size_t>(place)];
+    bond_.guard().run([&] {
+        next.SetFocus();
+        next.choose();
+    });
 }
 
 CheckBoxView::CheckBoxView(screen::CheckBox& box, QWidget* parent, Guard& guard)

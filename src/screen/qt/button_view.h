@@ -18,6 +18,7 @@ public:
     ButtonView(screen::Button& button, QWidget* parent, Guard& guard);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -31,7 +32,12 @@ class OptionButtonView : public QRadioButton {
 public:
     OptionButtonView(screen::OptionButton& option, QWidget* parent, Guard& guard);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    void chooseNext(int step);
+
     Bond<screen::OptionButton> bond_;
 };
 

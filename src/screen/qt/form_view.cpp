@@ -6,6 +6,7 @@
 #include "screen/button.h"
 #include "screen/qt/focus_keeper.h"
 #include "screen/qt/geometry.h"
+#include "screen/qt/shortcuts.h"
 #include "screen/qt/text.h"
 #include "screen/qt/theme.h"
 #include "screen/qt/view_factory.h"
@@ -36,7 +37,9 @@ FormView::FormView(screen::Form& form, QWidget* parent, Guard& guard)
       guard_(guard)
 {
     setObjectName(fromUtf8(form.name()));
-    focus_ = std::make_unique<FocusKeeper>(*this, buildViews(form, *this, guard));
+    const std::vector<View> views = buildViews(form, *this, guard);
+    focus_ = std::make_unique<FocusKeeper>(*this, views);
+    shortcuts_ = std::make_unique<Shortcuts>(*this, views, guard);
     dress(*this);
     wires_.push_back(form.changed.connect([this] { mirror(); }));
     wires_.push_back(form.ended.connect([this] {

@@ -14,6 +14,7 @@
 namespace dn::screen::qt {
 
 class FocusKeeper;
+class Shortcuts;
 
 class FormView : public QDialog {
 public:
@@ -39,6 +40,7 @@ private:
     Guard& guard_;
     bool following_ = false; ///< the element takes the window's size: what it tells meanwhile is half of it
     std::unique_ptr<FocusKeeper> focus_;
+    std::unique_ptr<Shortcuts> shortcuts_;
     Subscriptions wires_;
 };
 

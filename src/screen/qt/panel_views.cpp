@@ -6,6 +6,7 @@
 #include "screen/qt/colours.h"
 #include "screen/qt/focus_keeper.h"
 #include "screen/qt/geometry.h"
+#include "screen/qt/shortcuts.h"
 #include "screen/qt/text.h"
 #include "screen/qt/view_factory.h"
 
@@ -39,7 +40,9 @@ ControlView::ControlView(screen::UserControl& control, QWidget* parent, Guard& g
     wires_.push_back(control.ended.connect([this] { element_ = nullptr; }));
     wires_.push_back(control.changed.connect([this] { setEnabled(element_->Enabled()); }));
     resize(pixelRect(control).size());
-    focus_ = std::make_unique<FocusKeeper>(*this, buildViews(control, *this, guard));
+    const std::vector<View> views = buildViews(control, *this, guard);
+    focus_ = std::make_unique<FocusKeeper>(*this, views);
+    shortcuts_ = std::make_unique<Shortcuts>(*this, views, guard);
     setEnabled(control.Enabled());
 }
 

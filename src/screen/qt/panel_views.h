@@ -14,6 +14,7 @@
 namespace dn::screen::qt {
 
 class FocusKeeper;
+class Shortcuts;
 
 class PanelView : public QFrame {
 public:
@@ -39,6 +40,7 @@ private:
     screen::UserControl* element_;
     Guard& guard_;
     std::unique_ptr<FocusKeeper> focus_;
+    std::unique_ptr<Shortcuts> shortcuts_;
     Subscriptions wires_;
 };
 

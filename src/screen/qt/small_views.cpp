@@ -33,30 +33,77 @@ TimerView::TimerView(screen::Timer& timer, QObject* parent, Guard& guard)
     : QObject(parent), element_(&timer), guard_(guard)
 {
     setObjectName(fromUtf8(timer.name()));
-    wires_.push_back(timer.changed.connect([this] { mirror(); }));
+    wires_.push_back(timer.changed.connect([this] {
+        watch();
+        mirror();
+    }));
     wires_.push_back(timer.ended.connect([this] {
         element_ = nullptr;
         timer_.stop();
     }));
     connect(&timer_, &QTimer::timeout, this, [this] { tick(); });
+    watch();
     mirror();
+}
+
+void TimerView::watch()
+{
+    sight_.clear();
+    for (const Element* step = element_->Moves(); step != nullptr; step = step->parent())
+        sight_.push_back(step->changed.connect([this] { mirror(); }));
+}
+
+/// Milliseconds between two awakenings, 0 for none at all.
+int TimerView::pace() const
+{
+    constexpr int resting = 500;
+    if (!element_->Enabled() || element_->Interval() <= 0) return 0;
+    const bool seen = element_->Moves() == nullptr || element_->Moves()->shown();
+    return seen ? element_->Interval() : qMax(resting, element_->Interval());
 }
 
 void TimerView::mirror()
 {
-    const bool wanted = element_->Enabled() && element_->Interval() > 0;
-    if (!wanted)
+    if (element_ == nullptr) return;
+    const int wanted = pace();
+    if (wanted == 0) {
         timer_.stop();
-    else if (!timer_.isActive() || timer_.interval() != element_->Interval())
-        timer_.start(element_->Interval());
+        return;
+    }
+    if (timer_.isActive() && timer_.interval() == wanted) return;
+    const bool resumes = timer_.isActive();
+    timer_.start(wanted);
+    if (resumes) // faster or slower: what was not made of the time until now
+        makeUp();
+    else
+        since_.start();
 }
 
 // A timer of the toolkit is silent until its slot has returned, nested event loops included: starting it anew
 // makes it another timer, which is not.
 void TimerView::tick()
 {
-    timer_.start(element_->Interval());
+    const bool rests = timer_.interval() != element_->Interval();
+    timer_.start(timer_.interval());
+    if (rests) {
+        makeUp();
+        return;
+    }
+    since_.start();
     guard_.run([this] { element_->tick(); });
+}
+
+// A machine that slept does not make up for its sleep.
+void TimerView::makeUp()
+{
+    constexpr qint64 longest = 10'000;
+    const qint64 due = qMin(since_.elapsed(), longest) / element_->Interval();
+    if (due == 0) return;
+    since_.start();
+    guard_.run([&] {
+        for (qint64 i = 0; i < due && element_ != nullptr; ++i)
+            element_->tick();
+    });
 }
 
 } // namespace dn::screen::qt

@@ -9,6 +9,7 @@
 #include "screen/qt/bond.h"
 #include "screen/timer.h"
 
+#include <QElapsedTimer>
 #include <QProgressBar>
 #include <QTimer>
 #include <QWidget>
@@ -34,18 +35,24 @@ private:
     Bond<screen::Line> bond_;
 };
 
-/// Makes a timer element tick, also while a handler of one of its ticks sits in a nested event loop.
+/// Makes a timer element tick, also while a handler of one of its ticks sits in a nested event loop. Rests while
+/// the element that the ticks move does not show, and makes up for them twice a second.
 class TimerView : public QObject {
 public:
     TimerView(screen::Timer& timer, QObject* parent, Guard& guard);
 
 private:
     void mirror();
+    void watch();
+    int pace() const;
     void tick();
+    void makeUp();
 
     screen::Timer* element_;
     Guard& guard_;
     QTimer timer_;
+    QElapsedTimer since_; ///< the last tick that was made
+    Subscriptions sight_; ///< whether the moved element shows: it and what lies around it
     Subscriptions wires_;
 };
 
