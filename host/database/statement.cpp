@@ -87,6 +87,14 @@ Statement& Statement::bind(const Decimal& number)
     return *this;
 }
 
+Statement& Statement::bind(const DateTime& moment)
+{
+    std::string text;
+    appendMoment(text, moment);
+    values_.push_back({std::move(text), false});
+    return *this;
+}
+
 Statement& Statement::null()
 {
     values_.push_back({"NULL", false});

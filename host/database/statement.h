@@ -21,6 +21,7 @@
 //   as NCHAR(0).
 #pragma once
 
+#include "base/date_time.h"
 #include "host/database/sql_text.h"
 
 #include <cstddef>
@@ -76,6 +77,7 @@ public:
     Statement& bind(const char* text) { return bind(std::string_view(text)); }
     Statement& bind(std::int32_t number);
     Statement& bind(const Decimal& number);
+    Statement& bind(const DateTime& moment);
     template <class T>
     Statement& bind(const std::optional<T>& value)
     {

@@ -34,6 +34,18 @@ void report(QWidget* over, const std::exception& failure)
     show(over, QMessageBox::Warning, QString::fromUtf8(failure.what()));
 }
 
-void tellNotAvailable(QWidget* over) { tell(over, "Esta pantalla aún no está disponible en esta versión."); }
+bool ask(QWidget* over, const QString& question, const QString& yes, const QString& no)
+{
+    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(), question, QMessageBox::NoButton,
+                    over);
+    box.setObjectName("Pregunta");
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* const agrees = box.addButton(yes, QMessageBox::AcceptRole);
+    QPushButton* const refuses = box.addButton(no, QMessageBox::RejectRole);
+    box.setDefaultButton(refuses);
+    box.setEscapeButton(refuses);
+    box.exec();
+    return box.clickedButton() == agrees;
+}
 
 } // namespace dn::host

@@ -20,8 +20,8 @@ void tell(QWidget* over, const QString& text);
 /// Shows what kept something from being done, in the words of whoever refused it: the server or the host itself.
 void report(QWidget* over, const std::exception& failure);
 
-/// For what the operator can reach and this version does not do.
-void tellNotAvailable(QWidget* over);
+/// Asks and waits. The box's object name is "Pregunta"; Enter and Escape are a no.
+bool ask(QWidget* over, const QString& question, const QString& yes, const QString& no);
 
 /// Runs an operation that the control asked for; a failure is shown instead of being passed on to the control,
 /// which would be silent about it.

@@ -4,42 +4,45 @@
 #include "host/screens/crm_screens.h"
 
 #include "host/screens/boxes.h"
-#include "host/screens/organisation_form.h"
-#include "host/screens/person_form.h"
+#include "host/screens/entry_form.h"
+#include "host/screens/entry_removal.h"
+#include "host/screens/relations_window.h"
 #include "host/screens/search_window.h"
 
 namespace dn::host {
 namespace {
 
-template <class EntryForm>
-void edit(ScreenContext& context, std::int32_t key, std::int32_t agent, QWidget* over, std::any& result)
-{
-    reporting(over, [&] {
-        EntryForm form(context, key, agent, over);
-        if (form.exec() == QDialog::Accepted) result = form.key();
-    });
-}
+constexpr auto person = PartyField::Kind::person;
+constexpr auto organisation = PartyField::Kind::organisation;
 
 } // namespace
 
 void CrmScreens::NuevaOrganizacion(HostObject&, std::int32_t& agente, std::any& result)
 {
-    edit<OrganisationForm>(*context_, 0, agentOr(agente), below(), result);
+    edit(organisation, 0, agente, result);
 }
 
 void CrmScreens::EditarOrganizacion(std::int32_t& key, std::int32_t& agente, std::any& result)
 {
-    edit<OrganisationForm>(*context_, key, agentOr(agente), below(), result);
+    edit(organisation, key, agente, result);
 }
 
 void CrmScreens::NuevaPersona(HostObject&, std::int32_t& agente, std::any& result)
 {
-    edit<PersonForm>(*context_, 0, agentOr(agente), below(), result);
+    edit(person, 0, agente, result);
 }
 
 void CrmScreens::EditarPersona(std::int32_t& key, std::int32_t& agente, std::any& result)
 {
-    edit<PersonForm>(*context_, key, agentOr(agente), below(), result);
+    edit(person, key, agente, result);
+}
+
+void CrmScreens::edit(PartyField::Kind kind, std::int32_t key, std::int32_t agente, std::any& result)
+{
+    reporting(below(), [&] {
+        EntryForm form(*context_, kind, key, agentOr(agente), below());
+        if (form.exec() == QDialog::Accepted) result = form.key();
+    });
 }
 
 void CrmScreens::BuscarEntidad(const std::string& text, bool persons, bool organisations, std::string& result)
@@ -53,19 +56,30 @@ void CrmScreens::BuscarEntidad(const std::string& text, bool persons, bool organ
     });
 }
 
-void CrmScreens::BorrarOrganizacion(std::int32_t&, bool&, std::int32_t& result)
+void CrmScreens::BorrarOrganizacion(std::int32_t& key, bool& confirm, std::int32_t& result)
 {
-    result = 0;
-    tellNotAvailable(below());
+    remove(organisation, key, confirm, result);
 }
 
-void CrmScreens::BorrarPersona(std::int32_t&, bool&, std::int32_t& result)
+void CrmScreens::BorrarPersona(std::int32_t& key, bool& confirm, std::int32_t& result)
 {
-    result = 0;
-    tellNotAvailable(below());
+    remove(person, key, confirm, result);
 }
 
-void CrmScreens::MostrarRelaciones(std::int16_t&, std::int32_t&, std::string&) { tellNotAvailable(below()); }
+void CrmScreens::remove(PartyField::Kind kind, std::int32_t key, bool confirm, std::int32_t& result)
+{
+    result = 0;
+    reporting(below(), [&] { result = removeEntry(*context_, kind, key, confirm, below()) ? 1 : 0; });
+}
+
+void CrmScreens::MostrarRelaciones(std::int16_t& kind, std::int32_t& key, std::string& caption)
+{
+    const PartyField::Kind of = kind == 1 ? organisation : person;
+    reporting(below(), [&] {
+        if (!findEntity(context_->database, of == organisation, key)) throw RowGone();
+        RelationsWindow(*context_, of, key, QString::fromStdString(caption), below()).exec();
+    });
+}
 
 QWidget* CrmScreens::below() const { return windowBelow(context_->window); }
 

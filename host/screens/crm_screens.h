@@ -6,6 +6,7 @@
 #pragma once
 
 #include "host/screens/context.h"
+#include "host/screens/party_field.h"
 
 #include <memory>
 
@@ -32,13 +33,14 @@ public:
     /// @param result the person's key, a std::int32_t, where something was stored.
     void EditarPersona(std::int32_t& key, std::int32_t& agente, std::any& result) override;
     void BuscarEntidad(const std::string& text, bool persons, bool organisations, std::string& result) override;
-
-    // Not in this version: they say so, and do nothing.
+    /// @param result 1 when the organisation is gone, also when it was gone already; else 0.
     void BorrarOrganizacion(std::int32_t& key, bool& confirm, std::int32_t& result) override;
     void BorrarPersona(std::int32_t& key, bool& confirm, std::int32_t& result) override;
     void MostrarRelaciones(std::int16_t& kind, std::int32_t& key, std::string& caption) override;
 
 private:
+    void edit(PartyField::Kind kind, std::int32_t key, std::int32_t agente, std::any& result);
+    void remove(PartyField::Kind kind, std::int32_t key, bool confirm, std::int32_t& result);
     QWidget* below() const;
     std::int32_t agentOr(std::int32_t agente) const { return agente != 0 ? agente : context_->agent; }
 

@@ -5,6 +5,7 @@
 
 #include "base/collation.h"
 #include "base/text.h"
+#include "host/screens/entity_statements.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,14 +14,19 @@ namespace dn::host {
 namespace {
 
 constexpr std::size_t lettersForAnywhere = 3;
-constexpr const char* escape = "!";
+constexpr auto room = static_cast<std::size_t>(searchLimit);
+// A slice of so many keys takes some milliseconds. Keys with wide gaps must not make slices without end.
+constexpr std::int64_t keysOfSlice = 4'000;
+constexpr std::int64_t mostSlices = 64;
 
-/// The text as it stands, for LIKE. A bracket opens a set of letters on SQL Server.
-std::string escaped(const std::string& text)
+/// The words of a text as they stand, for LIKE; others may lie between them, so that "ana lópez" fits Ana María
+/// López. A bracket opens a set of letters on SQL Server.
+std::string patternOf(std::string_view text)
 {
     std::string pattern;
     for (const char c : text) {
         if (c == '%' || c == '_' || c == '[' || c == '!') pattern += '!';
+        if (c == ' ') pattern += '%';
         pattern += c;
     }
     return pattern;
@@ -38,67 +44,10 @@ std::vector<Entity> read(OwnConnection& database, const Statement& statement, bo
     return found;
 }
 
-std::vector<Entity> personsFrom(OwnConnection& database, const std::string& pattern)
+void sortByName(std::vector<Entity>& entities)
 {
-    return read(
-        database,
-        Statement("SELECT Sys_PK, Nombre, Apellido1, Apellido2, COALESCE(Tel_Trabajo, Tel_Movil, Tel_Casa), "
-                  "EMail FROM Persona WHERE Nombre LIKE ? ESCAPE ? ORDER BY Nombre, Apellido1")
-            .bind(pattern + "%")
-            .bind(escape)
-            .limit(searchLimit),
-        false);
-}
-
-std::vector<Entity> organisationsFrom(OwnConnection& database, const std::string& pattern)
-{
-    return read(database,
-                Statement("SELECT Sys_PK, Nombre, NULL, NULL, COALESCE(Tel1, Tel2, Tel3), EMail FROM Organizacion "
-                          "WHERE Nombre LIKE ? ESCAPE ? ORDER BY Nombre")
-                    .bind(pattern + "%")
-                    .bind(escape)
-                    .limit(searchLimit),
-                true);
-}
-
-std::vector<Entity> personsWith(OwnConnection& database, const std::string& pattern)
-{
-    return read(
-        database,
-        Statement("SELECT Sys_PK, Nombre, Apellido1, Apellido2, COALESCE(Tel_Trabajo, Tel_Movil, Tel_Casa), "
-                  "EMail FROM Persona WHERE CONCAT_WS(?, Nombre, Apellido1, Apellido2, Tel_Trabajo, "
-                  "Tel_Movil, EMail) LIKE ? ESCAPE ? ORDER BY Nombre, Apellido1")
-            .bind(" ")
-            .bind("%" + pattern + "%")
-            .bind(escape)
-            .limit(searchLimit),
-        false);
-}
-
-std::vector<Entity> organisationsWith(OwnConnection& database, const std::string& pattern)
-{
-    return read(database,
-                Statement("SELECT Sys_PK, Nombre, NULL, NULL, COALESCE(Tel1, Tel2, Tel3), EMail FROM Organizacion "
-                          "WHERE CONCAT_WS(?, Nombre, NomComercial, Tel1, Tel2, EMail) LIKE ? ESCAPE ? ORDER BY "
-                          "Nombre")
-                    .bind(" ")
-                    .bind("%" + pattern + "%")
-                    .bind(escape)
-                    .limit(searchLimit),
-                true);
-}
-
-using Search = std::vector<Entity> (*)(OwnConnection&, const std::string&);
-
-std::vector<Entity> both(OwnConnection& database, const std::string& pattern, SearchScope scope, Search persons,
-                         Search organisations)
-{
-    std::vector<Entity> found;
-    if (scope.organisations) found = organisations(database, pattern);
-    if (scope.persons) std::ranges::move(persons(database, pattern), std::back_inserter(found));
     std::ranges::stable_sort(
-        found, [](const Entity& left, const Entity& right) { return compareSpanish(left.name, right.name) < 0; });
-    return found;
+        entities, [](const Entity& left, const Entity& right) { return compareSpanish(left.name, right.name) < 0; });
 }
 
 bool same(const Entity& left, const Entity& right)
@@ -106,25 +55,97 @@ bool same(const Entity& left, const Entity& right)
     return left.organisation == right.organisation && left.key == right.key;
 }
 
+bool holds(const std::vector<Entity>& entities, const Entity& one)
+{
+    return std::ranges::any_of(entities, [&](const Entity& other) { return same(other, one); });
+}
+
 void addNew(std::vector<Entity>& found, std::vector<Entity> more)
 {
-    const auto known = static_cast<std::ptrdiff_t>(found.size());
     for (Entity& one : more)
-        if (std::none_of(found.begin(), found.begin() + known, [&](const Entity& f) { return same(f, one); }))
-            found.push_back(std::move(one));
+        if (found.size() < room && !holds(found, one)) found.push_back(std::move(one));
 }
 
 } // namespace
 
+void EntitySearch::begin(const std::string& text)
+{
+    const std::string_view wanted = trimmed(text);
+    pattern_ = patternOf(wanted);
+    slices_.clear();
+    found_.clear();
+    elsewhere_.clear();
+    addBeginnings(std::string(wanted));
+    if (length(wanted) < lettersForAnywhere || found_.size() >= room) return;
+    if (scope_.persons) cut(false);
+    if (scope_.organisations) cut(true);
+}
+
+void EntitySearch::addBeginnings(const std::string& text)
+{
+    std::vector<Entity> names;
+    std::vector<Entity> others;
+    const auto add = [this](std::vector<Entity>& to, const Statement& statement, bool organisation) {
+        std::ranges::move(read(database_, statement, organisation), std::back_inserter(to));
+    };
+    if (scope_.organisations) add(names, organisationsFrom(pattern_), true);
+    if (scope_.persons) add(names, personsFrom(pattern_), false);
+    // "ana lópez": the first word leads to the index, the rest only counts its entries out.
+    if (const std::size_t blank = text.find(' '); scope_.persons && blank != std::string::npos)
+        add(names, personsInFull(patternOf(std::string_view(text).substr(0, blank)), pattern_), false);
+    sortByName(names);
+    addNew(found_, std::move(names));
+    if (text.empty()) return;
+    if (scope_.organisations) add(others, organisationsTradingAs(pattern_), true);
+    if (scope_.persons) add(others, personsOfSurname(pattern_), false);
+    sortByName(others);
+    addNew(found_, std::move(others));
+}
+
+void EntitySearch::cut(bool organisations)
+{
+    const auto ends = database_.run(organisations ? organisationKeys() : personKeys());
+    if (ends->Eof() || ends->value(0).isNull()) return;
+    const std::int64_t first = ends->value(0).toInt32();
+    const std::int64_t last = ends->value(1).toInt32();
+    const std::int64_t width = std::max(keysOfSlice, (last - first) / mostSlices + 1);
+    for (std::int64_t from = first; from <= last; from += width)
+        slices_.push_back({organisations, static_cast<std::int32_t>(from),
+                           static_cast<std::int32_t>(std::min(from + width - 1, last))});
+}
+
+bool EntitySearch::goOn()
+{
+    if (isDone()) return false;
+    const Slice slice = slices_.back();
+    slices_.pop_back();
+    try {
+        const Statement statement = slice.organisations ? organisationsWith(pattern_, slice.first, slice.last)
+                                                        : personsWith(pattern_, slice.first, slice.last);
+        std::ranges::copy_if(read(database_, statement, slice.organisations), std::back_inserter(elsewhere_),
+                             [this](const Entity& one) { return !holds(found_, one); });
+    } catch (...) {
+        slices_.clear();
+        throw;
+    }
+    if (found_.size() + elsewhere_.size() >= room) slices_.clear();
+    if (isDone()) finish();
+    return !isDone();
+}
+
+void EntitySearch::finish()
+{
+    sortByName(elsewhere_);
+    addNew(found_, std::move(elsewhere_));
+    elsewhere_.clear();
+}
+
 std::vector<Entity> searchEntities(OwnConnection& database, const std::string& text, SearchScope scope)
 {
-    const std::string wanted(trimmed(text));
-    const std::string pattern = escaped(wanted);
-    std::vector<Entity> found = both(database, pattern, scope, personsFrom, organisationsFrom);
-    if (length(wanted) >= lettersForAnywhere && found.size() < static_cast<std::size_t>(searchLimit))
-        addNew(found, both(database, pattern, scope, personsWith, organisationsWith));
-    if (found.size() > static_cast<std::size_t>(searchLimit)) found.resize(searchLimit);
-    return found;
+    EntitySearch search(database, scope);
+    search.begin(text);
+    while (search.goOn()) {}
+    return search.found();
 }
 
 std::vector<Entity> entitiesNamed(const std::vector<Entity>& found, const std::string& name)

@@ -13,6 +13,7 @@ namespace dn::host {
 namespace {
 
 constexpr int widthInCharacters = 72;
+constexpr int doubleWidthInCharacters = 116;
 
 QString withoutMnemonic(QString label) { return label.remove(u'&').remove(u':'); }
 
@@ -43,9 +44,12 @@ Form::Form(const QString& name, const QString& title, QWidget* over) : QDialog(o
     grid_->setHorizontalSpacing(fontMetrics().height());
 }
 
-void Form::addField(const QString& label, QWidget* field)
+void Form::addField(const QString& label, QWidget* field, Width width)
 {
-    const int row = grid_->rowCount();
+    const bool right = width == Width::half && half_;
+    if (!right) row_ = grid_->rowCount();
+    half_ = width == Width::half && !right;
+    const int column = right ? 2 : 0;
     auto* const caption = new QLabel(label, this);
     caption->setObjectName("lbl" + field->objectName());
     caption->setBuddy(field);
@@ -55,19 +59,25 @@ void Form::addField(const QString& label, QWidget* field)
     message->setTextFormat(Qt::PlainText);
     message->setWordWrap(true);
     message->hide();
-    grid_->addWidget(caption, row, 0);
-    grid_->addWidget(field, row, 1);
-    grid_->addWidget(message, row + 1, 1);
+    const int columns = width == Width::whole ? 3 : 1;
+    grid_->addWidget(caption, row_, column);
+    grid_->addWidget(field, row_, column + 1, 1, columns);
+    grid_->addWidget(message, row_ + 1, column + 1, 1, columns);
     messages_[field] = message;
+    if (width == Width::half) showHalves();
 }
 
-QLineEdit* Form::addLine(const char* name, const QString& label, int longest)
+void Form::showHalves()
 {
-    auto* const line = new QLineEdit(this);
-    line->setObjectName(name);
-    line->setMaxLength(longest);
-    addField(label, line);
-    return line;
+    grid_->setColumnStretch(3, 1);
+    setMinimumWidth(fontMetrics().averageCharWidth() * doubleWidthInCharacters);
+}
+
+void Form::addBelow(QWidget* widget)
+{
+    auto& whole = static_cast<QVBoxLayout&>(*layout());
+    delete whole.takeAt(1); // what kept the fields at the top
+    whole.addWidget(widget, 1);
 }
 
 void Form::addButtons()
@@ -127,7 +137,5 @@ void Form::writeBelow(QWidget* field, const QString& text, const QColor& colour)
     message.setVisible(!text.isEmpty());
     field->setAccessibleDescription(text);
 }
-
-std::string typed(const QLineEdit& line) { return line.text().trimmed().toStdString(); }
 
 } // namespace dn::host

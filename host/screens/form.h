@@ -8,11 +8,13 @@
 #include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 
 #include <map>
 
 namespace dn::host {
+
+/// How much of a form's width a field takes. Two halves that follow each other share a line.
+enum class Width : bool { whole, half };
 
 /// A form stays open, with everything typed, until what it was opened for is done or the operator gives up.
 class Form : public QDialog {
@@ -23,11 +25,12 @@ protected:
     /// @param name the window's object name.
     Form(const QString& name, const QString& title, QWidget* over);
 
-    /// Adds a row. The field needs its object name; the label gives it its accessible name and its mnemonic.
-    void addField(const QString& label, QWidget* field);
-    /// Adds a row with a line of text. @param longest in characters, as the column holds them.
-    QLineEdit* addLine(const char* name, const QString& label, int longest);
-    /// Adds the buttons below the last field.
+    /// Adds a field behind the last one. It needs its object name; the label gives it its accessible name and its
+    /// mnemonic. The tab key goes in the order in which the fields' widgets were made.
+    void addField(const QString& label, QWidget* field, Width width = Width::whole);
+    /// Adds something that takes what room is left, below the last field.
+    void addBelow(QWidget* widget);
+    /// Adds the buttons, last of all.
     void addButtons();
 
     /// Shows what is wrong with a field below it, and takes the operator there.
@@ -41,15 +44,15 @@ private:
     /// @throws what the server said.
     virtual void store() = 0;
 
+    void showHalves();
     void clearComplaints();
     void writeBelow(QWidget* field, const QString& text, const QColor& colour);
 
     QGridLayout* grid_;
     std::map<QWidget*, QLabel*> messages_;
     std::map<QWidget*, QString> remarks_;
+    int row_ = 0;       // of the last field
+    bool half_ = false; // the right half of its line is free
 };
-
-/// Without the blanks at both ends.
-std::string typed(const QLineEdit& line);
 
 } // namespace dn::host

@@ -8,6 +8,8 @@
 #include <QAbstractItemView>
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 namespace dn::host {
 namespace {
 
@@ -27,7 +29,7 @@ QString describe(const Entity& entity)
 } // namespace
 
 PartyField::PartyField(const QString& name, Kind kind, ScreenContext& context, QWidget* parent)
-    : QWidget(parent), context_(context), kind_(kind), edit_(new QLineEdit(this))
+    : QWidget(parent), context_(context), kind_(kind), edit_(new QLineEdit(this)), search_(context.database, scope())
 {
     setObjectName(name);
     edit_->setObjectName("txt" + name);
@@ -53,6 +55,7 @@ PartyField::PartyField(const QString& name, Kind kind, ScreenContext& context, Q
         if (text.isEmpty()) typedAnew(); // the clear button edits nothing
     });
     connect(&pause_, &QTimer::timeout, this, [this] { search(); });
+    connect(&next_, &QTimer::timeout, this, [this] { goOn(); });
     connect(
         &completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this, [this](const QModelIndex& row) {
             const int key = row.data(keyRole).toInt();
@@ -74,17 +77,21 @@ void PartyField::offerNew(const QString& caption, Maker make)
 
 void PartyField::choose(std::int32_t key)
 {
+    const QString name = nameOf(key);
+    take(name.isEmpty() ? 0 : key, name);
+}
+
+QString PartyField::nameOf(std::int32_t key) const
+{
+    if (key == 0) return {};
     const auto entity = findEntity(context_.database, kind_ == Kind::organisation, key);
-    if (entity)
-        take(entity->key, QString::fromStdString(entity->name));
-    else
-        take(0, {});
+    return entity ? QString::fromStdString(entity->name) : QString();
 }
 
 bool PartyField::resolve()
 {
     if (key_ != 0 || isEmpty()) return true;
-    pause_.stop();
+    stopSearch();
     const std::string name = edit_->text().trimmed().toStdString();
     const auto exact = entitiesNamed(searchEntities(context_.database, name, scope()), name);
     if (exact.size() != 1) return false;
@@ -96,36 +103,56 @@ void PartyField::typedAnew()
 {
     key_ = 0;
     completer_.popup()->hide();
-    if (isEmpty())
-        pause_.stop();
-    else
-        pause_.start();
+    stopSearch();
+    if (!isEmpty()) pause_.start();
     if (changed_) changed_();
 }
 
 void PartyField::search()
 {
-    reporting(window(),
-              [this] { offer(searchEntities(context_.database, edit_->text().toStdString(), scope())); });
+    reporting(window(), [this] {
+        search_.begin(edit_->text().toStdString());
+        offer();
+        next_.start(0);
+    });
 }
 
-void PartyField::offer(const std::vector<Entity>& found)
+// The list shows what came first, and again when all is found, so that it does not flicker.
+void PartyField::goOn()
 {
+    bool more = false;
+    reporting(window(), [&] {
+        const std::size_t before = search_.found().size();
+        more = search_.goOn();
+        if (search_.found().size() > before) offer();
+    });
+    if (!more) next_.stop();
+}
+
+void PartyField::stopSearch()
+{
+    pause_.stop();
+    next_.stop();
+}
+
+void PartyField::offer()
+{
+    const int row = completer_.popup()->isVisible() ? completer_.popup()->currentIndex().row() : 0;
     model_.clear();
-    for (const Entity& entity : found) {
+    for (const Entity& entity : search_.found()) {
         auto* const item = new QStandardItem(describe(entity));
         item->setData(entity.key, keyRole);
         item->setData(QString::fromStdString(entity.name), nameRole);
         model_.appendRow(item);
     }
-    if (found.empty() || !edit_->hasFocus()) return;
+    if (search_.found().empty() || !edit_->hasFocus()) return;
     completer_.complete();
-    completer_.popup()->setCurrentIndex(completer_.completionModel()->index(0, 0));
+    completer_.popup()->setCurrentIndex(completer_.completionModel()->index(std::max(row, 0), 0));
 }
 
 void PartyField::take(std::int32_t key, const QString& name)
 {
-    pause_.stop();
+    stopSearch();
     edit_->setText(name);
     key_ = key;
     if (changed_) changed_();
@@ -133,7 +160,7 @@ void PartyField::take(std::int32_t key, const QString& name)
 
 void PartyField::makeNew()
 {
-    pause_.stop();
+    stopSearch();
     reporting(window(), [this] {
         const std::int32_t key = make_(key_ == 0 ? edit_->text().trimmed() : QString());
         if (key != 0) choose(key);

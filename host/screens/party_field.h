@@ -40,12 +40,16 @@ public:
     /// Takes a name that was typed in full. @return whether the field names one entry, or is empty.
     /// @throws data::Error
     bool resolve();
+    /// The name of any entry of the field's kind. @throws data::Error
+    QString nameOf(std::int32_t key) const;
     bool isEmpty() const { return edit_->text().trimmed().isEmpty(); }
 
 private:
     void typedAnew();
     void search();
-    void offer(const std::vector<Entity>& found);
+    void goOn();
+    void stopSearch();
+    void offer();
     void take(std::int32_t key, const QString& name);
     void makeNew();
     SearchScope scope() const;
@@ -56,7 +60,9 @@ private:
     QPushButton* button_ = nullptr;
     QStandardItemModel model_;
     QCompleter completer_;
+    EntitySearch search_;
     QTimer pause_; // until the operator stops typing
+    QTimer next_;  // the next slice of the search, once the operator's keys and clicks are taken
     std::int32_t key_ = 0;
     Maker make_;
     Changed changed_;

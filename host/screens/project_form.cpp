@@ -3,86 +3,95 @@
 
 #include "host/screens/project_form.h"
 
-#include "host/screens/amount.h"
-#include "host/screens/organisation_form.h"
-#include "host/screens/person_form.h"
-#include "host/screens/projects.h"
-
-#include <array>
+#include "host/screens/boxes.h"
+#include "host/screens/directory.h"
+#include "host/screens/entry_form.h"
 
 namespace dn::host {
 namespace {
 
-constexpr std::array temperatures{"Congelado", "Frío", "Tibio", "Caliente"}; // UF_Status1 from 1 on
+const RecordKind& projectKind()
+{
+    static const RecordKind kind{
+        {ColumnType::number, ColumnType::number, ColumnType::number, ColumnType::text, ColumnType::amount,
+         ColumnType::number, ColumnType::number, ColumnType::number},
+        "SELECT IMeta, IOrganizacion, IContacto, Descripcion, UF_monto, UF_Status1, UF_Color, IEjecutivo FROM "
+        "Proyecto WHERE Sys_PK = ?",
+        "UPDATE Proyecto SET Descripcion = Descripcion WHERE Sys_PK = ?",
+        "INSERT INTO Proyecto (IMeta, IOrganizacion, IContacto, Descripcion, UF_monto, UF_Status1, UF_Color, "
+        "IEjecutivo, Sys_GUID, Sys_DTCreated, FInicio) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, CURRENT_TIMESTAMP, "
+        "CURRENT_TIMESTAMP)",
+        "UPDATE Proyecto SET IMeta = ?, IOrganizacion = ?, IContacto = ?, Descripcion = ?, UF_monto = ?, "
+        "UF_Status1 = ?, UF_Color = ?, IEjecutivo = ? WHERE Sys_PK = ?"};
+    return kind;
+}
 
 } // namespace
 
-ProjectForm::ProjectForm(ScreenContext& context, QWidget* over)
-    : Form("CrearProyecto", "Nuevo proyecto", over), context_(context)
+ProjectForm::ProjectForm(ScreenContext& context, std::int32_t key, QWidget* over)
+    : RecordForm(context, projectKind(), key, key == 0 ? "CrearProyecto" : "EditarProyecto",
+                 key == 0 ? "Nuevo proyecto" : "Proyecto", over)
+{
+    addFields();
+    if (isNew()) {
+        begin({"", "", "", "", "", "1", "", std::to_string(context.agent)});
+    } else {
+        load();
+        activities_ = new ActivityList(context.database, key, this);
+        addBelow(activities_);
+        resize(minimumWidth(), fontMetrics().height() * 42);
+    }
+    addButtons();
+    followParties();
+}
+
+void ProjectForm::addFields()
 {
     addGoals();
     addParties();
-    descripcion_ = addLine("Descripcion", "&Descripción:", 500);
-    monto_ = addLine("Monto", "Mo&nto:", 30);
-    monto_->setPlaceholderText("Opcional, por ejemplo 1,234.50");
-    addTemperature();
-    addButtons();
-    organisationChanged();
+    addLine("Descripcion", "&Descripción:", 500, Width::whole, "Escriba una descripción del proyecto.");
+    addLine<AmountField>("Monto", "Mo&nto:", 30, Width::half)->setPlaceholderText("Opcional, por ejemplo 1,234.50");
+    addChoice("Temperatura", "&Temperatura:", temperatures(!isNew()), {}, Width::half,
+              "Elija la temperatura del proyecto.");
+    addChoice("Color", "Co&lor:", colours(), "Predeterminado", Width::half);
+    addChoice("Agente", "A&gente:", readAgents(context().database), "(sin asignar)", Width::half);
 }
 
 void ProjectForm::addGoals()
 {
-    meta_->setObjectName("Meta");
-    meta_->setPlaceholderText("Elija una meta");
-    for (const Goal& goal : readGoals(context_.database))
-        meta_->addItem(QString::fromStdString(goal.description), goal.key);
-    meta_->setCurrentIndex(-1);
-    addField("&Meta:", meta_);
+    const std::vector<Choice> goals = readGoals(context().database);
+    addChoice("Meta", "&Meta:", goals, {}, Width::whole,
+              goals.empty()
+                  ? "No hay metas en la base de datos. Pida a su administrador que registre al menos una."
+                  : "Elija la meta del proyecto.")
+        ->setPlaceholderText("Elija una meta");
 }
 
 void ProjectForm::addParties()
 {
-    organizacion_ = new PartyField("Organizacion", PartyField::Kind::organisation, context_, this);
-    addField("&Organización:", organizacion_);
-    organizacion_->offerNew("N&ueva…", [this](const QString& name) { return makeOrganisation(name); });
+    organizacion_ = addParty("Organizacion", "&Organización:", PartyField::Kind::organisation, context());
+    organizacion_->offerNew("N&ueva…", [this](const QString& name) {
+        return makeEntry(context(), PartyField::Kind::organisation, name, 0, this);
+    });
+    persona_ = addParty("Persona", "&Persona:", PartyField::Kind::person, context());
+    persona_->offerNew("Nu&eva…", [this](const QString& name) {
+        return makeEntry(context(), PartyField::Kind::person, name, organizacion_->key(), this);
+    });
+}
+
+// Only once the row is shown: what stands in it is not for the form to complete.
+void ProjectForm::followParties()
+{
     organizacion_->onChange([this] { organisationChanged(); });
-    persona_ = new PartyField("Persona", PartyField::Kind::person, context_, this);
-    addField("&Persona:", persona_);
-    persona_->offerNew("Nu&eva…", [this](const QString& name) { return makePerson(name); });
     persona_->onChange([this] { personChanged(); });
-}
-
-void ProjectForm::addTemperature()
-{
-    temperatura_ = new QComboBox(this); // not earlier: the tab key goes by the order of the making
-    temperatura_->setObjectName("Temperatura");
-    for (const char* name : temperatures)
-        temperatura_->addItem(name);
-    addField("&Temperatura:", temperatura_);
-}
-
-void ProjectForm::person(std::int32_t key) { persona_->choose(key); }
-
-std::int32_t ProjectForm::makeOrganisation(const QString& name)
-{
-    OrganisationForm form(context_, 0, context_.agent, this);
-    form.name(name);
-    return form.exec() == QDialog::Accepted ? form.key() : 0;
-}
-
-std::int32_t ProjectForm::makePerson(const QString& name)
-{
-    PersonForm form(context_, 0, context_.agent, this);
-    form.name(name);
-    form.organisation(organizacion_->key());
-    return form.exec() == QDialog::Accepted ? form.key() : 0;
+    organisationChanged();
 }
 
 // Whoever picks a person most often means the organisation that the person works for.
 void ProjectForm::personChanged()
 {
     if (persona_->key() == 0 || !organizacion_->isEmpty()) return;
-    organizacion_->choose(readPerson(context_.database, persona_->key()).organizacion);
+    organizacion_->choose(organisationOf(context().database, persona_->key()));
 }
 
 // The control's lists of projects join the organisation.
@@ -93,53 +102,23 @@ void ProjectForm::organisationChanged()
                               : "");
 }
 
-bool ProjectForm::validate()
+void ProjectForm::storeMore(std::int32_t)
 {
-    if (!validateGoal()) return false;
-    if (!validateParty(*organizacion_, "Elija una organización de la lista, o créela con «Nueva».")) return false;
-    if (!validateParty(*persona_, "Elija una persona de la lista, o créela con «Nueva».")) return false;
-    if (typed(*descripcion_).empty()) {
-        complain(descripcion_, "Escriba una descripción del proyecto.");
-        return false;
-    }
-    return validateAmount();
+    if (activities_ != nullptr) activities_->store();
 }
 
-bool ProjectForm::validateGoal()
+void ProjectForm::reject()
 {
-    if (meta_->currentIndex() >= 0) return true;
-    complain(meta_, meta_->count() > 0
-                        ? "Elija la meta del proyecto."
-                        : "No hay metas en la base de datos. Pida a su administrador que registre al menos una.");
-    return false;
+    const bool loses = activities_ != nullptr && (changed() || activities_->changed());
+    if (!loses || ask(this, "¿Cerrar el proyecto sin guardar los cambios?", "Cerrar &sin guardar",
+                      "S&eguir editando"))
+        RecordForm::reject();
 }
 
-bool ProjectForm::validateParty(PartyField& field, const QString& complaint)
+void editProject(ScreenContext& context, std::int32_t key, QWidget* over)
 {
-    if (field.resolve()) return true;
-    complain(&field, complaint);
-    return false;
-}
-
-bool ProjectForm::validateAmount()
-{
-    if (typed(*monto_).empty() || readAmount(typed(*monto_))) return true;
-    complain(monto_, "Escriba el monto con números y hasta dos decimales, por ejemplo 1234.50 o 1,234.50.");
-    monto_->selectAll();
-    return false;
-}
-
-void ProjectForm::store()
-{
-    NewProject project;
-    project.goal = meta_->currentData().toInt();
-    project.organisation = organizacion_->key();
-    project.person = persona_->key();
-    project.description = typed(*descripcion_);
-    if (const auto amount = readAmount(typed(*monto_))) project.amount = Decimal(*amount);
-    project.temperature = temperatura_->currentIndex() + 1;
-    project.agent = context_.agent;
-    key_ = insertProject(context_.database, project);
+    ProjectForm form(context, key, over);
+    form.exec();
 }
 
 } // namespace dn::host

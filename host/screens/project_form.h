@@ -1,50 +1,41 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The screen of a new project.
+// The screen of a project, a new one or one with its activities.
 #pragma once
 
-#include "host/screens/context.h"
-#include "host/screens/form.h"
-#include "host/screens/party_field.h"
-
-#include <QComboBox>
+#include "host/screens/activity_list.h"
+#include "host/screens/record_form.h"
 
 namespace dn::host {
 
-class ProjectForm : public Form {
+class ProjectForm : public RecordForm {
 public:
-    /// The project is that of the context's agent. @throws data::Error
-    ProjectForm(ScreenContext& context, QWidget* over);
+    /// @param key 0 for a new one, which is the context's agent's. @throws data::Error, RowGone
+    ProjectForm(ScreenContext& context, std::int32_t key, QWidget* over);
 
     /// Whom the project is with, from the start. @throws data::Error
-    void person(std::int32_t key);
+    void person(std::int32_t key) { persona_->choose(key); }
     void organisation(std::int32_t key) { organizacion_->choose(key); }
-    /// Of the project that was made; 0 before.
-    std::int32_t key() const { return key_; }
+
+    /// Asks ahead of giving up what was changed in a project that is there.
+    void reject() override;
 
 private:
+    void addFields();
     void addGoals();
     void addParties();
-    void addTemperature();
-    std::int32_t makeOrganisation(const QString& name);
-    std::int32_t makePerson(const QString& name);
+    void followParties();
     void personChanged();
     void organisationChanged();
-    bool validate() override;
-    bool validateGoal();
-    bool validateParty(PartyField& field, const QString& complaint);
-    bool validateAmount();
-    void store() override;
+    void storeMore(std::int32_t key) override;
 
-    ScreenContext& context_;
-    QComboBox* meta_ = new QComboBox(this);
-    PartyField* organizacion_;
-    PartyField* persona_;
-    QLineEdit* descripcion_;
-    QLineEdit* monto_;
-    QComboBox* temperatura_ = nullptr;
-    std::int32_t key_ = 0;
+    PartyField* organizacion_ = nullptr;
+    PartyField* persona_ = nullptr;
+    ActivityList* activities_ = nullptr; // none on a new project
 };
+
+/// Opens a project and waits until the operator has done with it. @throws data::Error, RowGone
+void editProject(ScreenContext& context, std::int32_t key, QWidget* over);
 
 } // namespace dn::host

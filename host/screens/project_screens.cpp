@@ -4,7 +4,6 @@
 #include "host/screens/project_screens.h"
 
 #include "host/screens/boxes.h"
-#include "host/screens/directory.h"
 #include "host/screens/project_form.h"
 
 namespace dn::host {
@@ -50,13 +49,17 @@ void ProjectScreens::CrearProyecto(std::int16_t& kind, std::int32_t& party, std:
     result = 0;
     QWidget* const over = windowBelow(context_->window);
     reporting(over, [&] {
-        ProjectForm form(*context_, over);
+        ProjectForm form(*context_, 0, over);
         if (kind == person) form.person(party);
         if (kind == organisation) form.organisation(party);
         if (form.exec() == QDialog::Accepted) result = form.key();
     });
 }
 
-void ProjectScreens::EditarProyecto(std::int32_t) { tellNotAvailable(windowBelow(context_->window)); }
+void ProjectScreens::EditarProyecto(std::int32_t key)
+{
+    QWidget* const over = windowBelow(context_->window);
+    reporting(over, [&] { editProject(*context_, key, over); });
+}
 
 } // namespace dn::host

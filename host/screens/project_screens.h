@@ -26,8 +26,7 @@ public:
                       std::int32_t& result) override;
     void SetMotorBD(std::int16_t motor) override { context_->motor = motor; }
     void CrearProyecto(std::int16_t& kind, std::int32_t& party, std::int32_t& result) override;
-
-    // Not in this version: it says so, and does nothing.
+    /// Returns when the window closes.
     void EditarProyecto(std::int32_t key) override;
 
 private:

@@ -5,6 +5,7 @@
 
 #include "host/screens/crm_connection.h"
 #include "host/screens/crm_screens.h"
+#include "host/screens/person_record.h"
 #include "host/screens/project_screens.h"
 
 namespace dn::host {
@@ -23,9 +24,12 @@ std::shared_ptr<UIProyectos> ScreensFactory::newUIProyectos()
     return std::make_shared<ProjectScreens>(context_);
 }
 
-// This program has no mail and reads no persons ahead yet: the control takes nothing as a failure.
+// This program has no mail yet: the control takes nothing as a failure.
 std::shared_ptr<CorreoHost> ScreensFactory::newCorreoHost() { return nullptr; }
 
-std::shared_ptr<PersonaRegistro> ScreensFactory::newPersonaRegistro() { return nullptr; }
+std::shared_ptr<PersonaRegistro> ScreensFactory::newPersonaRegistro()
+{
+    return std::make_shared<PersonRecord>();
+}
 
 } // namespace dn::host

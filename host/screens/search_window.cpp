@@ -4,10 +4,10 @@
 #include "host/screens/search_window.h"
 
 #include "host/screens/boxes.h"
+#include "host/screens/report_list.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -17,22 +17,13 @@
 namespace dn::host {
 namespace {
 
-constexpr int typingPause = 150; // milliseconds
+constexpr int typingPause = 40; // milliseconds
 constexpr std::array listKeys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
-
-QString countText(std::size_t count)
-{
-    if (count == 0) return "Nada coincide. Pruebe con otras letras.";
-    if (count == 1) return "1 resultado";
-    if (count >= static_cast<std::size_t>(searchLimit))
-        return QString("Los primeros %1. Escriba más letras para acotar.").arg(count);
-    return QString("%1 resultados").arg(count);
-}
 
 } // namespace
 
 SearchWindow::SearchWindow(ScreenContext& context, const QString& text, SearchScope scope, QWidget* over)
-    : QDialog(over), context_(context), scope_(scope)
+    : QDialog(over), search_(context.database, scope)
 {
     setObjectName("BuscarEntidad");
     setWindowTitle("Buscar en el directorio");
@@ -43,7 +34,10 @@ SearchWindow::SearchWindow(ScreenContext& context, const QString& text, SearchSc
     pause_.setInterval(typingPause);
     connect(text_, &QLineEdit::textChanged, &pause_, qOverload<>(&QTimer::start));
     connect(&pause_, &QTimer::timeout, this, [this] { search(); });
-    fill(searchEntities(context_.database, text.toStdString(), scope_));
+    connect(&next_, &QTimer::timeout, this, [this] { goOn(); });
+    search_.begin(text.toStdString());
+    fill();
+    next_.start(0);
 }
 
 void SearchWindow::build()
@@ -85,16 +79,8 @@ void SearchWindow::build()
 
 void SearchWindow::buildList()
 {
-    const int character = fontMetrics().averageCharWidth();
-    list_->setObjectName("lstEntidades");
-    list_->setAccessibleName("Resultados");
-    list_->setHeaderLabels({"Nombre", "Tipo", "Teléfono", "Correo"});
-    list_->setRootIsDecorated(false);
-    list_->setUniformRowHeights(true);
-    list_->setAlternatingRowColors(true);
-    list_->setColumnWidth(0, character * 44);
-    list_->setColumnWidth(1, character * 14);
-    list_->setColumnWidth(2, character * 20);
+    dressAsReport(*list_, "lstEntidades", "Resultados",
+                  {{"Nombre", 0}, {"Tipo", 14}, {"Teléfono", 20}, {"Correo", 34}});
     connect(list_, &QTreeWidget::itemDoubleClicked, this, [this] { accept(); });
 }
 
@@ -126,12 +112,34 @@ bool SearchWindow::eventFilter(QObject* watched, QEvent* event)
 void SearchWindow::search()
 {
     pause_.stop();
-    reporting(this, [this] { fill(searchEntities(context_.database, text_->text().toStdString(), scope_)); });
+    next_.stop();
+    reporting(this, [this] {
+        search_.begin(text_->text().toStdString());
+        fill();
+        next_.start(0);
+    });
 }
 
-void SearchWindow::fill(const std::vector<Entity>& found)
+void SearchWindow::goOn()
 {
-    found_ = found;
+    bool more = false;
+    reporting(this, [&] {
+        more = search_.goOn();
+        if (!more) fill();
+    });
+    if (!more) next_.stop();
+}
+
+// The row that the operator has gone to stays the current one while more are found below it.
+void SearchWindow::fill()
+{
+    const bool same = found_.size() <= search_.found().size() &&
+                      std::equal(found_.begin(), found_.end(), search_.found().begin(),
+                                 [](const Entity& l, const Entity& r) {
+                                     return l.key == r.key && l.organisation == r.organisation;
+                                 });
+    const int row = same ? std::max(0, list_->indexOfTopLevelItem(list_->currentItem())) : 0;
+    found_ = search_.found();
     list_->clear();
     QList<QTreeWidgetItem*> rows;
     for (const Entity& entity : found_)
@@ -139,9 +147,20 @@ void SearchWindow::fill(const std::vector<Entity>& found)
             {QString::fromStdString(entity.name), entity.organisation ? "Organización" : "Persona",
              QString::fromStdString(entity.telephone), QString::fromStdString(entity.email)}));
     list_->addTopLevelItems(rows);
-    if (!rows.isEmpty()) list_->setCurrentItem(rows.front());
-    count_->setText(countText(found_.size()));
+    if (!rows.isEmpty()) list_->setCurrentItem(rows.at(row));
+    count_->setText(countText());
     accepts_->setEnabled(!rows.isEmpty());
+}
+
+QString SearchWindow::countText() const
+{
+    const std::size_t count = found_.size();
+    if (!search_.isDone()) return "Buscando…";
+    if (count == 0) return "Nada coincide. Pruebe con otras letras.";
+    if (count == 1) return "1 resultado";
+    if (count >= static_cast<std::size_t>(searchLimit))
+        return QString("Los primeros %1. Escriba más letras para acotar.").arg(count);
+    return QString("%1 resultados").arg(count);
 }
 
 } // namespace dn::host

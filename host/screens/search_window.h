@@ -35,15 +35,17 @@ private:
     void build();
     void buildList();
     void search();
-    void fill(const std::vector<Entity>& found);
+    void goOn();
+    void fill();
+    QString countText() const;
 
-    ScreenContext& context_;
-    SearchScope scope_;
+    EntitySearch search_;
     QLineEdit* text_ = new QLineEdit(this);
     QTreeWidget* list_ = new QTreeWidget(this);
     QLabel* count_ = new QLabel(this);
     QPushButton* accepts_ = nullptr;
-    QTimer pause_; // until the operator stops typing
+    QTimer pause_; // between a key and what it finds
+    QTimer next_;  // the next slice of the search, once the operator's keys and clicks are taken
     std::vector<Entity> found_;
 };
 

@@ -27,7 +27,9 @@ std::string prospectStatement(bool mySql, std::int32_t agente, int status)
     text += "uf_ultimointento as e_ultimointento" + comma;
     text += daysSince(mySql, "now()", "uf_ultimointento") + " as e_dui ";
     if (unassigned) {
-        text += std::string("FROM ut_icontact WHERE ") + (mySql ? "IFNULL" : "ISNULL") + "(uf_IEjecutivo, 0) = 0";
+        text += "FROM ut_icontact WHERE ";
+        text += mySql ? "IFNULL" : "ISNULL";
+        text += "(uf_IEjecutivo, 0) = 0";
     } else {
         text += "FROM ut_icontact WHERE uf_IEjecutivo = " + std::to_string(agente);
     }

@@ -6,28 +6,40 @@
 #include "host/database/database_choice.h"
 #include "host/database/schema.h"
 #include "tests/support/maria_server.h"
+#include "tests/support/recording_connection.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QDateTimeEdit>
 #include <QMessageBox>
 #include <QTest>
 
 namespace dn::host::tests {
 namespace {
 
-std::unique_ptr<data::Connection> openTo(const char* database)
+std::unique_ptr<data::Connection> openTo(const char* database, std::string_view user, std::string_view password)
 {
     MariadbTarget target;
     target.socket = dn::tests::sharedServer().socket();
-    target.user = dn::tests::MariaServer::user;
-    target.password = dn::tests::MariaServer::password;
+    target.user = user;
+    target.password = password;
     target.database = database;
     return connect(target);
+}
+
+std::unique_ptr<data::Connection> openTo(const char* database)
+{
+    return openTo(database, dn::tests::MariaServer::user, dn::tests::MariaServer::password);
 }
 
 } // namespace
 
 std::unique_ptr<data::Connection> Screens::open() { return openTo("pantallas"); }
+
+std::unique_ptr<data::Connection> Screens::openAs(const char* user, const char* password)
+{
+    return openTo("pantallas", user, password);
+}
 
 void Screens::SetUpTestSuite()
 {
@@ -40,7 +52,8 @@ void Screens::TearDownTestSuite() { connection_.reset(); }
 
 void Screens::SetUp()
 {
-    for (const char* table : {"Proyecto", "Meta", "Persona", "Organizacion", "ut_icontact", "Agente"})
+    for (const char* table : {"actividad", "mdtpactividad", "Proyecto", "Meta", "Persona", "Organizacion",
+                              "ut_icontact", "Agente", "Ciudad"})
         server().execute("TRUNCATE TABLE " + std::string(table));
     server().execute("INSERT INTO Meta (Sys_PK, Descripcion) VALUES (3, 'Venta de licencias'), (4, 'Asesoría')");
     server().execute(
@@ -49,6 +62,32 @@ void Screens::SetUp()
     server().execute("INSERT INTO Persona (Sys_PK, Nombre, Apellido1, Tel_Movil, IOrganizacion) VALUES "
                      "(21, 'Ana', 'López', '9612222222', 11), (22, 'Bruno', 'Díaz', NULL, NULL)");
     crm->SetAgente(agent);
+}
+
+std::unique_ptr<data::Connection> Screens::watched()
+{
+    auto connection = std::make_unique<dn::tests::RecordingConnection>(open());
+    connection->refuses = [this](std::string_view statement) {
+        sent.emplace_back(statement);
+        return untilFailure_ >= 0 && untilFailure_-- == 0;
+    };
+    return connection;
+}
+
+void Screens::expectNotice(const char* part)
+{
+    operatorAt.expect("Aviso", [part](QWidget& box) {
+        EXPECT_THAT(boxText(box), testing::HasSubstr(part));
+        dn::tests::pressButton(box, "Aceptar");
+    });
+}
+
+void Screens::expectQuestion(const char* part, const char* answer)
+{
+    operatorAt.expect("Pregunta", [part, answer](QWidget& box) {
+        EXPECT_THAT(boxText(box), testing::HasSubstr(part));
+        dn::tests::pressButton(box, answer);
+    });
 }
 
 std::vector<Row> Screens::rows(std::string_view statement)
@@ -124,6 +163,15 @@ void finds(QWidget& window, const char* field, const char* letters)
     QApplication::processEvents();
     QTest::keyClick(&list, Qt::Key_Return);
     QApplication::processEvents();
+}
+
+void typesMoment(QWidget& window, const char* name, const char* digits)
+{
+    auto* const edit = window.findChild<QDateTimeEdit*>(name);
+    ASSERT_NE(edit, nullptr) << name;
+    edit->setFocus();
+    edit->setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClicks(edit, digits);
 }
 
 std::string messageBelow(QWidget& window, const char* field)

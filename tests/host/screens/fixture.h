@@ -31,6 +31,7 @@ protected:
     static constexpr std::int32_t acme = 11;      ///< an organisation
     static constexpr std::int32_t ana = 21;       ///< a person of Acme's
     static constexpr std::int32_t bruno = 22;     ///< a person without an organisation
+    static constexpr std::int32_t sale = 41;      ///< a project of Acme's with Ana, and two activities
     static constexpr std::int32_t nobody = 99999; ///< no key of anything
 
     static void SetUpTestSuite();
@@ -40,6 +41,7 @@ protected:
     /// A connection beside that of the screens, to look at what they stored and to disturb them.
     static data::Connection& server() { return *connection_; }
     static std::unique_ptr<data::Connection> open();
+    static std::unique_ptr<data::Connection> openAs(const char* user, const char* password);
     /// The rows of a statement, a null as "NULL".
     static std::vector<Row> rows(std::string_view statement);
     static std::string value(std::string_view statement);
@@ -47,12 +49,26 @@ protected:
     /// Opens the screen of a new project and lets the driver act. @return the operation's result.
     std::int32_t newProject(std::int16_t kind = 2, std::int32_t party = 0);
 
-    ScreensFactory factory{[] { return open(); }};
+    /// Of the statements that the screens send from here on, the one after so many more fails, as if the server
+    /// had refused it.
+    void failAfter(int more) { untilFailure_ = more; }
+    /// Every statement that the screens sent from here on.
+    void forgetSent() { sent.clear(); }
+    /// Expects a box with a text in it, and closes it.
+    void expectNotice(const char* part);
+    /// Expects a question with a text in it, and answers with the button of a caption.
+    void expectQuestion(const char* part, const char* answer);
+
+    std::vector<std::string> sent;
+    ScreensFactory factory{[this] { return watched(); }};
     std::shared_ptr<UI_CRM> crm = factory.newUI_CRM();
     std::shared_ptr<UIProyectos> projects = factory.newUIProyectos();
     dn::tests::ModalDriver operatorAt;
 
 private:
+    std::unique_ptr<data::Connection> watched();
+
+    int untilFailure_ = -1;
     inline static std::unique_ptr<data::Connection> connection_;
 };
 
@@ -68,6 +84,8 @@ void picks(QWidget& window, const char* combo, const char* entry);
 void finds(QWidget& window, const char* field, const char* letters);
 /// The message below a field; an empty text while none shows.
 std::string messageBelow(QWidget& window, const char* field);
+/// Types a date and time into its field, digit by digit: "ddmmyyyyhhnn".
+void typesMoment(QWidget& window, const char* name, const char* digits);
 /// What a box says.
 std::string boxText(const QWidget& box);
 /// The name of the widget with the focus.

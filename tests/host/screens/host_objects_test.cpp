@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The host's objects as the control uses them: operations without a window, those that this version lacks, and a
-// prospect that becomes an opportunity.
+// The host's objects as the control uses them: operations without a window, and a prospect that becomes an
+// opportunity.
 
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "shell/ctr_dn_contacts.h"
@@ -21,14 +21,6 @@ protected:
         projects->CrearPersona(name, "Internal", "Internal2", 4, "961", "t3", "a@b", "t4", by, result);
         return result;
     }
-
-    void expectNotAvailable()
-    {
-        operatorAt.expect("Aviso", [](QWidget& box) {
-            EXPECT_EQ(boxText(box), "Esta pantalla aún no está disponible en esta versión.");
-            pressButton(box, "Aceptar");
-        });
-    }
 };
 
 TEST_F(HostObjects, a_person_is_made_without_a_window)
@@ -46,29 +38,6 @@ TEST_F(HostObjects, a_person_that_the_server_refuses_has_the_key_0)
     operatorAt.expect("Aviso", [](QWidget& box) { pressButton(box, "Aceptar"); });
     EXPECT_EQ(makePerson(std::string(300, 'x')), 0);
     EXPECT_EQ(value("SELECT COUNT(*) FROM Persona"), "2");
-}
-
-TEST_F(HostObjects, what_is_not_there_yet_says_so_and_changes_nothing)
-{
-    std::int32_t key = ana;
-    std::int32_t result = 5;
-    bool confirm = true;
-    expectNotAvailable();
-    crm->BorrarPersona(key, confirm, result);
-    EXPECT_EQ(result, 0);
-    key = acme;
-    result = 5;
-    expectNotAvailable();
-    crm->BorrarOrganizacion(key, confirm, result);
-    EXPECT_EQ(result, 0);
-    std::int16_t kind = 0;
-    std::string caption;
-    expectNotAvailable();
-    crm->MostrarRelaciones(kind, key, caption);
-    expectNotAvailable();
-    projects->EditarProyecto(1);
-    EXPECT_EQ(value("SELECT COUNT(*) FROM Persona"), "2");
-    EXPECT_EQ(value("SELECT COUNT(*) FROM Organizacion"), "2");
 }
 
 TEST_F(HostObjects, the_control_binds_them_and_a_prospect_becomes_an_opportunity)

@@ -53,10 +53,31 @@ TEST_F(Search, finds_by_the_first_letters_without_regard_to_case_and_accents)
     EXPECT_THAT(names(""), ElementsAre("Acero y Forja", "Acme del Sureste", "Ana López", "Bruno Díaz"));
 }
 
+TEST_F(Search, finds_by_surname_and_by_trade_name_from_the_first_letter_on)
+{
+    server().execute("UPDATE Organizacion SET NomComercial = 'La Fragua' WHERE Sys_PK = 12");
+    EXPECT_THAT(names("l"), ElementsAre("Acero y Forja", "Ana López"));
+    EXPECT_THAT(names("lopez"), ElementsAre("Ana López"));
+    server().execute("INSERT INTO Persona (Nombre) VALUES ('Lorena')");
+    EXPECT_THAT(names("lo"), ElementsAre("Lorena", "Ana López"));
+}
+
+TEST_F(Search, finds_a_full_name_word_by_word)
+{
+    EXPECT_THAT(names("ana lo"), ElementsAre("Ana López"));
+    EXPECT_THAT(names("bruno d"), ElementsAre("Bruno Díaz"));
+    EXPECT_THAT(names("ana d"), IsEmpty());
+    server().execute("INSERT INTO Persona (Nombre, Apellido1) VALUES ('Ana María', 'López')");
+    EXPECT_THAT(names("ana lop"), ElementsAre("Ana López", "Ana María López"));
+    EXPECT_THAT(names("acme ureste"), IsEmpty()); // a word is known by its beginning
+    server().execute("INSERT INTO Organizacion (Nombre) VALUES ('Acme y Asociados del Golfo')");
+    EXPECT_THAT(names("acme golf"), ElementsAre("Acme y Asociados del Golfo"));
+}
+
 TEST_F(Search, finds_in_the_middle_from_three_letters_on_behind_the_first_letters)
 {
-    EXPECT_THAT(names("lo"), IsEmpty());
-    EXPECT_THAT(names("lóp"), ElementsAre("Ana López"));
+    EXPECT_THAT(names("óp"), IsEmpty());
+    EXPECT_THAT(names("ópe"), ElementsAre("Ana López"));
     EXPECT_THAT(names("ana lópez"), ElementsAre("Ana López"));
     EXPECT_THAT(names("9612222"), ElementsAre("Ana López"));
     server().execute("INSERT INTO Persona (Nombre) VALUES ('Sureña')");
@@ -103,6 +124,28 @@ TEST_F(Search, the_names_are_found_by_their_index)
              "Apellido1 LIMIT 200");
     EXPECT_EQ(plan.at(0).at(3), "range");
     EXPECT_EQ(plan.at(0).at(5), "por_nombre");
+    EXPECT_EQ(rows("EXPLAIN SELECT Sys_PK FROM Persona WHERE Apellido1 LIKE 'bru%' ESCAPE '!' ORDER BY Apellido1, "
+                   "Nombre LIMIT 200")
+                  .at(0)
+                  .at(5),
+              "por_apellido");
+}
+
+TEST_F(Search, the_pass_over_the_tables_goes_in_slices_whatever_the_keys)
+{
+    server().execute("INSERT INTO Persona (Sys_PK, Nombre, EMail) VALUES (2147483647, 'Última', 'u@lejos.example'), "
+                     "(-5, 'Primera', 'p@lejos.example')");
+    OwnConnection database([] { return open(); });
+    EntitySearch search(database, {});
+    search.begin("lejos");
+    EXPECT_THAT(search.found(), IsEmpty());
+    int slices = 1;
+    while (search.goOn())
+        ++slices;
+    EXPECT_THAT(slices, testing::AllOf(testing::Ge(30), testing::Le(140)));
+    EXPECT_THAT(names("lejos"), ElementsAre("Primera", "Última"));
+    EXPECT_TRUE(search.isDone());
+    EXPECT_FALSE(search.goOn());
 }
 
 TEST_F(Search, the_window_takes_letters_and_arrows_in_one_field)

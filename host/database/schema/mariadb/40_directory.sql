@@ -47,7 +47,8 @@ CREATE TABLE Organizacion (
     Notas TEXT NULL,
     PRIMARY KEY (Sys_PK),
     KEY por_ejecutivo (IEjecutivo),
-    KEY por_nombre (Nombre)
+    KEY por_nombre (Nombre),
+    KEY por_comercial (NomComercial)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_spanish_ci;
 
 CREATE TABLE Persona (
@@ -75,5 +76,6 @@ CREATE TABLE Persona (
     PRIMARY KEY (Sys_PK),
     KEY por_ejecutivo (IEjecutivo),
     KEY por_organizacion (IOrganizacion),
-    KEY por_nombre (Nombre, Apellido1)
+    KEY por_nombre (Nombre, Apellido1),
+    KEY por_apellido (Apellido1, Nombre)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_spanish_ci;
