@@ -159,6 +159,33 @@ TEST_F(SmallViewsTest, a_timer_ticks_also_while_one_of_its_ticks_waits)
     view.reset();
 }
 
+TEST_F(SmallViewsTest, a_timer_rests_while_what_it_moves_is_out_of_sight_and_makes_up_for_it)
+{
+    PicturePanel panel(&root, "pic");
+    ProgressBar bar(&panel, "PG");
+    Timer timer(&root, "Timer1");
+    Timer clock(&root, "Timer2");
+    panel.Visible(false);
+    timer.Interval(1);
+    timer.Moves(bar);
+    clock.Interval(1);
+    int ticks = 0;
+    std::vector<int> together; // how many at each awakening
+    const Subscription wire = timer.TimerEvent.connect([&] { ++ticks; });
+    const Subscription wireOfClock = clock.TimerEvent.connect([&] {
+        if (ticks != 0) together.push_back(ticks);
+        ticks = 0;
+    });
+    show();
+    waitUntil([&] { return together.size() >= 2; });
+    for (const int count : together)
+        EXPECT_GT(count, 100) << "some hundreds at once";
+    panel.Visible(true);
+    together.clear();
+    waitUntil([&] { return together.size() > 100; });
+    view.reset();
+}
+
 TEST_F(SmallViewsTest, a_day_and_a_time_are_picked)
 {
     MonthView month(&root, "cal");
