@@ -3,6 +3,7 @@
 
 // A mail about a project: whose addresses, which of them, and the line in the log afterwards.
 
+#include "screen/list_box.h"
 #include "tests/mail/fixture.h"
 
 namespace dn::tests {

@@ -115,7 +115,7 @@ TEST_F(MailHistory, is_shown_by_kind_and_key_and_goes_to_no_log)
 
 TEST_F(MailHistory, of_any_other_kind_asks_nothing_and_is_told)
 {
-    for (const std::int16_t kind : {-1, 2, 32767}) {
+    for (const std::int16_t kind : {std::int16_t{-1}, std::int16_t{2}, std::int16_t{32767}}) {
         ports.dialogs.expectBox(notFound);
         history(kind, 5);
     }
