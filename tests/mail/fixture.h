@@ -77,7 +77,8 @@ protected:
     void send() { elements().detail.cmdSend.press(); }
 
     /// What was asked of the host's mail object.
-    std::vector<std::string>& asked() { return host.log.calls; }
+    const std::vector<std::string>& asked() const { return host.log.calls; }
+    std::string lastAsked() const { return asked().empty() ? "nothing" : asked().back(); }
 };
 
 } // namespace dn::tests

@@ -64,7 +64,7 @@ TEST_F(ProjectMail, with_one_address_asks_nothing)
         addresses(one[0], one[1], one[2], one[3]);
         forget();
         send();
-        EXPECT_EQ(asked().back(), "Enviar PY.ABCD <ana@x.mx>");
+        EXPECT_EQ(lastAsked(), "Enviar PY.ABCD <ana@x.mx>");
         EXPECT_EQ(cnn.statements().back(), projectNote(41));
     }
 }
@@ -140,7 +140,7 @@ TEST_F(ProjectMail, takes_the_addresses_that_can_be_read)
 {
     addresses(failing("roto"), text("acme@x.mx"), failing("roto"), null);
     send();
-    EXPECT_EQ(asked().back(), "Enviar PY.ABCD <acme@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar PY.ABCD <acme@x.mx>");
 }
 
 TEST_F(ProjectMail, whose_record_is_gone_meanwhile_is_told)

@@ -46,7 +46,7 @@ TEST_F(ProspectMail, goes_out_without_an_address_too)
     lvw().clickRow(0);
     forget();
     send();
-    EXPECT_THAT(asked().back(), "Enviar CT.ABCD <>");
+    EXPECT_THAT(lastAsked(), "Enviar CT.ABCD <>");
     EXPECT_EQ(cnn.statements().back(), prospectNote(11));
 }
 
@@ -112,13 +112,13 @@ TEST_F(ProspectMail, of_a_record_without_an_identifier_goes_on_with_what_there_i
 {
     cnn.on(identifier12).gives({"Sys_GUID"}, {{null}});
     send();
-    EXPECT_EQ(asked().back(), "Enviar CT. <Maria@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar CT. <Maria@x.mx>");
     cnn.on(identifier12).gives({"Sys_GUID"}, {{failing("roto")}});
     send();
-    EXPECT_EQ(asked().back(), "Enviar  <Maria@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar  <Maria@x.mx>");
     cnn.on(identifier12).gives({"otra"}, {{text("x")}});
     send();
-    EXPECT_EQ(asked().back(), "Enviar  <Maria@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar  <Maria@x.mx>");
 }
 
 TEST_F(ProspectMail, that_the_host_fails_at_goes_on_and_is_not_noted)
@@ -161,7 +161,7 @@ TEST_F(ProspectMail, of_a_row_without_the_column_goes_out_without_an_address)
     lvw().ListItems().Clear();
     lvw().ListItems().Add("K12", "sin columnas");
     send();
-    EXPECT_EQ(asked().back(), "Enviar CT.ABCD <>");
+    EXPECT_EQ(lastAsked(), "Enviar CT.ABCD <>");
 }
 
 TEST_F(ProspectMail, of_a_row_whose_key_is_no_number_finds_no_record)
@@ -180,7 +180,7 @@ TEST_F(ProspectMail, on_a_directory_goes_to_the_prospect_selected_behind_it)
         elements().top.lblItem(tab).click();
         forget();
         control.cmdSend_Click();
-        EXPECT_EQ(asked().back(), "Enviar CT.ABCD <Maria@x.mx>");
+        EXPECT_EQ(lastAsked(), "Enviar CT.ABCD <Maria@x.mx>");
     }
 }
 

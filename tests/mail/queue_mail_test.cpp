@@ -19,6 +19,8 @@ protected:
         MailTest::SetUp();
         due({queuedProspect(12), queuedProject(41), queued("Otra cosa", 40)});
         addresses(text("ana@x.mx"), null, null, null);
+        openProspects();
+        openProjects();
         openToday();
         forget();
     }
@@ -33,11 +35,11 @@ TEST_F(QueueMail, goes_to_the_record_behind_the_row)
 {
     clickAndForget("K12");
     send();
-    EXPECT_EQ(asked().back(), "Enviar CT.ABCD <Maria@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar CT.ABCD <Maria@x.mx>");
     EXPECT_EQ(cnn.statements().back(), prospectNote(12));
     clickAndForget("P41");
     send();
-    EXPECT_EQ(asked().back(), "Enviar PY.ABCD <ana@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar PY.ABCD <ana@x.mx>");
     EXPECT_EQ(cnn.statements().back(), projectNote(41));
 }
 
@@ -55,7 +57,7 @@ TEST_F(QueueMail, takes_every_other_text_for_a_project)
 {
     clickAndForget("P40");
     send();
-    EXPECT_EQ(asked().back(), "Enviar PY.ABCD <ana@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar PY.ABCD <ana@x.mx>");
     EXPECT_EQ(cnn.statements().back(), projectNote(40));
 }
 
@@ -80,7 +82,7 @@ TEST_F(QueueMail, is_written_from_the_question_what_to_do_next)
         form.closeWindow();
     });
     question.Show();
-    EXPECT_EQ(asked().back(), "Enviar CT.ABCD <Maria@x.mx>");
+    EXPECT_EQ(lastAsked(), "Enviar CT.ABCD <Maria@x.mx>");
 }
 
 TEST_F(QueueMail, has_its_history_shown)
@@ -91,7 +93,7 @@ TEST_F(QueueMail, has_its_history_shown)
     EXPECT_THAT(cnn.statements(), ElementsAre("SELECT Sys_GUID FROM ut_icontact Where Sys_PK=12"));
     clickAndForget("P41");
     elements().today.Command7.press();
-    EXPECT_EQ(asked().back(), "VerHistorial PY.ABCD");
+    EXPECT_EQ(lastAsked(), "VerHistorial PY.ABCD");
     EXPECT_THAT(cnn.statements(), ElementsAre("SELECT Sys_GUID FROM Proyecto Where Sys_PK=41"));
 }
 
@@ -145,7 +147,7 @@ TEST_F(MailHistory, passes_over_what_the_host_fails_at)
 {
     host.log.failing = {"Inicia"};
     history(0, 5);
-    EXPECT_EQ(asked().back(), "VerHistorial CT.ABCD");
+    EXPECT_EQ(lastAsked(), "VerHistorial CT.ABCD");
     host.log.failing = {"VerHistorial"};
     history(0, 5);
     host.log.failing = {"new CorreoHost"};
