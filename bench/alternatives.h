@@ -13,10 +13,10 @@
 
 namespace dn::bench {
 
-/// Fetches a statement's rows with libmariadb, buffered on the client (`mysql_store_result`), and reads every
+/// Fetches the rows of statements with libmariadb, buffered on the client (`mysql_store_result`), and reads every
 /// cell.
 /// @param cells takes the number of cells read, for the check of the answer.
-Cost bareFetch(const BenchDatabase& database, const std::string& statement, std::size_t& cells);
+Cost bareFetch(const BenchDatabase& database, const std::vector<std::string>& statements, std::size_t& cells);
 
 /// What a `QSqlQueryModel` reads of its rows ahead of the first frame.
 enum class Reading {

@@ -38,16 +38,19 @@ std::size_t readAll(MYSQL_RES* result, std::size_t& bytes)
 
 } // namespace
 
-Cost bareFetch(const BenchDatabase& database, const std::string& statement, std::size_t& cells)
+Cost bareFetch(const BenchDatabase& database, const std::vector<std::string>& statements, std::size_t& cells)
 {
     const Handle handle = open(database.target());
     std::size_t bytes = 0;
+    cells = 0;
     const Cost cost = measure([&] {
-        if (mysql_real_query(handle.get(), statement.data(), statement.size()) != 0)
-            throw std::runtime_error(mysql_error(handle.get()));
-        const std::unique_ptr<MYSQL_RES, decltype(&mysql_free_result)> result(mysql_store_result(handle.get()),
-                                                                              &mysql_free_result);
-        cells = readAll(result.get(), bytes);
+        for (const std::string& statement : statements) {
+            if (mysql_real_query(handle.get(), statement.data(), statement.size()) != 0)
+                throw std::runtime_error(mysql_error(handle.get()));
+            const std::unique_ptr<MYSQL_RES, decltype(&mysql_free_result)> result(mysql_store_result(handle.get()),
+                                                                                  &mysql_free_result);
+            cells += readAll(result.get(), bytes);
+        }
     });
     if (bytes == 0) throw std::runtime_error("the bare fetch read nothing");
     return cost;

@@ -3,18 +3,23 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|directory|memory|filling|growth] [--rows N] [--rounds N] [--folder DIR]
+//     dn_bench [--check] [--only loading|projects|directory|memory|filling|growth|commands] [--rows N] [--rounds
+//     N]
+//              [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
 
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
+#include "bench/commands.h"
 #include "bench/measure.h"
+#include "bench/project_rows.h"
 #include "bench/report.h"
 #include "bench/workbench.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 
 #include <cstdio>
 #include <exception>
@@ -41,13 +46,21 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption rows("rows", "Prospects.", "number", "100000");
     const QCommandLineOption rounds("rounds", "Rounds; the one in the middle counts.", "number", "5");
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
-                                    "/tmp/dn-bench");
-    const QCommandLineOption only("only", "One benchmark: loading, directory, memory, filling or growth.",
-                                  "benchmark");
+                                    QDir::tempPath() + "/dn-bench");
+    const QCommandLineOption only(
+        "only", "One benchmark: loading, projects, directory, memory, filling, growth or commands.", "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
-    return {parser.isSet(check), parser.value(rows).toULongLong(), parser.value(rounds).toInt(),
-            (parser.value(folder) + "-" + parser.value(rows)).toStdString(), parser.value(only)};
+    const QStringList benchmarks{"",       "loading", "projects", "directory",
+                                 "memory", "filling", "growth",   "commands"};
+    if (!benchmarks.contains(parser.value(only)))
+        throw std::runtime_error("no such benchmark: " + parser.value(only).toStdString());
+    const qulonglong count = parser.value(rows).toULongLong();
+    if (count < 1000) throw std::runtime_error("--rows takes 1,000 and more");
+    const int times = parser.value(rounds).toInt();
+    if (times < 1) throw std::runtime_error("--rounds takes 1 and more");
+    return {parser.isSet(check), count, times, (parser.value(folder) + "-" + parser.value(rows)).toStdString(),
+            parser.value(only)};
 }
 
 // ---- Loading the prospects -------------------------------------------------------------------------------------
@@ -64,7 +77,7 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
     std::size_t modelRows = 0;
     for (int round = 0; round < rounds; ++round) {
         ours.push_back(workbench.load());
-        bare.push_back(bareFetch(database, database.statement(), cells));
+        bare.push_back(bareFetch(database, {database.statement()}, cells));
         queryModel.push_back(sqlQueryModel(database, Reading::shownCells, modelRows));
         queryModelRead.push_back(sqlQueryModel(database, Reading::everyCell, modelRows));
     }
@@ -85,6 +98,33 @@ void benchLoading(BenchDatabase& database, int rounds, Report& report)
                1.0 / 6, "times");
 }
 
+// ---- Loading the projects --------------------------------------------------------------------------------------
+
+void benchProjects(BenchDatabase& database, int rounds, Report& report)
+{
+    const ProjectRows rows(database);
+    Workbench workbench(dn::desk::proyectos);
+    workbench.open(database);
+    std::vector<Cost> ours;
+    std::vector<Cost> bare;
+    std::size_t cells = 0;
+    for (int round = 0; round < rounds; ++round) {
+        ours.push_back(workbench.load());
+        bare.push_back(bareFetch(database, rows.statements(), cells));
+    }
+    if (workbench.rows() != ProjectRows::projects)
+        report.wrong("RefreshProyectos", "rows are missing in the list");
+    if (cells != rows.cells()) report.wrong("bare fetch of the projects", "cells are missing");
+    for (int row = 1; row <= workbench.list().ListItems().Count(); ++row)
+        if (workbench.list().ListItems()(row).ListSubItems().Count() != 14)
+            report.wrong("RefreshProyectos", "a project is not shown by its activity");
+    report.figure("RefreshProyectos to the first frame, client CPU", median(ours).cpu, "ms");
+    report.figure("RefreshProyectos to the first frame, wall", median(ours).wall, "ms");
+    report.figure("bare libmariadb store_result of both statements, every cell read, client CPU", median(bare).cpu,
+                  "ms");
+    report.bar("RefreshProyectos against the bare fetch", median(ours).cpu / median(bare).cpu, 3, "times");
+}
+
 // ---- Loading the persons ---------------------------------------------------------------------------------------
 
 void benchDirectory(BenchDatabase& database, int rounds, Report& report)
@@ -96,7 +136,7 @@ void benchDirectory(BenchDatabase& database, int rounds, Report& report)
     std::size_t cells = 0;
     for (int round = 0; round < rounds; ++round) {
         ours.push_back(workbench.load());
-        bare.push_back(bareFetch(database, database.personStatement(), cells));
+        bare.push_back(bareFetch(database, {database.personStatement()}, cells));
     }
     if (workbench.rows() != database.rows()) report.wrong("LoadContactos", "rows are missing in the list");
     const auto columns = database.connection().execute(database.personStatement())->names().size();
@@ -212,10 +252,12 @@ int run(const QApplication& application)
     BenchDatabase database(options.folder, options.rows);
     Report report;
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
+    if (options.runs("projects")) benchProjects(database, options.rounds, report);
     if (options.runs("directory")) benchDirectory(database, options.rounds, report);
     if (options.runs("memory")) benchMemory(database, report);
+    if (options.runs("commands")) benchCommands(database, options.rounds, report);
     Texts texts;
-    {
+    if (options.runs("filling") || options.runs("growth")) {
         Workbench workbench;
         workbench.open(database);
         texts = textsOf(workbench.list());

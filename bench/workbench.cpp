@@ -12,7 +12,9 @@ namespace dn::bench {
 Workbench::Workbench(desk::Tab tab) : tab_(tab)
 {
     desk::Elements& elements = widget_.control().elements();
-    list_ = tab == desk::contactos ? &elements.persons.lvwContactos : &elements.prospects.lvw;
+    list_ = tab == desk::contactos   ? &elements.persons.lvwContactos
+            : tab == desk::proyectos ? &elements.projects.lvwProy
+                                     : &elements.prospects.lvw;
     widget_.resize(1280, 760);
     widget_.show();
     view_ = widget_.findChild<QAbstractItemView*>(QString::fromStdString(list_->name()));
@@ -32,7 +34,11 @@ void Workbench::open(BenchDatabase& database)
 Cost Workbench::load()
 {
     return measure([&] {
-        widget_.control().elements().top.lblItem(tab_).click();
+        desk::Elements& elements = widget_.control().elements();
+        if (tab_ == desk::proyectos)
+            elements.projects.cbProjStatusProj.pick(0);
+        else
+            elements.top.lblItem(tab_).click();
         awaitRows();
     });
 }

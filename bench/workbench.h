@@ -20,13 +20,14 @@ namespace dn::bench {
 
 class Workbench {
 public:
-    /// @param tab the one whose list is measured: the prospects or the persons.
+    /// @param tab the one whose list is measured: the prospects, the projects or the persons.
     explicit Workbench(desk::Tab tab = desk::prospectos);
 
     /// Binds the control to the database and shows the tab, which loads its list.
     void open(BenchDatabase& database);
 
-    /// The load from its statement to the first painted frame, as a click on the tab runs it.
+    /// The load from its statement to the first painted frame, as a click on the tab runs it; for the projects, as
+    /// a pick in their filter does, without the detail ahead of it.
     Cost load();
     /// Fills the list with rows from memory, up to the first painted frame.
     Cost fill(const Texts& texts);

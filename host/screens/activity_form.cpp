@@ -16,9 +16,10 @@ ActivityForm::ActivityForm(const Activity& activity, const std::vector<Choice>& 
     when->setObjectName("Fecha");
     add(std::make_unique<MomentField>(when, "Escriba la fecha de la actividad."), "&Fecha y hora:", Width::half);
     addChoice("Tipo", "&Tipo:", kinds, {}, Width::half,
-              kinds.empty() ? "No hay tipos de actividad en la base de datos. Pida a su administrador que registre "
-                              "al menos uno."
-                            : "Elija el tipo de actividad.");
+              kinds.empty()
+                  ? "No hay tipos de actividad en la base de datos. Pida a su administrador que registre "
+                    "al menos uno."
+                  : "Elija el tipo de actividad.");
     addLine("Asunto", "A&sunto:", 500, Width::whole, "Escriba el asunto de la actividad.");
     auto* const done = new QCheckBox("Ya se hizo", this);
     done->setObjectName("Hecho");

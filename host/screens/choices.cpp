@@ -73,7 +73,8 @@ std::vector<Choice> colours()
 
 QString textOf(const std::vector<Choice>& choices, std::int32_t key)
 {
-    const auto found = std::find_if(choices.begin(), choices.end(), [key](const Choice& c) { return c.key == key; });
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [key](const Choice& c) { return c.key == key; });
     return found == choices.end() ? QString() : found->text;
 }
 

@@ -46,8 +46,9 @@ std::vector<Entity> read(OwnConnection& database, const Statement& statement, bo
 
 void sortByName(std::vector<Entity>& entities)
 {
-    std::ranges::stable_sort(
-        entities, [](const Entity& left, const Entity& right) { return compareSpanish(left.name, right.name) < 0; });
+    std::ranges::stable_sort(entities, [](const Entity& left, const Entity& right) {
+        return compareSpanish(left.name, right.name) < 0;
+    });
 }
 
 bool same(const Entity& left, const Entity& right)
@@ -144,7 +145,8 @@ std::vector<Entity> searchEntities(OwnConnection& database, const std::string& t
 {
     EntitySearch search(database, scope);
     search.begin(text);
-    while (search.goOn()) {}
+    while (search.goOn()) {
+    }
     return search.found();
 }
 

@@ -4,8 +4,8 @@
 // Finding persons and organisations by what an operator remembers of them, at every key that he presses.
 //
 // What begins with the text is found by the indexes over the names, in a few milliseconds whatever the size of the
-// directory. What holds the text elsewhere takes a pass over the tables: some tenths of a second on 100,000 entries.
-// It goes in slices, so that a window can take the operator's next key in between.
+// directory. What holds the text elsewhere takes a pass over the tables: some tenths of a second on 100,000
+// entries. It goes in slices, so that a window can take the operator's next key in between.
 #pragma once
 
 #include "host/database/own_connection.h"

@@ -65,18 +65,20 @@ Statement organisationsTradingAs(const std::string& pattern)
 
 Statement personsWith(const std::string& pattern, std::int32_t first, std::int32_t last)
 {
-    return holding("SELECT Sys_PK, Nombre, Apellido1, Apellido2, COALESCE(Tel_Trabajo, Tel_Movil, Tel_Casa), "
-                   "EMail FROM Persona WHERE Sys_PK BETWEEN ? AND ? AND CONCAT_WS(?, Nombre, Apellido1, Apellido2, "
-                   "Codigo, Tel_Trabajo, Tel_Movil, Tel_Casa, EMail, EMail2) LIKE ? ESCAPE ? ORDER BY Sys_PK",
-                   pattern, first, last);
+    return holding(
+        "SELECT Sys_PK, Nombre, Apellido1, Apellido2, COALESCE(Tel_Trabajo, Tel_Movil, Tel_Casa), "
+        "EMail FROM Persona WHERE Sys_PK BETWEEN ? AND ? AND CONCAT_WS(?, Nombre, Apellido1, Apellido2, "
+        "Codigo, Tel_Trabajo, Tel_Movil, Tel_Casa, EMail, EMail2) LIKE ? ESCAPE ? ORDER BY Sys_PK",
+        pattern, first, last);
 }
 
 Statement organisationsWith(const std::string& pattern, std::int32_t first, std::int32_t last)
 {
-    return holding("SELECT Sys_PK, Nombre, NULL, NULL, COALESCE(Tel1, Tel2, Tel3), EMail FROM Organizacion WHERE "
-                   "Sys_PK BETWEEN ? AND ? AND CONCAT_WS(?, Nombre, NomComercial, Codigo, Tel1, Tel2, Tel3, EMail) "
-                   "LIKE ? ESCAPE ? ORDER BY Sys_PK",
-                   pattern, first, last);
+    return holding(
+        "SELECT Sys_PK, Nombre, NULL, NULL, COALESCE(Tel1, Tel2, Tel3), EMail FROM Organizacion WHERE "
+        "Sys_PK BETWEEN ? AND ? AND CONCAT_WS(?, Nombre, NomComercial, Codigo, Tel1, Tel2, Tel3, EMail) "
+        "LIKE ? ESCAPE ? ORDER BY Sys_PK",
+        pattern, first, last);
 }
 
 Statement personKeys() { return Statement("SELECT MIN(Sys_PK), MAX(Sys_PK) FROM Persona"); }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The statements of the search. Each gives key, three parts of a name, telephone and mail address; patterns are for
-// LIKE, with "!" ahead of what would be a wildcard. All hold for every engine.
+// The statements of the search. Each gives key, three parts of a name, telephone and mail address; patterns are
+// for LIKE, with "!" ahead of what would be a wildcard. All hold for every engine.
 #pragma once
 
 #include "host/database/statement.h"

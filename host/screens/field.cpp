@@ -20,8 +20,8 @@ QDateTime momentOf(const std::string& value)
 {
     const auto moment = parseIso(value);
     if (!moment || !moment->hasDate()) return {};
-    return {QDate(moment->year, moment->month, moment->day),
-            QTime(moment->hour, moment->minute, moment->second), Qt::UTC}; // no hour is skipped in spring
+    return {QDate(moment->year, moment->month, moment->day), QTime(moment->hour, moment->minute, moment->second),
+            Qt::UTC}; // no hour is skipped in spring
 }
 
 bool isAddress(const QString& text)

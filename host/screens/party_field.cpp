@@ -29,7 +29,11 @@ QString describe(const Entity& entity)
 } // namespace
 
 PartyField::PartyField(const QString& name, Kind kind, ScreenContext& context, QWidget* parent)
-    : QWidget(parent), context_(context), kind_(kind), edit_(new QLineEdit(this)), search_(context.database, scope())
+    : QWidget(parent),
+      context_(context),
+      kind_(kind),
+      edit_(new QLineEdit(this)),
+      search_(context.database, scope())
 {
     setObjectName(name);
     edit_->setObjectName("txt" + name);

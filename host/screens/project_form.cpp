@@ -50,7 +50,8 @@ void ProjectForm::addFields()
     addGoals();
     addParties();
     addLine("Descripcion", "&Descripción:", 500, Width::whole, "Escriba una descripción del proyecto.");
-    addLine<AmountField>("Monto", "Mo&nto:", 30, Width::half)->setPlaceholderText("Opcional, por ejemplo 1,234.50");
+    addLine<AmountField>("Monto", "Mo&nto:", 30, Width::half)
+        ->setPlaceholderText("Opcional, por ejemplo 1,234.50");
     addChoice("Temperatura", "&Temperatura:", temperatures(!isNew()), {}, Width::half,
               "Elija la temperatura del proyecto.");
     addChoice("Color", "Co&lor:", colours(), "Predeterminado", Width::half);
@@ -110,8 +111,8 @@ void ProjectForm::storeMore(std::int32_t)
 void ProjectForm::reject()
 {
     const bool loses = activities_ != nullptr && (changed() || activities_->changed());
-    if (!loses || ask(this, "¿Cerrar el proyecto sin guardar los cambios?", "Cerrar &sin guardar",
-                      "S&eguir editando"))
+    if (!loses ||
+        ask(this, "¿Cerrar el proyecto sin guardar los cambios?", "Cerrar &sin guardar", "S&eguir editando"))
         RecordForm::reject();
 }
 

@@ -62,14 +62,14 @@ std::vector<Relation> relatedParties(OwnConnection& database, bool organisation,
                               "o.Sys_PK = claves.clave ORDER BY o.Nombre, o.Sys_PK")
                         .bind(key)
                         .bind(key));
-    std::vector<Relation> persons =
-        read(database,
-             Statement("SELECT p.Sys_PK, p.Nombre, p.Apellido1, p.Apellido2, COALESCE(p.Tel_Trabajo, p.Tel_Movil, "
-                       "p.Tel_Casa), p.EMail FROM (SELECT IContacto AS clave FROM Proyecto WHERE IOrganizacion = ? "
-                       "UNION SELECT Sys_PK FROM Persona WHERE IOrganizacion = ?) claves JOIN Persona p ON "
-                       "p.Sys_PK = claves.clave ORDER BY p.Nombre, p.Apellido1, p.Sys_PK")
-                 .bind(key)
-                 .bind(key));
+    std::vector<Relation> persons = read(
+        database,
+        Statement("SELECT p.Sys_PK, p.Nombre, p.Apellido1, p.Apellido2, COALESCE(p.Tel_Trabajo, p.Tel_Movil, "
+                  "p.Tel_Casa), p.EMail FROM (SELECT IContacto AS clave FROM Proyecto WHERE IOrganizacion = ? "
+                  "UNION SELECT Sys_PK FROM Persona WHERE IOrganizacion = ?) claves JOIN Persona p ON "
+                  "p.Sys_PK = claves.clave ORDER BY p.Nombre, p.Apellido1, p.Sys_PK")
+            .bind(key)
+            .bind(key));
     for (Relation& person : persons)
         person = withFullName(person);
     return persons;

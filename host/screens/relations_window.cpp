@@ -7,8 +7,11 @@
 #include "host/screens/entry_form.h"
 #include "host/screens/project_form.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace dn::host {
 namespace {
@@ -30,6 +33,17 @@ std::vector<Relation> readable(std::vector<Relation> projects)
     return projects;
 }
 
+/// One row looks chosen at a time, that of the list with the focus; the others only keep their place.
+void tone(QTreeWidget& list, bool focused)
+{
+    QPalette palette = QGuiApplication::palette();
+    if (!focused) {
+        palette.setColor(QPalette::Highlight, palette.color(QPalette::Button).darker(110));
+        palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+    }
+    list.setPalette(palette);
+}
+
 std::vector<Relation> readableActivities(std::vector<Relation> activities)
 {
     for (Relation& activity : activities) {
@@ -48,37 +62,38 @@ RelationsWindow::RelationsWindow(ScreenContext& context, PartyField::Kind kind, 
     setObjectName("MostrarRelaciones");
     setWindowTitle(caption);
     projects_ = addList(projectsCaption_, "lstProyectos", "Proyectos",
-                        {{"Inicio", 13}, {"Proyecto", 0}, {"Meta", 28}, {"Temperatura", 14}, {"Monto", 16}});
+                        {{"Inicio", 13}, {"Proyecto", 0}, {"Meta", 28}, {"Temperatura", 14}, {"Monto", 16}}, 3);
     activities_ = addList(activitiesCaption_, "lstActividades", "Actividades",
-                          {{"Fecha", 19}, {"Tipo", 20}, {"Asunto", 0}, {"Hecha", 8}, {"Proyecto", 34}});
+                          {{"Fecha", 19}, {"Tipo", 20}, {"Asunto", 0}, {"Hecha", 8}, {"Proyecto", 34}}, 3);
     parties_ = addList(partiesCaption_, "lstPartes", ofOrganisation() ? "Personas" : "Organizaciones",
-                       {{"Nombre", 0}, {"Teléfono", 24}, {"Correo", 36}});
+                       {{"Nombre", 0}, {"Teléfono", 24}, {"Correo", 36}}, 2);
     projects_->headerItem()->setTextAlignment(amountColumn, Qt::AlignRight | Qt::AlignVCenter);
     addClose();
-    resize(fontMetrics().averageCharWidth() * 126, fontMetrics().height() * 40);
+    resize(fontMetrics().averageCharWidth() * 126, fontMetrics().height() * 43);
     load();
     projects_->setFocus();
 }
 
 QTreeWidget* RelationsWindow::addList(QLabel*& caption, const char* name, const char* accessible,
-                                      const std::vector<ReportColumn>& columns)
+                                      const std::vector<ReportColumn>& columns, int stretch)
 {
     auto* const list = new QTreeWidget(this);
     dressAsReport(*list, name, accessible, columns);
+    tone(*list, false);
     list->installEventFilter(this);
     connect(list, &QTreeWidget::itemDoubleClicked, this, [this, list] { open(*list); });
     caption = new QLabel(this);
     caption->setObjectName(QString("lbl") + list->objectName());
     caption->setBuddy(list);
     layout_->addWidget(caption);
-    layout_->addWidget(list, 1);
+    layout_->addWidget(list, stretch);
     return list;
 }
 
 void RelationsWindow::addClose()
 {
     auto* const line = new QHBoxLayout;
-    auto* const hint = new QLabel("Entrar o doble clic abre el renglón.", this);
+    auto* const hint = new QLabel("Con Enter o doble clic se abre el renglón.", this);
     hint->setObjectName("lblAyuda");
     line->addWidget(hint, 1);
     auto* const close = new QPushButton("&Cerrar", this);
@@ -91,6 +106,8 @@ void RelationsWindow::addClose()
 
 bool RelationsWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        tone(static_cast<QTreeWidget&>(*watched), event->type() == QEvent::FocusIn);
     if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
     const int key = static_cast<const QKeyEvent*>(event)->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;

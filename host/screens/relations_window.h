@@ -29,7 +29,7 @@ public:
 private:
     bool ofOrganisation() const { return kind_ == PartyField::Kind::organisation; }
     QTreeWidget* addList(QLabel*& caption, const char* name, const char* accessible,
-                         const std::vector<ReportColumn>& columns);
+                         const std::vector<ReportColumn>& columns, int stretch);
     void addClose();
     void load();
     void fill(QTreeWidget& list, QLabel& caption, const QString& text, const std::vector<Relation>& relations);

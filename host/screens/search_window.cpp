@@ -133,11 +133,11 @@ void SearchWindow::goOn()
 // The row that the operator has gone to stays the current one while more are found below it.
 void SearchWindow::fill()
 {
-    const bool same = found_.size() <= search_.found().size() &&
-                      std::equal(found_.begin(), found_.end(), search_.found().begin(),
-                                 [](const Entity& l, const Entity& r) {
-                                     return l.key == r.key && l.organisation == r.organisation;
-                                 });
+    const bool same =
+        found_.size() <= search_.found().size() &&
+        std::equal(found_.begin(), found_.end(), search_.found().begin(), [](const Entity& l, const Entity& r) {
+            return l.key == r.key && l.organisation == r.organisation;
+        });
     const int row = same ? std::max(0, list_->indexOfTopLevelItem(list_->currentItem())) : 0;
     found_ = search_.found();
     list_->clear();

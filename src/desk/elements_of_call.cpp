@@ -59,13 +59,14 @@ CallElements::CallElements(Container& control)
     LabelLlamando.Caption("Llamando...");
     LabelLlamando.FontBold(true);
     LabelLlamando.Move(0, 60, inner, 300);
-    lbltel.Move(0, 390, inner, 300);
-    PG.Move(0, 780, inner, 240);
-    layOut(cmdContesta, "Llamada establecida", "call", 0, 1260, 3630);
-    layOut(cmdOcupado, "Ocupado", "call-busy", 3765, 1260, 3630);
-    layOut(cmdNoContestan, "No contestan", "call-unanswered", 0, 1770, 3630);
-    layOut(cmdFueraServ, "Fuera de servicio", "call-unavailable", 3765, 1770, 3630);
-    layOut(cmdCancelCall, "Cancelar", "cancel", 0, 2280, inner);
+    lbltel.FontBold(true);
+    lbltel.Move(0, 420, inner, 300);
+    PG.Move(0, 900, inner, 240);
+    layOut(cmdContesta, "Llamada establecida", "call", 0, 1530, 3630);
+    layOut(cmdOcupado, "Ocupado", "call-busy", 3765, 1530, 3630);
+    layOut(cmdNoContestan, "No contestan", "call-unanswered", 0, 2160, 3630);
+    layOut(cmdFueraServ, "Fuera de servicio", "call-unavailable", 3765, 2160, 3630);
+    layOut(cmdCancelCall, "Cancelar", "cancel", 0, 2790, inner);
 
     int index = 0;
     for (const char* answer : answers) {

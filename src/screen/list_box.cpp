@@ -34,4 +34,9 @@ void ListBox::doubleClick(int index)
     DblClick.emit();
 }
 
+void ListBox::doubleClickEmpty()
+{
+    if (usable()) DblClick.emit();
+}
+
 } // namespace dn::screen

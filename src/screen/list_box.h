@@ -30,6 +30,8 @@ public:
     void toggle(int index);
     /// The operator double-clicks a line: it becomes the selected one, then the event comes.
     void doubleClick(int index);
+    /// The operator double-clicks below the last line.
+    void doubleClickEmpty();
 
     Signal<> DblClick;
 

@@ -3,6 +3,7 @@
 
 #include "shell/agents.h"
 
+#include "base/runtime_error.h"
 #include "data/failure_modes.h"
 #include "desk/agent_rows.h"
 #include "dialogs/dlg_sel_agente.h"

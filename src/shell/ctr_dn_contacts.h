@@ -6,7 +6,7 @@
 //
 // Order of the host's calls, which is binding: create the control, hand over the factory of the host's objects,
 // `SetObjects`, `InitUICRM`, `RefreshData`; from then on any of them again, at will. Everything runs on the host's
-// user-interface thread.
+// user-interface thread. Neither the control nor the connection may end while one of the control's windows is open.
 #pragma once
 
 #include "mail/mail.h"
@@ -35,6 +35,8 @@
 #include "projects/project_detail.h"
 #include "projects/project_list.h"
 #include "prospects/assignment.h"
+#include "prospects/colour_marks.h"
+#include "prospects/prospect_conversion.h"
 #include "prospects/prospect_detail.h"
 #include "prospects/prospect_editing.h"
 #include "prospects/prospect_interaction.h"
@@ -208,6 +210,8 @@ private:
     prospects::ProspectStatus prospectStatus_;
     prospects::ProspectEditing prospectEditing_;
     prospects::Assignment assignment_;
+    prospects::ProspectConversion prospectConversion_;
+    prospects::ColourMarks colourMarks_;
     projects::PhoneChoice phoneChoice_;
     projects::ProjectDetail projectDetail_;
     projects::ProjectList projectList_;

@@ -28,6 +28,7 @@ void ctrDnContacts::wire()
     using projects::ProjectDetail;
     using projects::ProjectList;
     using prospects::Assignment;
+    using prospects::ProspectConversion;
     using prospects::ProspectDetail;
     using prospects::ProspectEditing;
     using prospects::ProspectInteraction;
@@ -56,6 +57,10 @@ void ctrDnContacts::wire()
     join(prospects.lvw.ItemCheck, prospectInteraction_, &ProspectInteraction::lvw_ItemCheck);
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
 
+    join(prospects.cmdProsNewProj.Click, prospectConversion_, &ProspectConversion::cmdProsNewProj_Click);
+    for (std::int16_t i = 0; i < top.bColor.Count(); ++i)
+        wires_.push_back(top.bColor(i).Click.connect([this, i] { colourMarks_.bColor_Click(i); }));
+
     join(projects.cbProjStatusProj.Click, projectList_, &ProjectList::cbProjStatusProj_Click);
     join(projects.lvwProy.ItemClick, projectDetail_, &ProjectDetail::lvwProy_ItemClick);
     join(projects.lvwProy.DblClick, projectCommands_, &ProjectCommands::lvwProy_DblClick);
@@ -68,6 +73,7 @@ void ctrDnContacts::wire()
     join(today.lvwHoy.ItemClick, todayPanel_, &TodayPanel::lvwHoy_ItemClick);
     join(today.lvwHoy.DblClick, todayCommands_, &TodayCommands::lvwHoy_DblClick);
     join(today.cmdEditHoy.Click, todayCommands_, &TodayCommands::cmdEditHoy_Click);
+    join(today.geProyFromContacto.Click, todayCommands_, &TodayCommands::geProyFromContacto_Click);
     join(today.Command7.Click, todayPanel_, &TodayPanel::Command7_Click);
 
     join(top.cmdOkBuscar.Click, search_, &Search::cmdOkBuscar_Click);

@@ -67,14 +67,12 @@ void QueueRowBuilder::addHora(screen::ListItem& row)
 {
     resumeNext([&] {
         const data::Value cita = read(cita_);
-        std::string text(withoutAppointment);
-        if (!cita.isNull()) {
-            text = cita.toText();
+        std::string text(cita.isNull() ? withoutAppointment : cita.raw());
+        if (!cita.isNull())
             resumeNext([&] {
                 const DateTime moment = cita.toDateTime();
-                if (moment.date() >= today_) text = defaultText(moment.timeOfDay());
+                text = moment.date() < today_ ? cita.toText() : defaultText(moment.timeOfDay());
             });
-        }
         row.ListSubItems().Add(text);
     });
 }

@@ -31,4 +31,17 @@ void TodayCommands::lvwHoy_DblClick() // no trap
     cmdEditHoy_Click();
 }
 
+void TodayCommands::geProyFromContacto_Click() // no trap
+{
+    const auto row = today_.lvwHoy.SelectedItem();
+    if (!row) return;
+    if (row->Text() != prospectType) {
+        dialogs_.say("Seleccione un contacto para convertir en proyecto.");
+        return;
+    }
+    std::int32_t key = desk::keyNumber(*row);
+    conversion_.ProspectoAProyecto(key);
+    queue_.RefreshRobot();
+}
+
 } // namespace dn::today

@@ -8,7 +8,9 @@
 
 #include "desk/elements.h"
 #include "desk/host_screens.h"
+#include "prospects/prospect_conversion.h"
 #include "prospects/prospect_editing.h"
+#include "screen/ports.h"
 #include "today/queue.h"
 
 namespace dn::today {
@@ -16,8 +18,13 @@ namespace dn::today {
 class TodayCommands {
 public:
     TodayCommands(desk::TodayElements& today, Queue& queue, prospects::ProspectEditing& editing,
-                  desk::HostScreens& screens)
-        : today_(today), queue_(queue), editing_(editing), screens_(screens)
+                  prospects::ProspectConversion& conversion, desk::HostScreens& screens, screen::Dialogs& dialogs)
+        : today_(today),
+          queue_(queue),
+          editing_(editing),
+          conversion_(conversion),
+          screens_(screens),
+          dialogs_(dialogs)
     {
     }
 
@@ -27,11 +34,16 @@ public:
 
     void lvwHoy_DblClick();
 
+    /// Makes a project of the selected prospect and loads the queue anew.
+    void geProyFromContacto_Click();
+
 private:
     desk::TodayElements& today_;
     Queue& queue_;
     prospects::ProspectEditing& editing_;
+    prospects::ProspectConversion& conversion_;
     desk::HostScreens& screens_;
+    screen::Dialogs& dialogs_;
 };
 
 } // namespace dn::today

@@ -72,7 +72,7 @@ TEST_F(CallFaults, a_connection_that_dies_during_the_call_leaves_the_screen_with
 {
     for (const Ending& ending : endings()) {
         openProspects();
-        ports.dialogs.expectBox("La conexión está cerrada"); // of the note
+        ports.dialogs.expectBox("La conexión con la base de datos está cerrada"); // of the note
         const auto dies =
             control.callStarted().connect([this](const std::string&, std::int32_t, const std::string&) {
                 cnn.setState(data::Connection::closed);
@@ -107,7 +107,7 @@ TEST_F(CallFaults, a_refused_first_contact_does_not_keep_the_last_one_from_being
 TEST_F(CallFaults, a_party_that_is_deleted_meanwhile_is_written_to_no_row_and_leaves_the_list)
 {
     for (const Ending& ending : endings()) {
-        prospects({prospect(12), prospect(13)});
+        prospects({prospect(12, {{"uf_Telefono", text("1")}}), prospect(13)});
         openProspects();
         const auto goes = control.callStarted().connect(
             [this](const std::string&, std::int32_t, const std::string&) { prospects({prospect(13)}); });

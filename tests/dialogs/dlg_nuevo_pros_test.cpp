@@ -54,7 +54,9 @@ protected:
         dialog.Show();
     }
 
-    void fillIn()
+    void fillIn() { fillIn(dialog); }
+
+    static void fillIn(dialogs::dlgNuevoPros& dialog)
     {
         dialog.txtNombre.edit("María Ñúñez");
         dialog.txtTelefono.edit("961 111 1111");
@@ -112,18 +114,7 @@ TEST_F(NewProspect, reads_the_lists_ahead_of_the_first_sight_and_preselects_none
 TEST_F(NewProspect, has_each_field_beside_its_label_in_the_order_of_the_key_tab)
 {
     show([&] {
-        screen::Container& form = *dialog.txtNombre.parent();
-        std::vector<screen::Element*> order(form.children());
-        std::stable_sort(order.begin(), order.end(),
-                         [](const screen::Element* left, const screen::Element* right) {
-                             return left->TabIndex() < right->TabIndex();
-                         });
-        std::vector<std::string> seen;
-        for (const screen::Element* element : order) {
-            const auto* const label = dynamic_cast<const screen::Label*>(element);
-            seen.push_back(label != nullptr ? label->Caption() : element->name());
-        }
-        EXPECT_THAT(seen,
+        EXPECT_THAT(inTabOrder(*dialog.txtNombre.parent()),
                     ElementsAre("Nombre:", "txtNombre", "Teléfono:", "txtTelefono",
                                 "Correo electrónico:", "txtCorreo", "Empresa:", "txtEmpresa",
                                 "Puesto:", "txtPuesto", "País:", "cPais", "Estado:", "cEdo", "Ciudad:", "cCiudad",
@@ -305,7 +296,19 @@ TEST_F(NewProspect, does_not_care_whether_he_is_a_dealer)
         dialog.chk1.toggle();
         dialog.cmdOk.press();
     });
-    EXPECT_THAT(cnn.statements().front(), HasSubstr("7, 0, 1, 0, 'URL_Directo')"));
+    const std::vector<std::string> ofDealer = cnn.statements();
+    cnn.forgetStatements();
+    dialogs::dlgNuevoPros other(ports.ports());
+    other.Motor = dialog.Motor;
+    other.pkEjecutivo = dialog.pkEjecutivo;
+    other.Cnn = &cnn;
+    ports.events.expectModal("dlgNuevoPros", [&](screen::Form&) {
+        cnn.forgetStatements();
+        fillIn(other);
+        other.cmdOk.press();
+    });
+    other.Show();
+    EXPECT_EQ(cnn.statements(), ofDealer);
 }
 
 TEST_F(NewProspect, writes_the_line_ends_of_the_notes_as_four_characters)
@@ -354,6 +357,25 @@ TEST_F(NewProspect, a_name_that_holds_a_marker_takes_its_value_in)
     });
     EXPECT_THAT(cnn.statements().front(),
                 HasSubstr("'soy 'maria@example.com'', 'maria@example.com', '961 111 1111', 'Acme', '@uf_Nombre'"));
+}
+
+TEST_F(NewProspect, fills_the_markers_in_the_order_of_the_columns)
+{
+    show([&] {
+        fillIn();
+        // Each text holds the marker of the column behind its own: none of them is left over.
+        dialog.txtNombre.edit("nom @uf_EMail");
+        dialog.txtCorreo.edit("a @uf_Telefono");
+        dialog.txtTelefono.edit("tel @uf_Empresa");
+        dialog.txtEmpresa.edit("@uf_Puesto");
+        dialog.txtPuesto.edit("@uf_Pais @uf_Estado");
+        dialog.cCiudad.edit("@uf_Interes");
+        dialog.cInteres.edit("@uf_Comentarios");
+        dialog.cNotas.edit("@uf_iejecutivo @uf_status @uf_tipo @uf_color @uf_redirect");
+        dialog.cmdOk.press();
+    });
+    EXPECT_THAT(cnn.statements().front(), testing::Not(HasSubstr("@uf_")));
+    EXPECT_THAT(cnn.statements().front(), HasSubstr("7 0 1 0 'URL_Directo'"));
 }
 
 // ---- Failures

@@ -141,6 +141,7 @@ TEST_F(Notes, of_the_day_go_where_the_row_belongs)
 {
     elements().projects.lvwProy.ListItems().Add("K88", "");
     elements().top.lblItem(2).click();
+    cnn.forgetStatements();
     detail().cmdIntro.Enabled(true);
     elements().today.lvwHoy.ListItems().Add("K12", "Contacto");
     registers("al prospecto");

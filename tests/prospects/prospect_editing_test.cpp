@@ -8,6 +8,7 @@
 #include "prospects/prospect_editing.h"
 #include "tests/support/control_fixture.h"
 #include "tests/support/element_tree.h"
+#include "tests/support/public_operations.h"
 
 namespace dn::tests {
 namespace {
@@ -307,11 +308,23 @@ protected:
         prospects::ProspectDetail detail(elements().detail, elements().top, tabs, timeline);
         prospects::ProspectList list(session, elements().prospects, elements().top, tabs, detail, counters,
                                      ports.ports());
-        prospects::ProspectEditing editing(session, elements().prospects, elements().top, list, control,
+        prospects::ProspectEditing editing(session, elements().prospects, elements().top, list, operations,
                                            ports.ports());
         editing.correct(read12, [](const std::function<void()>& statement) { statement(); });
     }
+
+    FakeOperations operations;
 };
+
+TEST_F(CorrectingForAnotherRoom, asks_the_control_for_the_mails)
+{
+    ports.events.expectModal("dlgCorregir", [](screen::Form& form) {
+        press(form, "cmdHistorial");
+        press(form, "cmdCancel");
+    });
+    run();
+    EXPECT_THAT(operations.calls, ElementsAre("Historial 0 12"));
+}
 
 TEST_F(CorrectingForAnotherRoom, shows_the_row_and_reloads_the_list)
 {

@@ -22,6 +22,7 @@ protected:
         itIs("2026-03-13 18:00:00"); // what was there the evening before
         maria = named("María", "'2026-03-13 10:00:00'");
         luz = named("Luz", "'2026-03-14 12:00:00'");
+        nora = named("Nora", "'2026-03-14 11:00:00'");
         pedro = named("Pedro", "NULL");
         tere = named("Tere", "'2026-03-15 09:00:00'"); // tomorrow's
         silo = std::to_string(project("Silo"));
@@ -45,9 +46,9 @@ protected:
     {
         enters(ana);
         opensTab(desk::hoy);
-        EXPECT_THAT(seesQueue(),
-                    ElementsAre("Contacto 13/03/2026 10:00:00 María", "Proyecto 08:00:00 Silo",
-                                "Contacto 12:00:00 Luz", "Contacto URGENTE Pedro", "Proyecto URGENTE Molino"));
+        EXPECT_THAT(seesQueue(), ElementsAre("Contacto 13/03/2026 10:00:00 María", "Proyecto 08:00:00 Silo",
+                                             "Contacto 11:00:00 Nora", "Contacto 12:00:00 Luz",
+                                             "Contacto URGENTE Pedro", "Proyecto URGENTE Molino"));
     }
 
     void losesMaria()
@@ -56,6 +57,15 @@ protected:
         types("txtText", "ya compró en otro lado\n");
         changesStatusOf("María", "Sin interés", "compró");
         EXPECT_THAT(seesQueue(), testing::Not(testing::Contains(HasSubstr("María"))));
+    }
+
+    void makesAProjectOfNora()
+    {
+        clicksQueue("Nora");
+        host.projects->newPerson = 501;
+        host.projects->newProject = 88;
+        presses("geProyFromContacto");
+        EXPECT_THAT(seesQueue(), testing::Not(testing::Contains(HasSubstr("Nora"))));
     }
 
     void promotesLuz()
@@ -125,7 +135,7 @@ protected:
                ", 1, '2026-03-20 10:00:00')";
     }
 
-    std::string maria, luz, pedro, tere, silo, molino;
+    std::string maria, luz, nora, pedro, tere, silo, molino;
 };
 
 TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
@@ -134,6 +144,8 @@ TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
     opensTheQueue();
     itIs("2026-03-14 09:10:00");
     losesMaria();
+    itIs("2026-03-14 09:15:00");
+    makesAProjectOfNora();
     itIs("2026-03-14 09:20:00");
     promotesLuz();
     itIs("2026-03-14 09:30:00");
@@ -159,6 +171,10 @@ TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
              "WHERE Sys_PK = " +
                  maria,
              prospectNote + ">> Sin interés: compró','ana'," + maria + ")",
+             "UPDATE ut_icontact SET uf_Status=1, uf_NotaStatus='Actualizado por creación de proyecto', "
+             "uf_FechaStatus = CURRENT_TIMESTAMP WHERE Sys_PK=" +
+                 nora,
+             prospectNote + ">> Descartado: ','ana'," + nora + ")",
              "UPDATE ut_icontact set uf_Nombre='Luz',uf_EMail='x@x.mx',uf_Telefono='961 "
              "555',uf_Empresa='Acme',uf_Puesto='Compras' WHERE Sys_PK=" +
                  luz,
@@ -171,24 +187,29 @@ TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
              "CURRENT_TIMESTAMP WHERE Sys_PK = " +
                  pedro,
              prospectNote + ">> Descartado: teléfono equivocado','ana'," + pedro + ")"}));
-    EXPECT_THAT(inTheDatabase("SELECT CONCAT(uf_Nombre, '|', uf_Telefono, '|', uf_Status, '|', "
-                              "IFNULL(uf_NotaStatus, '-'), '|', IFNULL(uf_FechaStatus, '-'), '|', "
-                              "IFNULL(uf_proxcontac, '-')) FROM ut_icontact ORDER BY Sys_PK"),
-                ElementsAre("María|961|2|compró|2026-03-14 09:10:00|2026-03-13 10:00:00",
-                            "Luz|961 555|3||2026-03-14 09:20:00|2026-03-14 12:00:00",
-                            "Pedro|961|1|teléfono equivocado|2026-03-14 09:50:00|-",
-                            "Tere|961|0|-|-|2026-03-15 09:00:00"));
+    EXPECT_THAT(
+        inTheDatabase("SELECT CONCAT(uf_Nombre, '|', uf_Telefono, '|', uf_Status, '|', "
+                      "IFNULL(uf_NotaStatus, '-'), '|', IFNULL(uf_FechaStatus, '-'), '|', "
+                      "IFNULL(uf_proxcontac, '-')) FROM ut_icontact ORDER BY Sys_PK"),
+        ElementsAre("María|961|2|compró|2026-03-14 09:10:00|2026-03-13 10:00:00",
+                    "Luz|961 555|3||2026-03-14 09:20:00|2026-03-14 12:00:00",
+                    "Nora|961|1|Actualizado por creación de proyecto|2026-03-14 09:15:00|2026-03-14 11:00:00",
+                    "Pedro|961|1|teléfono equivocado|2026-03-14 09:50:00|-",
+                    "Tere|961|0|-|-|2026-03-15 09:00:00"));
     EXPECT_THAT(log(),
                 ElementsAre("prospecto " + maria + " ana 2026-03-14 09:10:00 ya compró en otro lado",
                             "prospecto " + maria + " ana 2026-03-14 09:10:00 >> Sin interés: compró",
+                            "prospecto " + nora + " ana 2026-03-14 09:15:00 >> Descartado: ",
                             "prospecto " + luz + " ana 2026-03-14 09:20:00 >> Oportunidad: ",
                             "proyecto " + silo + " ana 2026-03-14 09:30:00 planos recibidos",
                             "prospecto " + pedro + " ana 2026-03-14 09:50:00 >> Descartado: teléfono equivocado"));
     EXPECT_THAT(inTheDatabase("SELECT CONCAT(IProyecto, '|', FInicio, '|', Hecho) FROM actividad ORDER BY Sys_PK"),
                 ElementsAre(silo + "|2026-03-14 08:00:00|1", silo + "|2026-03-20 10:00:00|0",
                             molino + "|2026-03-20 10:00:00|0"));
-    EXPECT_THAT(host.log.calls, testing::IsSupersetOf(
-                                    {"CrearProyecto 2 0", "EditarProyecto " + silo, "EditarProyecto " + molino}));
+    const std::vector<std::string> asked{"CrearPersona Nora|Internal|Internal|1|961||x@x.mx||7",
+                                         "CrearProyecto 0 501", "CrearProyecto 2 0", "EditarProyecto " + silo,
+                                         "EditarProyecto " + molino};
+    EXPECT_THAT(host.log.calls, testing::IsSupersetOf(asked));
 
     itIs("2026-03-15 08:00:00");
     opensTab(desk::hoy);

@@ -9,8 +9,6 @@ namespace dn::tests {
 
 Day::Day()
 {
-    for (const char* table : {"Persona", "Organizacion", "Proyecto", "actividad"})
-        database(std::string("DELETE FROM ") + table);
     database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
     database("INSERT IGNORE INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
     itIs("2026-03-14 09:30:00");

@@ -23,7 +23,7 @@ TEST_F(FindingProspects, an_agent_sees_his_own_and_no_others)
     EXPECT_EQ(control.MotorBD(), 1);
     EXPECT_THAT(seesProspects(), ElementsAre("María Ñúñez"));
     EXPECT_FALSE(canUse("cbAgente"));
-    EXPECT_EQ(sees("lblCuenta"), "Hoy: 0 actividades | Proyectos: 0 Contactos: 1");
+    EXPECT_EQ(sees("lblCuenta"), "Hoy: 1 actividades | Proyectos: 0 Contactos: 1");
 }
 
 TEST_F(FindingProspects, an_administrator_without_key_sees_those_of_nobody)
@@ -96,7 +96,7 @@ TEST_F(FindingProspects, a_table_that_is_gone_shows_an_empty_list_and_no_message
     database("RENAME TABLE ut_icontact TO ut_icontact_fuera");
     opensTab(0);
     EXPECT_THAT(seesProspects(), IsEmpty());
-    EXPECT_EQ(sees("lblCuenta"), "Hoy: 0 actividades | Proyectos: 0 Contactos: 0");
+    EXPECT_EQ(sees("lblCuenta"), "Hoy: 1 actividades | Proyectos: 0 Contactos: 0");
     database("RENAME TABLE ut_icontact_fuera TO ut_icontact");
     opensTab(0);
     EXPECT_THAT(seesProspects(), ElementsAre("María"));

@@ -14,12 +14,6 @@ using testing::IsEmpty;
 
 class LookingUpTheDirectory : public Operator {
 protected:
-    LookingUpTheDirectory()
-    {
-        database("DELETE FROM Persona");
-        database("DELETE FROM Organizacion");
-    }
-
     void person(const std::string& literals)
     {
         database("INSERT INTO Persona (Sys_PK, Codigo, Nombre, Apellido1, Apellido2, IEjecutivo) VALUES (" +

@@ -40,7 +40,8 @@ void Operator::SetUpTestSuite()
 
 Operator::Operator() : beside(connect()), cnn(std::make_unique<RecordingConnection>(connect()))
 {
-    for (const char* table : {"ut_icontact", "xt_biticontact", "Agente"})
+    for (const char* table :
+         {"ut_icontact", "xt_biticontact", "Agente", "Persona", "Organizacion", "Proyecto", "actividad"})
         database(std::string("DELETE FROM ") + table);
     database("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana'), (9, 'Beto')");
 }

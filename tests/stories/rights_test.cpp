@@ -4,7 +4,9 @@
 // The rights that docs/database.md asks for are enough for a day's work, and for nothing more.
 
 #include "data/mariadb/connection.h"
-#include "tests/stories/operator.h"
+#include "screen/list_box.h"
+#include "tests/stories/project_operator.h"
+#include "tests/support/element_tree.h"
 #include "tests/support/maria_server.h"
 
 #include <fstream>
@@ -23,14 +25,14 @@ std::vector<std::string> documentedGrants()
     std::ostringstream text;
     text << std::ifstream(DN_SOURCE_DIR "/docs/database.md").rdbuf();
     const std::string page = text.str();
-    const std::regex grant("`(GRANT [^`]* ON )ventas(\\.[^`]* TO 'fuerza'@'%')`");
+    const std::regex grant("`(GRANT [^`]* ON (?:PROCEDURE )?)ventas(\\.[^`]* TO 'fuerza'@'%')`");
     std::vector<std::string> grants;
     for (std::sregex_iterator it(page.begin(), page.end(), grant); it != std::sregex_iterator(); ++it)
         grants.push_back((*it)[1].str() + std::string(MariaServer::database) + (*it)[2].str());
     return grants;
 }
 
-class Rights : public Operator {
+class Rights : public ProjectOperator {
 protected:
     Rights()
     {
@@ -59,7 +61,29 @@ protected:
     }
 };
 
-TEST_F(Rights, are_eleven_grants) { EXPECT_THAT(documentedGrants(), SizeIs(11)); }
+TEST_F(Rights, are_eighteen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(18)); }
+
+TEST_F(Rights, suffice_for_calls)
+{
+    prospect("María", {{"uf_Telefono", "'1'"}});
+    enters(ana);
+    for (int call = 0; call < 2; ++call)
+        ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
+    control.IniciarLlamada("ut_icontact", 1, "1");
+    presses("cmdCancelCall");
+    presses("cmdCall");
+    control.Call_Resumen("todo bien");
+    EXPECT_THAT(inTheDatabase("SELECT uf_res_ultimointento + uf_contactado FROM ut_icontact WHERE uf_primercontac "
+                              "IS NOT NULL AND uf_ultimocontac IS NOT NULL AND uf_ultimointento IS NOT NULL"),
+                ElementsAre("51"));
+    cnn->execute("UPDATE ut_icontact SET uf_proxcontac = NULL");
+    for (const char* statement :
+         {"UPDATE Proyecto SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where Sys_PK=1 and "
+          "isnull(uf_contactado)",
+          "UPDATE Proyecto SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, uf_ultimocontac = "
+          "CURRENT_TIMESTAMP Where Sys_PK = 1"})
+        cnn->execute(statement);
+}
 
 TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
 {
@@ -80,10 +104,38 @@ TEST_F(Rights, suffice_for_reading_notes_and_changes_of_status)
                 ElementsAre("pide precios", ">> Sin interés: ya compró", ">> Descartado: x"));
 }
 
+TEST_F(Rights, suffice_for_entering_correcting_and_assigning)
+{
+    const auto press = [](screen::Form& form, const char* button) {
+        elementNamed<screen::Button>(form, button).press();
+    };
+    enters(ana);
+    ports.events.expectModal("dlgNuevoPros", [&](screen::Form& form) {
+        for (const char* box : {"txtNombre", "txtTelefono", "txtCorreo", "cCiudad"})
+            elementNamed<screen::TextBox>(form, box).edit("María @ Ñúñez");
+        for (const char* combo : {"cInteres", "cObtencion", "cReferencia"})
+            elementNamed<screen::ComboBox>(form, combo).edit("algo nuevo");
+        elementNamed<screen::ComboBox>(form, "cEdo").pick(0);
+        press(form, "cmdOk"); // a refusal to learn would be a box
+    });
+    presses("cmdProsNewPros");
+    ports.events.expectModal("dlgCorregir", [&](screen::Form& form) {
+        elementNamed<screen::TextBox>(form, "txtNombre").edit("María");
+        press(form, "cmdOk");
+    });
+    presses("cmdEditC");
+    EXPECT_THAT(seesProspects(), ElementsAre("María"));
+    ports.events.expectModal("dlgSelAgente", [](screen::Form& form) {
+        elementNamed<screen::ListBox>(form, "cbAgente").doubleClick(1);
+    });
+    presses("cmdProsAsignPros");
+    EXPECT_THAT(inTheDatabase("SELECT uf_IEjecutivo FROM ut_icontact"), ElementsAre("9"));
+    EXPECT_THAT(inTheDatabase("SELECT uf_Origen FROM ut_OrigenContacto WHERE uf_Origen = 'algo nuevo'"),
+                SizeIs(1));
+}
+
 TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
 {
-    for (const char* table : {"Proyecto", "actividad", "Persona", "Organizacion"})
-        database(std::string("DELETE FROM ") + table);
     prospect("María");
     database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
     database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
@@ -95,10 +147,24 @@ TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
     EXPECT_EQ(sees("lblcuenta2"), "Hoy: 2 actividades | Proyectos: 1 Contactos: 1");
 }
 
+TEST_F(Rights, suffice_for_projects_conversions_and_colours)
+{
+    prospect("María", {{"uf_Tipo", "1"}});
+    activity(project("Veinte puestos"), "visita");
+    project("Sin citas");
+    enters(ana);
+    presses("bColor(1)");
+    presses("cmdProsNewProj");
+    EXPECT_THAT(inTheDatabase("SELECT CONCAT(uf_color, uf_Status) FROM ut_icontact"), ElementsAre("11"));
+    opensTab(desk::proyectos);
+    EXPECT_THAT(seesProjects(), ElementsAre("Veinte puestos", "Sin citas"));
+    EXPECT_THAT(sees("txtInfo"), testing::HasSubstr("Tel_Movil: 55 2222"));
+    presses("bColor(3)");
+    EXPECT_THAT(inTheDatabase("SELECT UF_Color FROM Proyecto WHERE UF_Color IS NOT NULL"), ElementsAre("3"));
+}
+
 TEST_F(Rights, suffice_for_the_directories)
 {
-    database("DELETE FROM Persona");
-    database("DELETE FROM Organizacion");
     database("INSERT INTO Persona (Nombre, IEjecutivo) VALUES ('Luz', 7)");
     database("INSERT INTO Organizacion (Nombre, IEjecutivo) VALUES ('Aceros', 7)");
     enters(ana);
@@ -115,13 +181,18 @@ TEST_F(Rights, allow_nothing_else)
                                   "DELETE FROM ut_icontact",
                                   "DELETE FROM xt_biticontact",
                                   "UPDATE xt_biticontact SET uf_Mensaje = 'otra cosa'",
-                                  "UPDATE ut_icontact SET uf_IEjecutivo = 9",
-                                  "INSERT INTO ut_icontact (uf_Nombre) VALUES ('x')",
+                                  "UPDATE ut_icontact SET uf_Redirect = 'x'",
+                                  "INSERT INTO ut_icontact (uf_contactado) VALUES (1)",
+                                  "DELETE FROM ut_OrigenContacto",
+                                  "UPDATE ut_InteresContacto SET uf_Interes = 'x'",
                                   "SELECT * FROM Persona",
                                   "UPDATE Persona SET Nombre = 'x'",
                                   "DELETE FROM Organizacion",
                                   "SELECT Notas FROM Organizacion",
                                   "SELECT * FROM Proyecto",
+                                  "SELECT Notas FROM Proyecto",
+                                  "UPDATE Proyecto SET UF_Status1 = 6",
+                                  "SELECT * FROM Ciudad",
                                   "UPDATE actividad SET Hecho = 1",
                                   "DELETE FROM Proyecto",
                                   "UPDATE Agente SET Nombre = 'x'",
@@ -129,7 +200,6 @@ TEST_F(Rights, allow_nothing_else)
                                   "ALTER TABLE ut_icontact ADD x INT",
                                   "TRUNCATE xt_biticontact",
                                   "SELECT * FROM mysql.user",
-                                  "CALL AddInteresContacto('x')",
                                   "CREATE USER intruso",
                                   "GRANT ALL ON *.* TO 'fuerza'@'%'"})
         EXPECT_TRUE(isDenied(statement)) << statement;
@@ -137,22 +207,23 @@ TEST_F(Rights, allow_nothing_else)
 
 TEST_F(Rights, confine_a_reason_that_is_written_to_do_harm)
 {
-    prospect("María", {{"uf_EMail", "'m@x.mx'"}});
+    prospect("María", {{"uf_Redirect", "'m.x.mx'"}});
     prospect("De Beto", {{"uf_IEjecutivo", "9"}});
     enters(ana);
     // Another column: refused. The operator is told, nothing changes.
-    answers("Motivo del cambio de estado:", "x', uf_EMail = 'robado");
+    answers("Motivo del cambio de estado:", "x', uf_Redirect = 'robado");
     ports.dialogs.expectAnyBox();
     picks("Combo1", "Descartado");
     EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::HasSubstr("denied"));
-    EXPECT_THAT(inTheDatabase("SELECT uf_EMail FROM ut_icontact WHERE uf_Nombre = 'María'"),
-                ElementsAre("m@x.mx"));
+    EXPECT_THAT(inTheDatabase("SELECT uf_Redirect FROM ut_icontact WHERE uf_Nombre = 'María'"),
+                ElementsAre("m.x.mx"));
     // A second statement: refused by the connection.
     answers("Motivo del cambio de estado:", "x'; UPDATE ut_icontact SET uf_Status = 1; -- ");
     ports.dialogs.expectAnyBox();
     picks("Combo1", "Descartado");
     EXPECT_THAT(inTheDatabase("SELECT DISTINCT uf_Status FROM ut_icontact"), ElementsAre("0"));
-    // The three columns themselves are not protected: the statement's own end is cut off and every row is reached.
+    // The columns of the grant themselves are not protected: the statement's own end is cut off and every row is
+    // reached.
     answers("Motivo del cambio de estado:", "x' -- ");
     ports.dialogs.expectAnyBox();
     picks("Combo1", "Descartado");

@@ -3,6 +3,10 @@
 
 #include "tests/support/element_tree.h"
 
+#include "screen/label.h"
+
+#include <algorithm>
+
 namespace dn::tests {
 namespace {
 
@@ -25,6 +29,20 @@ std::vector<std::string> namesIn(const screen::Container& container)
     for (const screen::Element* child : container.children())
         names.push_back(child->name());
     return names;
+}
+
+std::vector<std::string> inTabOrder(const screen::Container& container)
+{
+    std::vector<screen::Element*> order(container.children());
+    std::stable_sort(order.begin(), order.end(), [](const screen::Element* left, const screen::Element* right) {
+        return left->TabIndex() < right->TabIndex();
+    });
+    std::vector<std::string> seen;
+    for (const screen::Element* element : order) {
+        const auto* const label = dynamic_cast<const screen::Label*>(element);
+        seen.push_back(label != nullptr ? label->Caption() : element->name());
+    }
+    return seen;
 }
 
 screen::Element& elementNamed(screen::Container& container, std::string_view name)

@@ -16,6 +16,9 @@ namespace dn::tests {
 /// The names of what lies directly in a container, from front to back.
 std::vector<std::string> namesIn(const screen::Container& container);
 
+/// What lies directly in a container, in the order of the key Tab: a label by its caption, all else by its name.
+std::vector<std::string> inTabOrder(const screen::Container& container);
+
 /// The first element of that name in a container, at any depth. @throws std::out_of_range when there is none.
 screen::Element& elementNamed(screen::Container& container, std::string_view name);
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// "Editar" of the queue.
+// "Editar" and "Crear proyecto" of the queue.
 
 #include "base/runtime_error.h"
 #include "tests/support/element_tree.h"
@@ -33,6 +33,16 @@ protected:
     }
 
     desk::Button& edit() { return elements().today.cmdEditHoy; }
+    /// The second prospect has what its conversion asks for.
+    void convertible()
+    {
+        cnn.onContaining("FROM UT_IContact WHERE Sys_PK = 2;")
+            .gives({"uf_Nombre", "uf_telefono", "uf_EMail", "uf_ciudad", "UF_IEjecutivo"},
+                   {{text("María"), text("961"), text("m@x.mx"), text("Tuxtla"), whole(7)}});
+        cnn.onContaining("FROM Ciudad WHERE").gives({"Sys_PK"}, {});
+        host.projects->newPerson = 40;
+        host.projects->newProject = 41;
+    }
     void choose(const std::string& key)
     {
         click(key);
@@ -93,7 +103,9 @@ TEST_F(TodayCommands, a_double_click_edits)
 
 TEST_F(TodayCommands, nothing_is_edited_without_a_row)
 {
+    choose("K1");
     lvwHoy().ListItems()("K1").Selected(false);
+    cnn.forgetStatements();
     lvwHoy().doubleClickEmpty();
     edit().press();
     EXPECT_THAT(cnn.statements(), IsEmpty());
@@ -145,6 +157,75 @@ TEST_F(TodayCommands, a_failure_of_the_reloads_passes)
         edit().press();
         EXPECT_THAT(cnn.statements(), Contains(stuckStatement));
         control.RefreshRobot();
+    }
+}
+
+// ---- Crear proyecto
+
+TEST_F(TodayCommands, a_prospect_becomes_a_project_and_leaves_the_queue)
+{
+    convertible();
+    choose("K2");
+    due({queuedProspect(1)});
+    elements().today.geProyFromContacto.press();
+    EXPECT_THAT(host.log.calls,
+                ElementsAre("CrearPersona María|Internal|Internal|1|961||m@x.mx||7", "CrearProyecto 0 40"));
+    ASSERT_GE(cnn.statements().size(), 6U);
+    EXPECT_THAT(cnn.statements()[0], HasSubstr("FROM UT_IContact WHERE Sys_PK = 2;"));
+    EXPECT_EQ(cnn.statements()[2],
+              "UPDATE ut_icontact SET uf_Status=1, uf_NotaStatus='Actualizado por creación de proyecto', "
+              "uf_FechaStatus = CURRENT_TIMESTAMP WHERE Sys_PK=2");
+    EXPECT_THAT(cnn.statements()[3], HasSubstr(">> Descartado: "));
+    EXPECT_EQ(cnn.statements()[4], dueStatement);
+    EXPECT_EQ(cnn.statements()[5], stuckStatement);
+    EXPECT_THAT(cnn.statements(), Not(Contains(HasSubstr("FROM ut_icontact WHERE")))) << "only the queue reloads";
+    EXPECT_THAT(keys(lvwHoy()), ElementsAre("K1"));
+}
+
+TEST_F(TodayCommands, a_prospect_stays_when_the_operator_gives_the_project_up)
+{
+    convertible();
+    host.projects->newProject = 0;
+    choose("K2");
+    elements().today.geProyFromContacto.press();
+    EXPECT_THAT(cnn.statements(), Not(Contains(HasSubstr("UPDATE"))));
+    EXPECT_THAT(cnn.statements(), testing::IsSupersetOf({dueStatement, stuckStatement})) << "the queue is loaded";
+}
+
+TEST_F(TodayCommands, a_project_is_not_made_of_a_project)
+{
+    choose("P5");
+    ports.dialogs.expectBox("Seleccione un contacto para convertir en proyecto.");
+    elements().today.geProyFromContacto.press();
+    EXPECT_THAT(cnn.statements(), IsEmpty());
+    EXPECT_THAT(host.log.calls, IsEmpty());
+    const screen::MessageBox& box = ports.dialogs.boxes().back();
+    EXPECT_EQ(box.icon, screen::MessageBox::Icon::none);
+    EXPECT_EQ(box.title, "");
+}
+
+TEST_F(TodayCommands, no_project_is_made_without_a_row)
+{
+    choose("K1");
+    lvwHoy().ListItems()("K1").Selected(false);
+    elements().today.geProyFromContacto.press();
+    EXPECT_THAT(cnn.statements(), IsEmpty());
+}
+
+TEST_F(TodayCommands, a_conversion_that_fails_reaches_the_host_and_loads_nothing)
+{
+    convertible();
+    for (std::size_t failing = 1; failing <= 4; ++failing) {
+        choose("K2");
+        failAt(failing);
+        EXPECT_THROW(elements().today.geProyFromContacto.press(), data::Error) << failing;
+        EXPECT_EQ(cnn.statements().size(), failing);
+    }
+    for (const char* operation : {"CrearPersona", "CrearProyecto"}) {
+        choose("K2");
+        host.log.failing = {operation};
+        EXPECT_THROW(elements().today.geProyFromContacto.press(), std::runtime_error) << operation;
+        EXPECT_THAT(cnn.statements(), Not(Contains(dueStatement)));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "screen/qt/date_time.h"
 
+#include <QEvent>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -27,11 +28,18 @@ MonthViewView::MonthViewView(screen::MonthView& month, QWidget* parent, Guard& g
     bond_.refresh();
 }
 
-// Weekends in red read as an alarm, and not at all on a dark base.
+void MonthViewView::changeEvent(QEvent* event)
+{
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) quiet();
+}
+
+// Weekends in red read as an alarm, and not at all on a dark base. A colour of their own does not follow the
+// palette when the calendar is disabled.
 void MonthViewView::quiet()
 {
     QTextCharFormat format;
-    format.setForeground(palette().color(QPalette::Text));
+    format.setForeground(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Text));
     setWeekdayTextFormat(Qt::Saturday, format);
     setWeekdayTextFormat(Qt::Sunday, format);
 }

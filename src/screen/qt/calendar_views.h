@@ -16,6 +16,9 @@ class MonthViewView : public QCalendarWidget {
 public:
     MonthViewView(screen::MonthView& month, QWidget* parent, Guard& guard);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void mirror(const screen::MonthView& month);
     void quiet();

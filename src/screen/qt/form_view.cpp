@@ -12,6 +12,7 @@
 #include "screen/qt/view_factory.h"
 
 #include <QCloseEvent>
+#include <QPointer>
 
 namespace dn::screen::qt {
 namespace {
@@ -55,8 +56,9 @@ void FormView::run()
 {
     if (element_ == nullptr || !element_->Visible()) return;
     focus_->begin(element_->focused());
+    const QPointer<FormView> alive(this); // the window that it stands over may take it along
     exec();
-    if (element_ != nullptr) element_->Hide(); // the window was ended from outside
+    if (alive && element_ != nullptr) element_->Hide(); // the window was ended from outside
 }
 
 void FormView::mirror()
@@ -101,8 +103,8 @@ void FormView::reject() { close(true); }
 
 void FormView::closeEvent(QCloseEvent* event)
 {
-    event->ignore();
     close(false);
+    event->setAccepted(element_ == nullptr); // a window that stays open holds up the end of the session, no other
 }
 
 // Escape presses the button that cancels, where there is one; the frame's button closes the window.

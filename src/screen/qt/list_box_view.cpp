@@ -26,20 +26,22 @@ ListBoxView::ListBoxView(screen::ListBox& list, QWidget* parent, Guard& guard)
 
 void ListBoxView::mirror(const screen::ListBox& list)
 {
-    if (currentIndex().row() == list.ListIndex()) return;
     mirroring_ = true;
-    if (list.ListIndex() >= 0)
-        setCurrentIndex(model()->index(list.ListIndex(), 0));
-    else
+    if (list.ListIndex() >= 0) // the selection too: a click with Ctrl takes it off the current line
+        selectionModel()->setCurrentIndex(model()->index(list.ListIndex(), 0),
+                                          QItemSelectionModel::ClearAndSelect);
+    else if (selectionModel()->hasSelection() || currentIndex().row() != list.ListIndex())
         selectionModel()->clear();
     mirroring_ = false;
 }
 
 void ListBoxView::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton) return; // the toolkit selects by any button
     QListView::mousePressEvent(event);
     const int row = indexAt(event->pos()).row();
-    if (event->button() == Qt::LeftButton && row >= 0) bond_.gesture([&](auto& it) { it.pick(row); });
+    if (row >= 0) bond_.gesture([&](auto& it) { it.pick(row); });
+    bond_.refresh();
 }
 
 // No selecting by dragging: a pick is a click.
@@ -50,18 +52,21 @@ void ListBoxView::mouseMoveEvent(QMouseEvent* event)
 
 void ListBoxView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton) return;
     const QModelIndex index = indexAt(event->pos());
-    if (event->button() != Qt::LeftButton || !index.isValid()) return;
-    bond_.gesture([&](auto& it) { it.doubleClick(index.row()); });
+    bond_.gesture([&](auto& it) { index.isValid() ? it.doubleClick(index.row()) : it.doubleClickEmpty(); });
 }
 
 void ListBoxView::keyPressEvent(QKeyEvent* event)
 {
-    const QPersistentModelIndex before = currentIndex();
-    if (event->key() == Qt::Key_Space && before.isValid()) {
-        bond_.gesture([&](auto& it) { it.toggle(before.row()); });
+    if (event->key() == Qt::Key_Space && currentIndex().isValid()) {
+        bond_.gesture([row = currentIndex().row()](auto& it) { it.toggle(row); });
         return;
     }
+    // The toolkit steps into the first line with the focus; where none is selected, that is to be the first key's.
+    const ListBox* const list = bond_.element();
+    if (list != nullptr && !list->checkBoxes() && list->ListIndex() < 0) selectionModel()->clearCurrentIndex();
+    const QPersistentModelIndex before = currentIndex();
     QListView::keyPressEvent(event);
     if (QPersistentModelIndex(currentIndex()) != before) pickCurrent();
 }

@@ -26,8 +26,11 @@ void QtEventLoop::ShowModal(Form& form)
 {
     form.Visible(true);
     QWidget* const active = QApplication::activeWindow();
-    FormView view(form, active != nullptr ? active : owner_.data(), guard_);
-    view.run();
+    // Not on the stack: its parent may end while it shows, and takes it along.
+    const QPointer<FormView> view(new FormView(form, active != nullptr ? active : owner_.data(), guard_));
+    view->run();
+    delete view;
+    if (form.Visible()) form.Hide();
 }
 
 DateTime QtClock::Now() const

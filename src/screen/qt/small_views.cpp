@@ -49,7 +49,8 @@ TimerView::TimerView(screen::Timer& timer, QObject* parent, Guard& guard)
 void TimerView::watch()
 {
     sight_.clear();
-    for (const Element* step = element_->Moves(); step != nullptr; step = step->parent())
+    // Listening to it changes nothing of it.
+    for (auto* step = const_cast<Element*>(element_->Moves()); step != nullptr; step = step->parent())
         sight_.push_back(step->changed.connect([this] { mirror(); }));
 }
 

@@ -76,6 +76,7 @@ std::optional<QString> passedOn(Bond<screen::TextBox>& bond, const QString& type
 LineBoxView::LineBoxView(screen::TextBox& box, QWidget* parent, Guard& guard)
     : QLineEdit(parent), bond_(box, *this, guard, [this](const auto& state) { mirror(state); })
 {
+    setTextMargins(2, 0, 2, 0); // the text begins where that of a combo does
     connect(this, &QLineEdit::textEdited, this, [this](QString text) {
         text.replace(u'\r', u' ').replace(u'\n', u' '); // a line end that was pasted
         bond_.gesture([&](auto& it) { it.edit(toUtf8(text)); });

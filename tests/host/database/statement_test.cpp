@@ -47,6 +47,16 @@ std::string inserted(Engine engine, const std::string& text)
     return Statement("INSERT INTO t VALUES (?)").bind(text).text(engine);
 }
 
+TEST(StatementText, writes_a_moment_in_the_form_that_every_engine_reads_alike)
+{
+    for (const Engine engine : {Engine::mariadb, Engine::sqlServer})
+        EXPECT_EQ(Statement("UPDATE t SET a = ?, b = ?")
+                      .bind(DateTime{2026, 2, 3, 4, 5, 6})
+                      .bind(std::optional<DateTime>())
+                      .text(engine),
+                  "UPDATE t SET a = '2026-02-03T04:05:06', b = NULL");
+}
+
 TEST(StatementText, takes_the_values_in_their_order)
 {
     EXPECT_EQ(Statement("UPDATE t SET a = ?, b = ?, c = ?, d = ? WHERE k = ?")

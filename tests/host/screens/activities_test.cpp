@@ -21,8 +21,9 @@ class Activities : public ProjectsAtWork {
 protected:
     static std::vector<Row> stored()
     {
-        return rows("SELECT Sys_PK, IProyecto, ITpActividad, Asunto, FInicio, Hecho, Notas FROM actividad ORDER BY "
-                    "Sys_PK");
+        return rows(
+            "SELECT Sys_PK, IProyecto, ITpActividad, Asunto, FInicio, Hecho, Notas FROM actividad ORDER BY "
+            "Sys_PK");
     }
     const Row done{"51", "41", "2", "Presentación", "2026-01-05 10:00:00", "1", "NULL"};
     const Row pending{"52", "41", "1", "Pedir datos", "2026-01-06 10:00:07", "0", "n"};
@@ -44,11 +45,12 @@ TEST_F(Activities, a_new_one_is_stored_column_by_column)
     });
     opens();
     const std::string key = value("SELECT MAX(Sys_PK) FROM actividad");
-    EXPECT_EQ(stored(), (std::vector<Row>{done, pending,
-                                          {key, "41", "2", "O'Neil \\ 50% 👍", "2026-02-28 16:45:00", "0", "NULL"}}));
-    EXPECT_EQ(value("SELECT ABS(TIMESTAMPDIFF(SECOND, Sys_DTCreated, NOW())) < 60 FROM actividad WHERE Sys_PK = " +
-                    key),
-              "1");
+    EXPECT_EQ(stored(),
+              (std::vector<Row>{
+                  done, pending, {key, "41", "2", "O'Neil \\ 50% 👍", "2026-02-28 16:45:00", "0", "NULL"}}));
+    EXPECT_EQ(
+        value("SELECT ABS(TIMESTAMPDIFF(SECOND, Sys_DTCreated, NOW())) < 60 FROM actividad WHERE Sys_PK = " + key),
+        "1");
 }
 
 TEST_F(Activities, the_space_bar_and_the_button_mark_as_done_and_back)
@@ -76,7 +78,8 @@ TEST_F(Activities, a_click_on_the_check_box_marks_it_too)
 {
     operatorAt.expect("EditarProyecto", [](QWidget& window) {
         const QRect cell = list(window).visualRect(list(window).model()->index(0, 0));
-        QTest::mouseClick(list(window).viewport(), Qt::LeftButton, {}, cell.center() - QPoint(cell.width() / 2 - 12, 0));
+        QTest::mouseClick(list(window).viewport(), Qt::LeftButton, {},
+                          cell.center() - QPoint(cell.width() / 2 - 12, 0));
         EXPECT_EQ(listed(window).at(0).at(0), "sí");
         pressButton(window, "Aceptar");
     });
@@ -115,8 +118,7 @@ TEST_F(Activities, editing_reaches_every_column_and_leaves_the_notes)
         pressButton(form, "Aceptar");
     });
     opens();
-    EXPECT_EQ(stored(),
-              (std::vector<Row>{done, {"52", "41", "2", "Otra cosa", "2026-04-01 15:30:00", "1", "n"}}));
+    EXPECT_EQ(stored(), (std::vector<Row>{done, {"52", "41", "2", "Otra cosa", "2026-04-01 15:30:00", "1", "n"}}));
 }
 
 TEST_F(Activities, what_is_missing_is_said_below_its_field)

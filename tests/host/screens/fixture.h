@@ -7,6 +7,7 @@
 
 #include "data/connection.h"
 #include "host/screens/screens_factory.h"
+#include "tests/screen/qt/keyboard.h"
 #include "tests/screen/qt/modal_driver.h"
 
 #include <QComboBox>
@@ -75,8 +76,7 @@ private:
 // What an operator does and sees in a window, by the fields' names.
 
 QLineEdit& line(QWidget& window, const char* name);
-/// The keys of a text, whatever its alphabet.
-void presses(QWidget& widget, const QString& text);
+using dn::tests::presses;
 /// Types over whatever the line holds.
 void types(QWidget& window, const char* name, const char* text);
 void picks(QWidget& window, const char* combo, const char* entry);

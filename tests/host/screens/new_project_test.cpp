@@ -319,10 +319,9 @@ TEST_F(NewProject, the_keyboard_reaches_every_field_in_the_order_shown)
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             visited.push_back(focus());
         }
-        EXPECT_THAT(visited,
-                    testing::ElementsAre("Meta", "txtOrganizacion", "cmdOrganizacion", "txtPersona", "cmdPersona",
-                                         "Descripcion", "Monto", "Temperatura", "Color", "Agente", "cmdAceptar",
-                                         "cmdCancelar"));
+        EXPECT_THAT(visited, testing::ElementsAre("Meta", "txtOrganizacion", "cmdOrganizacion", "txtPersona",
+                                                  "cmdPersona", "Descripcion", "Monto", "Temperatura", "Color",
+                                                  "Agente", "cmdAceptar", "cmdCancelar"));
         QTest::keyClick(&window, Qt::Key_O, Qt::AltModifier);
         EXPECT_EQ(focus(), "txtOrganizacion");
         QTest::keyClick(&window, Qt::Key_D, Qt::AltModifier);

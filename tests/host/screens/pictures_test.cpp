@@ -6,6 +6,8 @@
 
 #include "tests/host/screens/projects_at_work.h"
 
+#include <QCheckBox>
+#include <QDateTimeEdit>
 #include <QDir>
 #include <QPushButton>
 #include <QTest>
@@ -22,19 +24,23 @@ protected:
         ProjectsAtWork::SetUp();
         server().execute("INSERT INTO Ciudad (Sys_PK, Nombre, Estado) VALUES (4, 'Tuxtla Gutiérrez', 'Chiapas')");
         server().execute(
-            "UPDATE Persona SET Codigo = 'P-0021', Apellido2 = 'Martínez', EMail = 'ana.lopez@acme.example', Puesto = "
+            "UPDATE Persona SET Codigo = 'P-0021', Apellido2 = 'Martínez', EMail = 'ana.lopez@acme.example', "
+            "Puesto = "
             "'Jefa de compras', IEjecutivo = 7, Tel_Trabajo = '961 111 1111 ext. 204', Domicilio = 'Av. Central "
             "Poniente 1240, local 3', Colonia = 'Centro', CodPostal = '29000', ICiudad = 4 WHERE Sys_PK = 21");
         server().execute(
-            "UPDATE Organizacion SET Codigo = 'O-0011', NomComercial = 'Acme', EMail = 'ventas@acme.example', WebSite "
+            "UPDATE Organizacion SET Codigo = 'O-0011', NomComercial = 'Acme', EMail = 'ventas@acme.example', "
+            "WebSite "
             "= 'www.acme.example', IEjecutivo = 7, Domicilio = 'Av. Central Poniente 1240', Colonia = 'Centro', "
             "CodPostal = '29000', ICiudad = 4, Nacionalidad = 'México' WHERE Sys_PK = 11");
-        server().execute("INSERT INTO actividad (IProyecto, ITpActividad, Asunto, FInicio, Hecho) SELECT 41, 1 + seq % "
-                         "2, CONCAT('Seguimiento a la propuesta, punto ', seq), '2026-02-01 09:30' + INTERVAL seq DAY, "
-                         "seq % 3 = 0 FROM seq_1_to_9");
-        server().execute("INSERT INTO Proyecto (IOrganizacion, IContacto, IMeta, Descripcion, UF_Status1, UF_monto, "
-                         "FInicio) SELECT 11, 21, 4, CONCAT('Ampliación de la planta, etapa ', seq), 1 + seq % 6, seq "
-                         "* 12500.5, '2026-01-10' + INTERVAL seq DAY FROM seq_1_to_7");
+        server().execute(
+            "INSERT INTO actividad (IProyecto, ITpActividad, Asunto, FInicio, Hecho) SELECT 41, 1 + seq % "
+            "2, CONCAT('Seguimiento a la propuesta, punto ', seq), '2026-02-01 09:30' + INTERVAL seq DAY, "
+            "seq % 3 = 0 FROM seq_1_to_9");
+        server().execute(
+            "INSERT INTO Proyecto (IOrganizacion, IContacto, IMeta, Descripcion, UF_Status1, UF_monto, "
+            "FInicio) SELECT 11, 21, 4, CONCAT('Ampliación de la planta, etapa ', seq), 1 + seq % 6, seq "
+            "* 12500.5, '2026-01-10' + INTERVAL seq DAY FROM seq_1_to_7");
     }
 
     static void takes(QWidget& window)
@@ -47,6 +53,8 @@ protected:
         for (const QLabel* label : window.findChildren<QLabel*>())
             EXPECT_TRUE(!label->isVisible() || label->wordWrap() || label->width() >= label->sizeHint().width())
                 << name(*label);
+        for (const QWidget* one : window.findChildren<QWidget*>())
+            EXPECT_TRUE(!one->isVisible() || !isReached(*one) || !one->accessibleName().isEmpty()) << name(*one);
         for (const QComboBox* box : window.findChildren<QComboBox*>())
             EXPECT_GE(box->width(), box->fontMetrics().horizontalAdvance(box->currentText()) + 24) << name(*box);
     }
@@ -59,6 +67,13 @@ protected:
     }
 
 private:
+    /// What an operator enters something into, and a screen reader therefore has to call by a name.
+    static bool isReached(const QWidget& one)
+    {
+        return qobject_cast<const QComboBox*>(&one) || qobject_cast<const QTreeWidget*>(&one) ||
+               qobject_cast<const QCheckBox*>(&one) || qobject_cast<const QDateTimeEdit*>(&one) ||
+               (qobject_cast<const QLineEdit*>(&one) && !one.objectName().startsWith("qt_"));
+    }
     static std::string name(const QWidget& widget) { return widget.objectName().toStdString(); }
 };
 
@@ -79,8 +94,15 @@ TEST_F(Pictures, of_each_window)
     });
     pictures("EditarActividad");
     opens();
-    pictures("CrearProyecto");
-    newProject(1, acme);
+    operatorAt.expect("CrearProyecto", [](QWidget& window) {
+        fillsWhatIsRequired(window);
+        types(window, "Monto", "125,000");
+        picks(window, "Temperatura", "Tibio");
+        picks(window, "Color", "Verde");
+        takes(window);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    newProject(0, ana);
     std::int16_t kind = 1;
     std::string caption = "Relaciones de la organización: Acme del Sureste";
     pictures("MostrarRelaciones");

@@ -39,9 +39,8 @@ TEST_F(ProjectEditor, shows_the_project_and_looking_changes_nothing)
         EXPECT_EQ(combo(window, "Temperatura"), "Frío");
         EXPECT_EQ(combo(window, "Color"), "Predeterminado");
         EXPECT_EQ(combo(window, "Agente"), "Sofía");
-        EXPECT_EQ(listed(window),
-                  (std::vector<Row>{{"no", "06/01/2026 10:00", "Llamada", "Pedir datos"},
-                                    {"sí", "05/01/2026 10:00", "Visita", "Presentación"}}));
+        EXPECT_EQ(listed(window), (std::vector<Row>{{"no", "06/01/2026 10:00", "Llamada", "Pedir datos"},
+                                                    {"sí", "05/01/2026 10:00", "Visita", "Presentación"}}));
         pressButton(window, "Aceptar");
     });
     opens();
@@ -62,10 +61,10 @@ TEST_F(ProjectEditor, what_is_changed_is_stored_column_by_column)
         QTest::keyClick(&window, Qt::Key_Return);
     });
     opens();
-    EXPECT_EQ(project(), (std::vector<Row>{{"4", "12", "22",
-                                            "O'Higgins \\ 100% «ñandú» 👍 مرحبا; DROP TABLE Proyecto", "2000.00", "6",
-                                            "4", "8", "0123456789abcdef0123456789abcdef", "2026-01-05 09:30:15", "1",
-                                            "reservada"}}));
+    EXPECT_EQ(project(),
+              (std::vector<Row>{{"4", "12", "22", "O'Higgins \\ 100% «ñandú» 👍 مرحبا; DROP TABLE Proyecto",
+                                 "2000.00", "6", "4", "8", "0123456789abcdef0123456789abcdef",
+                                 "2026-01-05 09:30:15", "1", "reservada"}}));
 }
 
 TEST_F(ProjectEditor, what_may_be_open_can_be_emptied)
@@ -84,8 +83,9 @@ TEST_F(ProjectEditor, what_may_be_open_can_be_emptied)
 
 TEST_F(ProjectEditor, odd_values_that_nobody_touches_stay)
 {
-    server().execute("UPDATE Proyecto SET IMeta = 99, IOrganizacion = 98, IContacto = 97, UF_Status1 = 9, UF_Color "
-                     "= 0, IEjecutivo = 0, UF_monto = -3.10 WHERE Sys_PK = 41");
+    server().execute(
+        "UPDATE Proyecto SET IMeta = 99, IOrganizacion = 98, IContacto = 97, UF_Status1 = 9, UF_Color "
+        "= 0, IEjecutivo = 0, UF_monto = -3.10 WHERE Sys_PK = 41");
     operatorAt.expect("EditarProyecto", [](QWidget& window) {
         EXPECT_EQ(combo(window, "Meta"), "(clave 99)");
         EXPECT_EQ(combo(window, "Agente"), "(sin asignar)");
@@ -285,11 +285,10 @@ TEST_F(ProjectEditor, the_keyboard_reaches_everything_in_the_order_shown)
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             visited.push_back(focus());
         }
-        EXPECT_THAT(visited,
-                    ElementsAre("Meta", "txtOrganizacion", "cmdOrganizacion", "txtPersona", "cmdPersona",
-                                "Descripcion", "Monto", "Temperatura", "Color", "Agente", "lstActividades",
-                                "cmdAgregar", "cmdEditar", "cmdReprogramar", "cmdHecha", "cmdAceptar",
-                                "cmdCancelar"));
+        EXPECT_THAT(visited, ElementsAre("Meta", "txtOrganizacion", "cmdOrganizacion", "txtPersona", "cmdPersona",
+                                         "Descripcion", "Monto", "Temperatura", "Color", "Agente",
+                                         "lstActividades", "cmdAgregar", "cmdEditar", "cmdReprogramar", "cmdHecha",
+                                         "cmdAceptar", "cmdCancelar"));
         QTest::keyClick(&window, Qt::Key_V, Qt::AltModifier);
         EXPECT_EQ(focus(), "lstActividades");
         QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);

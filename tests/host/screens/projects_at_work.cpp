@@ -10,13 +10,15 @@ void ProjectsAtWork::SetUp()
     Screens::SetUp();
     server().execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Sofía'), (8, 'Tomás')");
     server().execute("INSERT INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada'), (2, 'Visita')");
-    server().execute("INSERT INTO Proyecto (Sys_PK, Sys_GUID, IMeta, IOrganizacion, IContacto, Descripcion, UF_monto, "
-                     "UF_Status1, IEjecutivo, FInicio, uf_contactado, Notas) VALUES (41, "
-                     "'0123456789abcdef0123456789abcdef', 3, 11, 21, 'Licencias', 1234.5, 2, 7, '2026-01-05 "
-                     "09:30:15', 1, 'reservada')");
-    server().execute("INSERT INTO actividad (Sys_PK, IProyecto, ITpActividad, Asunto, FInicio, Hecho, Notas) VALUES "
-                     "(51, 41, 2, 'Presentación', '2026-01-05 10:00', 1, NULL), "
-                     "(52, 41, 1, 'Pedir datos', '2026-01-06 10:00:07', 0, 'n')");
+    server().execute(
+        "INSERT INTO Proyecto (Sys_PK, Sys_GUID, IMeta, IOrganizacion, IContacto, Descripcion, UF_monto, "
+        "UF_Status1, IEjecutivo, FInicio, uf_contactado, Notas) VALUES (41, "
+        "'0123456789abcdef0123456789abcdef', 3, 11, 21, 'Licencias', 1234.5, 2, 7, '2026-01-05 "
+        "09:30:15', 1, 'reservada')");
+    server().execute(
+        "INSERT INTO actividad (Sys_PK, IProyecto, ITpActividad, Asunto, FInicio, Hecho, Notas) VALUES "
+        "(51, 41, 2, 'Presentación', '2026-01-05 10:00', 1, NULL), "
+        "(52, 41, 1, 'Pedir datos', '2026-01-06 10:00:07', 0, 'n')");
 }
 
 QTreeWidget& ProjectsAtWork::list(QWidget& window, const char* name)

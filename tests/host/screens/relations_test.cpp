@@ -21,8 +21,9 @@ protected:
     void SetUp() override
     {
         ProjectsAtWork::SetUp();
-        server().execute("INSERT INTO Proyecto (Sys_PK, IOrganizacion, IContacto, Descripcion, UF_Status1, FInicio) "
-                         "VALUES (42, 12, 21, 'Forja', 6, '2026-02-01'), (43, 11, 22, 'Otra', 1, NULL)");
+        server().execute(
+            "INSERT INTO Proyecto (Sys_PK, IOrganizacion, IContacto, Descripcion, UF_Status1, FInicio) "
+            "VALUES (42, 12, 21, 'Forja', 6, '2026-02-01'), (43, 11, 22, 'Otra', 1, NULL)");
     }
     void shows(std::int16_t kind, std::int32_t key, std::string caption = "Relaciones de prueba")
     {

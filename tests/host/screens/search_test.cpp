@@ -133,8 +133,9 @@ TEST_F(Search, the_names_are_found_by_their_index)
 
 TEST_F(Search, the_pass_over_the_tables_goes_in_slices_whatever_the_keys)
 {
-    server().execute("INSERT INTO Persona (Sys_PK, Nombre, EMail) VALUES (2147483647, 'Última', 'u@lejos.example'), "
-                     "(-5, 'Primera', 'p@lejos.example')");
+    server().execute(
+        "INSERT INTO Persona (Sys_PK, Nombre, EMail) VALUES (2147483647, 'Última', 'u@lejos.example'), "
+        "(-5, 'Primera', 'p@lejos.example')");
     OwnConnection database([] { return open(); });
     EntitySearch search(database, {});
     search.begin("lejos");

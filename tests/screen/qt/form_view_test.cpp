@@ -179,6 +179,40 @@ TEST_F(FormViewTest, the_focus_given_before_a_form_shows_is_there_when_it_does)
     events.ShowModal(sample->form);
 }
 
+TEST_F(FormViewTest, a_form_keeps_its_size_unless_it_is_made_resizable)
+{
+    driver.expect("dlgMuestra", [](QWidget& window) {
+        EXPECT_EQ(window.minimumSize(), window.maximumSize());
+        pressButton(window, "Cancelar");
+    });
+    events.ShowModal(sample->form);
+}
+
+TEST_F(FormViewTest, a_resizable_form_follows_its_window_and_the_window_the_form)
+{
+    int resized = 0;
+    sample->form.makeResizable();
+    sample->wires.push_back(sample->form.Resize.connect([&] {
+        ++resized;
+        sample->text.Width(sample->form.Width() - 300);
+    }));
+    driver.expect("dlgMuestra", [&](QWidget& window) {
+        EXPECT_EQ(window.minimumSize(), QSize(300, 120));
+        EXPECT_EQ(resized, 0);
+        window.resize(400, 160);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return resized > 0; }, 5000));
+        EXPECT_EQ(sample->form.Width(), 400 * 15);
+        EXPECT_EQ(sample->form.Height(), 160 * 15);
+        EXPECT_EQ(resized, 1);
+        EXPECT_EQ(window.size(), QSize(400, 160));
+        EXPECT_EQ(window.findChild<QLineEdit*>(QStringLiteral("txtNombre"))->width(), 380);
+        sample->form.Width(350 * 15);
+        EXPECT_EQ(window.size(), QSize(350, 160));
+        pressButton(window, "Cancelar");
+    });
+    events.ShowModal(sample->form);
+}
+
 TEST_F(FormViewTest, the_driver_refuses_a_window_that_nobody_expected)
 {
     EXPECT_NONFATAL_FAILURE(events.ShowModal(sample->form), "a window that nobody expected: dlgMuestra");

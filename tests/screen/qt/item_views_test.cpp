@@ -133,6 +133,21 @@ TEST_F(ItemViewsTest, a_list_box_is_picked_double_clicked_and_walked)
     EXPECT_FALSE(list.currentIndex().isValid());
 }
 
+TEST_F(ItemViewsTest, the_first_key_in_a_list_without_a_selection_picks_its_first_line)
+{
+    show();
+    auto& list = widget<QListView>("lstPlain");
+    list.setFocus();
+    EXPECT_EQ(plain.ListIndex(), -1) << "the focus alone selects nothing";
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(plain.ListIndex(), 0);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(plain.ListIndex(), 1);
+    plain.ListIndex(-1);
+    QTest::keyClick(&list, Qt::Key_Home);
+    EXPECT_EQ(plain.ListIndex(), 0);
+}
+
 TEST_F(ItemViewsTest, check_boxes_of_a_list_box_go_both_ways)
 {
     show();

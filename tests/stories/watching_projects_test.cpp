@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The operator looks after his projects: what is due next, and what nobody has planned anything for.
+
+#include "tests/stories/project_operator.h"
+
+namespace dn::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class WatchingProjects : public ProjectOperator {
+protected:
+    void opensProjects() { opensTab(desk::proyectos); }
+    /// A project with an activity on a day of March.
+    std::int64_t due(const std::string& description, int day, const Columns& columns = {})
+    {
+        const std::int64_t key = project(description, columns);
+        activity(key, "cita", {{"FInicio", "'2026-03-" + std::to_string(day) + " 09:00:00'"}});
+        return key;
+    }
+};
+
+TEST_F(WatchingProjects, each_stands_once_by_its_next_activity_and_those_without_come_last)
+{
+    const auto three = project("Tres citas");
+    activity(three, "la segunda", {{"FInicio", "'2026-03-20 09:00:00'"}});
+    activity(three, "la primera", {{"FInicio", "'2026-03-10 08:05:09'"}, {"ITpActividad", "2"}});
+    activity(three, "la tercera", {{"FInicio", "'2026-04-01'"}});
+    project("Sin citas B", {{"FInicio", "'2026-02-01'"}});
+    project("Sin citas A", {{"FInicio", "'2026-01-01'"}});
+    due("Otro", 15);
+    const auto done = project("Ya hecha");
+    activity(done, "pasada", {{"FInicio", "'2026-01-01'"}, {"Hecho", "1"}});
+    const auto someday = project("Sin fecha");
+    activity(someday, "algún día");
+    enters(ana);
+    opensProjects();
+    EXPECT_THAT(seesProjects(),
+                ElementsAre("Sin fecha", "Tres citas", "Otro", "Ya hecha", "Sin citas A", "Sin citas B"));
+    EXPECT_EQ(seesProjectCell("Tres citas", "Fecha y hora"), "10/03/2026 08:05:09");
+    EXPECT_EQ(seesProjectCell("Tres citas", "Actividad"), "Llamada");
+    EXPECT_EQ(seesProjectCell("Tres citas", "Asunto"), "la primera");
+    EXPECT_EQ(seesProjectCell("Tres citas", "Meta"), "Venta nueva");
+    EXPECT_EQ(seesProjectCell("Tres citas", "Organización"), "Acme");
+    EXPECT_EQ(seesProjectCell("Tres citas", "Persona"), "María Ñúñez ");
+    EXPECT_EQ(seesProjectCell("Tres citas", "E-Mail"), "m@acme.mx");
+    EXPECT_EQ(seesProjectCell("Tres citas", "Tel"), "55 1111");
+    EXPECT_EQ(seesProjectCell("Ya hecha", "Actividad"), "< Ninguna >");
+    EXPECT_EQ(seesProjectCell("Ya hecha", "Asunto"), "Revise el estado del proyecto");
+    EXPECT_EQ(seesProjectCell("Ya hecha", "Persona"), "-");
+    EXPECT_EQ(sees("lblCuenta"), "Hoy: 0 actividades | Proyectos: 6 Contactos: 0");
+    EXPECT_THAT(cnn->statements, testing::SizeIs(4)) << "two for the list, two for the detail";
+}
+
+TEST_F(WatchingProjects, a_contact_who_is_not_in_the_directory_takes_the_activities_out_of_sight)
+{
+    due("Sin persona", 1, {{"IContacto", "999"}, {"UF_monto", "500"}});
+    due("Con persona", 2);
+    due("Sin organización", 3, {{"IOrganizacion", "999"}});
+    due("Sin meta", 4, {{"IMeta", "NULL"}});
+    enters(ana);
+    opensProjects();
+    EXPECT_THAT(seesProjects(), ElementsAre("Con persona", "Sin persona"));
+    EXPECT_EQ(seesProjectCell("Sin persona", "Actividad"), "< Ninguna >");
+    EXPECT_EQ(seesProjectCell("Sin persona", "Monto"), "<Definir>") << "even though it has one";
+}
+
+TEST_F(WatchingProjects, the_filter_shows_one_status_or_what_is_open)
+{
+    for (const int status : {1, 2, 3, 4, 5, 6})
+        for (const bool planned : {true, false}) {
+            const std::string name = std::to_string(status) + (planned ? " con cita" : " sin cita");
+            const Columns columns{{"UF_Status1", std::to_string(status)},
+                                  {"FInicio", "'2026-01-0" + std::to_string(status) + "'"}};
+            if (planned)
+                due(name, status, columns);
+            else
+                project(name, columns);
+        }
+    due("Nulo", 9, {{"UF_Status1", "NULL"}});
+    project("Nulo sin cita", {{"UF_Status1", "NULL"}});
+    enters(ana);
+    opensProjects();
+    EXPECT_EQ(sees("cbProjStatusProj"), "<Todos los proyectos>");
+    EXPECT_THAT(seesProjects(), ElementsAre("1 con cita", "2 con cita", "3 con cita", "4 con cita", "5 con cita",
+                                            "6 con cita", "1 sin cita", "2 sin cita", "3 sin cita", "4 sin cita"))
+        << "a closed one shows as long as something is planned for it";
+    const std::pair<const char*, const char*> entries[]{
+        {"Congelados", "1"}, {"Fríos", "2"}, {"Tibios", "3"}, {"Calientes", "4"}, {"Perdidos", "6"}};
+    for (const auto& [entry, status] : entries) {
+        picks("cbProjStatusProj", entry);
+        EXPECT_THAT(seesProjects(),
+                    ElementsAre(std::string(status) + " con cita", std::string(status) + " sin cita"));
+    }
+    EXPECT_EQ(projectRow("6 con cita").SmallIcon(), 5);
+}
+
+TEST_F(WatchingProjects, the_amount_has_thousands_and_cents)
+{
+    due("Nada", 1, {{"UF_monto", "0"}});
+    due("Nulo", 2, {{"UF_monto", "NULL"}});
+    due("Mucho", 3, {{"UF_monto", "1234567.8"}});
+    due("Centavos", 4, {{"UF_monto", "0.05"}});
+    enters(ana);
+    opensProjects();
+    EXPECT_EQ(seesProjectCell("Nada", "Monto"), ".00");
+    EXPECT_EQ(seesProjectCell("Nulo", "Monto"), "<Definir>");
+    EXPECT_EQ(seesProjectCell("Mucho", "Monto"), "1,234,567.80");
+    EXPECT_EQ(seesProjectCell("Centavos", "Monto"), ".05");
+}
+
+TEST_F(WatchingProjects, the_days_are_counted_by_the_database)
+{
+    due("Antiguo", 1,
+        {{"Sys_DTCreated", "NOW() - INTERVAL 45 DAY"},
+         {"uf_ultimocontac", "NOW() - INTERVAL 3 DAY"},
+         {"uf_ultimointento", "NOW() + INTERVAL 2 DAY"}});
+    due("De hoy", 2);
+    enters(ana);
+    opensProjects();
+    EXPECT_EQ(seesProjectCell("Antiguo", "Días"), "45");
+    EXPECT_EQ(seesProjectCell("Antiguo", "D.U.C."), "3");
+    EXPECT_EQ(seesProjectCell("Antiguo", "D.U.I."), "-2");
+    EXPECT_EQ(seesProjectCell("De hoy", "Días"), "0");
+    EXPECT_EQ(seesProjectCell("De hoy", "Últ. Contacto"), "");
+    EXPECT_EQ(seesProjectCell("De hoy", "D.U.C."), "");
+}
+
+TEST_F(WatchingProjects, a_mark_beyond_the_table_is_no_mark)
+{
+    due("Siete", 1, {{"UF_Color", "7"}});
+    due("Rojo", 2, {{"UF_Color", "1"}});
+    enters(ana);
+    opensProjects();
+    EXPECT_EQ(projectRow("Siete").ForeColor(), 0U);
+    EXPECT_FALSE(projectRow("Siete").Bold());
+    EXPECT_EQ(projectRow("Rojo").ForeColor(), 0x0000FFU);
+    EXPECT_TRUE(projectRow("Rojo").Bold());
+}
+
+TEST_F(WatchingProjects, an_agent_sees_his_own_and_an_agent_without_any_sees_none)
+{
+    due("De Ana", 1);
+    enters(beto);
+    opensProjects();
+    EXPECT_THAT(seesProjects(), IsEmpty());
+    EXPECT_EQ(sees("lblCuenta"), "Hoy: 0 actividades | Proyectos: 0 Contactos: 0");
+    entersAsAdministrator(beto);
+    opensProjects();
+    picks("cbAgente", "Ana");
+    EXPECT_THAT(seesProjects(), ElementsAre("De Ana"));
+}
+
+TEST_F(WatchingProjects, a_click_shows_whom_to_call_and_what_happened)
+{
+    const auto key = due("Veinte puestos", 10);
+    due("Otro", 5);
+    database("INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, uf_Iicontact, uf_IProy) VALUES "
+             "('2026-03-01 10:00:00', 'visita', 'ana', 0, " +
+             std::to_string(key) + ")");
+    enters(ana);
+    opensProjects();
+    clicksProject("Veinte puestos");
+    EXPECT_EQ(sees("txtInfo"), "10/03/2026 09:00:00\r\nVisita\r\ncita\r\nVenta nueva\r\nAcme\r\nVeinte puestos\r\n"
+                               "Tel1: 55 1111\r\nEMail: ventas@acme.mx\r\nMaría Ñúñez \r\nEMail: m@acme.mx\r\n"
+                               "Tel_Movil: 55 2222\r\n");
+    EXPECT_EQ(sees("txtBit"), "ana [01/03/2026 10:00:00]\r\nvisita\r\n\r\n");
+    EXPECT_EQ(control.Call_Tel(), "55 1111");
+    types("txtText", "pide factura\n");
+    EXPECT_THAT(sees("txtBit"), HasSubstr("pide factura"));
+    EXPECT_THAT(inTheDatabase("SELECT uf_IProy FROM xt_biticontact WHERE uf_Mensaje = 'pide factura'"),
+                ElementsAre(std::to_string(key)));
+}
+
+TEST_F(WatchingProjects, the_one_in_hand_stays_in_hand_when_the_list_is_loaded_anew)
+{
+    due("Primero", 1);
+    const auto key = due("En mano", 2);
+    enters(ana);
+    opensProjects();
+    clicksProject("En mano");
+    database("UPDATE actividad SET Hecho = 1 WHERE IProyecto = " + std::to_string(key));
+    opensProjects();
+    EXPECT_THAT(seesProjects(), ElementsAre("Primero", "En mano"));
+    EXPECT_TRUE(projectRow("En mano").Selected());
+    EXPECT_THAT(sees("txtInfo"), StartsWith("\r\n< Ninguna >\r\nRevise el estado del proyecto\r\n"));
+}
+
+TEST_F(WatchingProjects, editing_one_that_thereby_leaves_the_list_selects_none_of_its_own)
+{
+    due("Se queda", 1);
+    const auto key = due("Se pierde", 2);
+    enters(ana);
+    opensProjects();
+    picks("cbProjStatusProj", "Congelados");
+    clicksProject("Se pierde");
+    database("UPDATE Proyecto SET UF_Status1 = 6 WHERE Sys_PK = " + std::to_string(key));
+    host.log.calls.clear();
+    presses("cmdNewProjEditProj");
+    EXPECT_THAT(host.log.calls, ElementsAre("EditarProyecto " + std::to_string(key)));
+    EXPECT_THAT(seesProjects(), ElementsAre("Se queda"));
+    picks("cbProjStatusProj", "Perdidos");
+    EXPECT_THAT(seesProjects(), ElementsAre("Se pierde"));
+}
+
+TEST_F(WatchingProjects, a_table_that_is_gone_leaves_the_other_half_and_no_message)
+{
+    due("Con cita", 1);
+    project("Sin cita");
+    enters(ana);
+    database("RENAME TABLE actividad TO actividad_fuera");
+    opensProjects();
+    EXPECT_THAT(seesProjects(), testing::UnorderedElementsAre("Con cita", "Sin cita"));
+    EXPECT_EQ(seesProjectCell("Con cita", "Actividad"), "< Ninguna >");
+    database("RENAME TABLE Meta TO Meta_fuera");
+    opensProjects();
+    EXPECT_THAT(seesProjects(), IsEmpty());
+    database("RENAME TABLE Meta_fuera TO Meta");
+    database("RENAME TABLE actividad_fuera TO actividad");
+    opensProjects();
+    EXPECT_THAT(seesProjects(), ElementsAre("Con cita", "Sin cita"));
+}
+
+} // namespace
+} // namespace dn::tests
