@@ -3,8 +3,6 @@
 
 #include "shell/ctr_dn_contacts.h"
 
-#include "base/runtime_error.h"
-
 namespace dn {
 
 ctrDnContacts::ctrDnContacts(screen::Ports ports)
@@ -38,6 +36,9 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
                     ports),
       callOutcomes_(session_, elements_, notes_, callDecision_, listInSight_, ports.dialogs),
       callFlow_(session_, elements_, partyInHand_, callOutcomes_, ports.dialogs),
+      projectAddresses_(session_, elements_.projects, ports),
+      recordMail_(session_, hostScreens_, ports.dialogs),
+      mail_(elements_, partyInHand_, projectAddresses_, recordMail_, notes_),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_,
             {prospectDetail_, prospectList_, projectDetail_, projectList_, queue_, organisations_, persons_}),
@@ -49,15 +50,5 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
 }
 
 ctrDnContacts::~ctrDnContacts() = default;
-
-namespace {
-
-constexpr const char* noMail = "El correo todavía no está disponible";
-
-}
-
-void ctrDnContacts::cmdSend_Click() { throw RuntimeError(noMail); }
-
-void ctrDnContacts::Historial(std::int16_t&, std::int32_t&) { throw RuntimeError(noMail); }
 
 } // namespace dn

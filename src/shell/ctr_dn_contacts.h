@@ -9,6 +9,10 @@
 // user-interface thread. Neither the control nor the connection may end while one of the control's windows is open.
 #pragma once
 
+#include "mail/mail.h"
+#include "mail/project_addresses.h"
+#include "mail/record_mail.h"
+
 #include "calling/call_decision.h"
 #include "calling/call_flow.h"
 #include "calling/call_outcomes.h"
@@ -150,9 +154,11 @@ public:
     /// own. Returns when the operator closes it; a failure of a statement goes where those of his own clicks go.
     void ExportarListas() { projectCommands_.ExportarListas(); }
 
-    // There is no mail yet. @throws RuntimeError always.
-    void cmdSend_Click() override;
-    void Historial(std::int16_t& t, std::int32_t& Sys_PK) override;
+    /// Writes a mail to the party in hand, as the button "Correo" does.
+    void cmdSend_Click() override { mail_.cmdSend_Click(); }
+
+    /// Shows the mails of a record. @param t 0 a prospect, 1 a project. @param Sys_PK its key.
+    void Historial(std::int16_t& t, std::int32_t& Sys_PK) override { recordMail_.Historial(t, Sys_PK); }
 
     // ---- The call: whoever dials drives it by these, in the place of the operator's buttons. None of them
     // throws.
@@ -227,6 +233,9 @@ private:
     calling::CallDecision callDecision_;
     calling::CallOutcomes callOutcomes_;
     calling::CallFlow callFlow_;
+    mail::ProjectAddresses projectAddresses_;
+    mail::RecordMail recordMail_;
+    mail::Mail mail_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

@@ -22,7 +22,7 @@ void ctrDnContacts::wire()
     using calling::CallOutcomes;
     using directories::Organisations;
     using directories::Persons;
-
+    using mail::Mail;
     using notes::Notes;
     using projects::ProjectCommands;
     using projects::ProjectDetail;
@@ -106,6 +106,8 @@ void ctrDnContacts::wire()
         wires_.push_back(call.cmdCallCon(i).Click.connect([this, i] { callFlow_.cmdCallCon_Click(i); }));
     join(call.cmdOkCall.Click, callFlow_, &CallFlow::cmdOkCall_Click);
     join(call.Timer1.TimerEvent, callFlow_, &CallFlow::Timer1_Timer);
+
+    join(detail.cmdSend.Click, mail_, &Mail::cmdSend_Click);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);
