@@ -6,7 +6,8 @@
 //
 // Order of the host's calls, which is binding: create the control, hand over the factory of the host's objects,
 // `SetObjects`, `InitUICRM`, `RefreshData`; from then on any of them again, at will. Everything runs on the host's
-// user-interface thread. Neither the control nor the connection may end while one of the control's windows is open.
+// user-interface thread. Neither the control nor the connection may end while one of the control's windows is
+// open.
 #pragma once
 
 #include "mail/mail.h"
@@ -188,8 +189,13 @@ public:
     /// Raised when the screen shows it. What a listener throws is passed over.
     screen::Signal<std::string, std::int32_t, std::string>& callStarted() { return callFlow_.started; }
 
-    /// A call has ended, or the screen was told so. Raised ahead of the question what happens next.
+    /// A call has ended, or the screen was told so. Raised ahead of the question what happens next: the line can
+    /// be hung up, but the call in hand is still needed.
     screen::Signal<>& callEnded() { return callOutcomes_.ended; }
+
+    /// What the end of a call brought is over: question, late statement, list. Nothing reads the call in hand any
+    /// more, and another one may begin, unless the host has begun it already.
+    screen::Signal<>& callSettled() { return callOutcomes_.turn().settled; }
 
     // ---- For the screen layer and for tests
 
