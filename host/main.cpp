@@ -4,6 +4,7 @@
 // The program `dncontacts`: opens the database, asks who works, and shows the window with the control.
 
 #include "host/database/database.h"
+#include "host/database/server_folder.h"
 #include "host/ending.h"
 #include "host/main_window.h"
 #include "host/picture.h"
@@ -66,6 +67,8 @@ int run(const ProgramOptions& options)
 
     MainWindow window(database, *worker);
     window.resize(options.size);
+    window.sendMails(options.dataFolder.isEmpty() ? defaultDataFolder()
+                                                  : std::filesystem::path(options.dataFolder.toStdString()));
     if (options.dial) window.dialCalls();
     if (picture) {
         window.start(options.tab);

@@ -4,6 +4,7 @@
 #include "host/main_window.h"
 
 #include "host/dialler.h"
+#include "host/mail/mailer.h"
 #include "shell/ctr_dn_contacts.h"
 
 #include <QAction>
@@ -36,8 +37,19 @@ void MainWindow::start(std::optional<std::int16_t> tab)
     control().SetObjects(&database_.connection(), worker_.agent, worker_.admin, worker_.user.toStdString());
     HostObject lands;
     control().InitUICRM(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString(), lands);
+    if (mailSettings_)
+        if (const auto templates = mailSettings_().templates; !templates.empty())
+            control().TemplatePath(templates.string()); // the binding has set a folder that is not this program's
     control().RefreshData();
     if (tab) control().elements().top.lblItem(*tab).click();
+}
+
+void MainWindow::sendMails(const std::filesystem::path& dataFolder)
+{
+    mailSettings_ = [dataFolder] { return readMailSettings(mailSettingsFile(), dataFolder); };
+    screens_.mailBy([settings = mailSettings_](const std::shared_ptr<ScreenContext>& context) {
+        return std::make_shared<Mailer>(context, settings);
+    });
 }
 
 // The control does not dial. A number that nobody can dial is the operator's to dial by hand.
@@ -53,6 +65,8 @@ void MainWindow::addMenus()
     QAction* reload = file->addAction("&Actualizar");
     reload->setShortcut(QKeySequence::Refresh);
     connect(reload, &QAction::triggered, this, [this] { refresh(); });
+    connect(file->addAction("&Exportar listas de correo..."), &QAction::triggered, this,
+            [this] { control().ExportarListas(); });
     file->addSeparator();
     QAction* quit = file->addAction("&Salir");
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/database/database.h"
+#include "host/mail/mail_settings.h"
 #include "host/program_options.h"
 #include "host/screens/screens_factory.h"
 #include "host/worker.h"
@@ -13,6 +14,8 @@
 
 #include <QMainWindow>
 
+#include <filesystem>
+#include <functional>
 #include <optional>
 
 namespace dn::host {
@@ -26,6 +29,10 @@ public:
     /// Hands the connection, the worker and the host's screens to the control and shows its first screen.
     /// @param tab the tab to open, if one was asked for.
     void start(std::optional<std::int16_t> tab);
+
+    /// From now on the control can write mails. To be called ahead of `start`.
+    /// @param dataFolder with the outbox, where the user's settings name no server.
+    void sendMails(const std::filesystem::path& dataFolder);
 
     /// From now on hands the number of each call to the desktop's own telephone program.
     void dialCalls();
@@ -42,6 +49,7 @@ private:
     ScreensFactory screens_;
     screen::qt::CtrDnContactsWidget* widget_;
     screen::Subscription calls_;
+    std::function<MailSettings()> mailSettings_;
 };
 
 } // namespace dn::host

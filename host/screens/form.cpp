@@ -106,7 +106,7 @@ void Form::accept()
         report(this, failure);
         return;
     }
-    QDialog::accept();
+    if (stored()) QDialog::accept();
 }
 
 void Form::complain(QWidget* field, const QString& text)

@@ -43,6 +43,8 @@ private:
     virtual bool validate() = 0;
     /// @throws what the server said.
     virtual void store() = 0;
+    /// False while what `store` began goes on; the form stays open then, and ends itself.
+    virtual bool stored() const { return true; }
 
     void showHalves();
     void clearComplaints();

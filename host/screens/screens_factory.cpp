@@ -24,8 +24,8 @@ std::shared_ptr<UIProyectos> ScreensFactory::newUIProyectos()
     return std::make_shared<ProjectScreens>(context_);
 }
 
-// This program has no mail yet: the control takes nothing as a failure.
-std::shared_ptr<CorreoHost> ScreensFactory::newCorreoHost() { return nullptr; }
+// The control takes nothing as a failure.
+std::shared_ptr<CorreoHost> ScreensFactory::newCorreoHost() { return makeMail_ ? makeMail_(context_) : nullptr; }
 
 std::shared_ptr<PersonaRegistro> ScreensFactory::newPersonaRegistro() { return std::make_shared<PersonRecord>(); }
 

@@ -12,6 +12,7 @@
 
 #include "host/screens/context.h"
 
+#include <functional>
 #include <memory>
 
 namespace dn::host {
@@ -21,6 +22,10 @@ public:
     /// @param open gives a new connection to the control's database; called for as long as an object lives.
     /// @param window that the screens stand over.
     explicit ScreensFactory(OwnConnection::Opener open, QWidget* window = nullptr);
+
+    using MailMaker = std::function<std::shared_ptr<CorreoHost>(const std::shared_ptr<ScreenContext>&)>;
+    /// Sets who makes the mail objects; without one there is no mail.
+    void mailBy(MailMaker make) { makeMail_ = std::move(make); }
 
     std::shared_ptr<UI_CRM> newUI_CRM() override;
     std::shared_ptr<ConexionCRM> newConexionCRM() override;
@@ -32,6 +37,7 @@ public:
 
 private:
     std::shared_ptr<ScreenContext> context_;
+    MailMaker makeMail_;
 };
 
 } // namespace dn::host

@@ -3,8 +3,6 @@
 
 #include "shell/ctr_dn_contacts.h"
 
-#include "base/runtime_error.h"
-
 namespace dn {
 
 ctrDnContacts::ctrDnContacts(screen::Ports ports)
@@ -23,7 +21,7 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       phoneChoice_(session_),
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
-      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
+      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports),
       todayPanel_(elements_, prospectDetail_, projectDetail_, *this),
       queue_(session_, elements_, tabStrip_, todayPanel_, counters_, ports.clock),
       todayCommands_(elements_.today, queue_, prospectEditing_, prospectConversion_, hostScreens_, ports.dialogs),
@@ -38,6 +36,9 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
                     ports),
       callOutcomes_(session_, elements_, notes_, callDecision_, listInSight_, ports.dialogs),
       callFlow_(session_, elements_, partyInHand_, callOutcomes_, ports.dialogs),
+      projectAddresses_(session_, elements_.projects, ports),
+      recordMail_(session_, hostScreens_, ports.dialogs),
+      mail_(elements_, partyInHand_, projectAddresses_, recordMail_, notes_),
       layout_(elements_),
       tabs_(session_, elements_, tabStrip_,
             {prospectDetail_, prospectList_, projectDetail_, projectList_, queue_, organisations_, persons_}),
@@ -49,15 +50,5 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
 }
 
 ctrDnContacts::~ctrDnContacts() = default;
-
-namespace {
-
-constexpr const char* noMail = "El correo todavía no está disponible";
-
-}
-
-void ctrDnContacts::cmdSend_Click() { throw RuntimeError(noMail); }
-
-void ctrDnContacts::Historial(std::int16_t&, std::int32_t&) { throw RuntimeError(noMail); }
 
 } // namespace dn

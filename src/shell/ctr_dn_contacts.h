@@ -10,6 +10,10 @@
 // open.
 #pragma once
 
+#include "mail/mail.h"
+#include "mail/project_addresses.h"
+#include "mail/record_mail.h"
+
 #include "calling/call_decision.h"
 #include "calling/call_flow.h"
 #include "calling/call_outcomes.h"
@@ -147,9 +151,15 @@ public:
     /// Asks for an agent in a dialog. @return his key; 0 when none was chosen or anything failed.
     std::int32_t ShSelAgente() override { return agents_.ShSelAgente(); }
 
-    // There is no mail yet. @throws RuntimeError always.
-    void cmdSend_Click() override;
-    void Historial(std::int16_t& t, std::int32_t& Sys_PK) override;
+    /// Opens the export of the mail lists of prospects and projects, for which the control has no button of its
+    /// own. Returns when the operator closes it; a failure of a statement goes where those of his own clicks go.
+    void ExportarListas() { projectCommands_.ExportarListas(); }
+
+    /// Writes a mail to the party in hand, as the button "Correo" does.
+    void cmdSend_Click() override { mail_.cmdSend_Click(); }
+
+    /// Shows the mails of a record. @param t 0 a prospect, 1 a project. @param Sys_PK its key.
+    void Historial(std::int16_t& t, std::int32_t& Sys_PK) override { recordMail_.Historial(t, Sys_PK); }
 
     // ---- The call: whoever dials drives it by these, in the place of the operator's buttons. None of them
     // throws.
@@ -229,6 +239,9 @@ private:
     calling::CallDecision callDecision_;
     calling::CallOutcomes callOutcomes_;
     calling::CallFlow callFlow_;
+    mail::ProjectAddresses projectAddresses_;
+    mail::RecordMail recordMail_;
+    mail::Mail mail_;
     shell::Layout layout_;
     shell::Tabs tabs_;
     shell::Agents agents_;

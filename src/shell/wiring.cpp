@@ -22,7 +22,7 @@ void ctrDnContacts::wire()
     using calling::CallOutcomes;
     using directories::Organisations;
     using directories::Persons;
-
+    using mail::Mail;
     using notes::Notes;
     using projects::ProjectCommands;
     using projects::ProjectDetail;
@@ -69,6 +69,7 @@ void ctrDnContacts::wire()
     join(projects.cmdProjSeekProj.Click, projectCommands_, &ProjectCommands::cmdProjSeekProj_Click);
     join(projects.cmdProjNewContact.Click, projectCommands_, &ProjectCommands::cmdProjNewContact_Click);
     join(projects.cmdProjNewOrg.Click, projectCommands_, &ProjectCommands::cmdProjNewOrg_Click);
+    join(projects.cmdNewProjTool.Click, projectCommands_, &ProjectCommands::cmdNewProjTool_Click);
 
     join(today.lvwHoy.ItemClick, todayPanel_, &TodayPanel::lvwHoy_ItemClick);
     join(today.lvwHoy.DblClick, todayCommands_, &TodayCommands::lvwHoy_DblClick);
@@ -105,6 +106,8 @@ void ctrDnContacts::wire()
         wires_.push_back(call.cmdCallCon(i).Click.connect([this, i] { callFlow_.cmdCallCon_Click(i); }));
     join(call.cmdOkCall.Click, callFlow_, &CallFlow::cmdOkCall_Click);
     join(call.Timer1.TimerEvent, callFlow_, &CallFlow::Timer1_Timer);
+
+    join(detail.cmdSend.Click, mail_, &Mail::cmdSend_Click);
 
     join(detail.cmdIntro.Click, notes_, &Notes::cmdIntro_Click);
     join(detail.cmdNote.Click, notes_, &Notes::cmdNote_Click);

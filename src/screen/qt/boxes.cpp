@@ -146,9 +146,6 @@ std::optional<SaveChoice> QtDialogs::ShowSave(const std::string& filter)
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilters(pairs.nameFilters());
-    dialog.setDefaultSuffix(pairs.suffix(1));
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
-                     [&](const QString& chosen) { dialog.setDefaultSuffix(pairs.suffix(pairs.number(chosen))); });
     speakSpanish(dialog);
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString path = dialog.selectedFiles().constFirst();

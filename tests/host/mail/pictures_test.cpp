@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A picture of each mail window with something in it, in the folder "pantallas" below the working folder, for
+// whoever wants to look at them. That each one shows every text in full is asserted here.
+
+#include "host/mail/attachments_field.h"
+#include "tests/host/mail/mails.h"
+
+#include <QDir>
+#include <QListWidget>
+#include <QTest>
+
+namespace dn::host::tests {
+namespace {
+
+class MailPictures : public Mails {
+protected:
+    static void takes(QWidget& window, const char* suffix = "")
+    {
+        QDir().mkpath("pantallas");
+        QTest::qWait(0);
+        const QString scale = window.devicePixelRatioF() > 1 ? "-2x" : "";
+        EXPECT_TRUE(window.grab().save("pantallas/" + window.objectName() + suffix + scale + ".png"));
+        for (const QPushButton* button : window.findChildren<QPushButton*>())
+            EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width())
+                << button->objectName().toStdString();
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            EXPECT_TRUE(!label->isVisible() || label->wordWrap() || label->width() >= label->sizeHint().width())
+                << label->objectName().toStdString();
+    }
+};
+
+TEST_F(MailPictures, of_each_window)
+{
+    folder.holds("Seguimiento.txt",
+                 "Asunto: Su cotización, {nombre}\n\nEstimada {nombre}:\n\nGracias por su interés. "
+                 "Adjunto la cotización que me pidió para {empresa}.\n\nQuedo a sus órdenes.\n\n"
+                 "{usuario}\n");
+    templates = folder.path().string();
+    settings.url = "smtp://correo.example.com";
+    const auto write = [this](QWidget& window) {
+        auto* const box = window.findChild<QComboBox*>("Plantilla");
+        QTest::keyClick(box, Qt::Key_Down);
+        auto& files =
+            static_cast<AttachmentsField&>(*window.findChild<QListWidget*>("lstAdjuntos")->parentWidget());
+        files.add(
+            QString::fromStdString(folder.holds("Cotización 2026-031.pdf", std::string(184'320, 'x')).string()));
+        files.add(
+            QString::fromStdString(folder.holds("Catálogo de silos.pdf", std::string(2'400'000, 'x')).string()));
+    };
+    EXPECT_FALSE(writes([&](QWidget& window) {
+        write(window);
+        takes(window);
+        expectQuestion("", "Descartar");
+        QTest::keyClick(&window, Qt::Key_Escape);
+    }));
+    settings.url.clear();
+    settings.outbox = "/home/ana/.local/share/dncontacts/bandeja-de-salida";
+    settings.warnings = {
+        "Otros usuarios pueden leer la clave del correo en «/home/ana/.config/dncontacts/mail.ini». "
+        "Ciérrelo con: chmod 600 /home/ana/.config/dncontacts/mail.ini"};
+    EXPECT_FALSE(writes([&](QWidget& window) {
+        types(window, "Para", "maria");
+        expectQuestion("no lleva asunto", "Escribir el asunto");
+        types(window, "Para", "maria@acme.example");
+        dn::tests::pressButton(window, "Guardar en la bandeja de salida");
+        types(window, "Para", "maria");
+        dn::tests::pressButton(window, "Guardar en la bandeja de salida");
+        takes(window, "-bandeja");
+        expectQuestion("", "Descartar");
+        QTest::keyClick(&window, Qt::Key_Escape);
+    }));
+}
+
+TEST_F(MailPictures, of_a_mail_on_its_way)
+{
+    const MailServer silent({"mute"});
+    settings.url = silent.url();
+    EXPECT_FALSE(writes([&](QWidget& window) {
+        types(window, "Asunto", "Su cotización");
+        types(window, "Estimada María:");
+        dn::tests::pressButton(window, "Enviar");
+        takes(window, "-enviando");
+        expectNotice("Se canceló");
+        dn::tests::pressButton(window, "Cancelar el envío");
+        waitUntilItCameBack(window);
+        expectQuestion("", "Descartar");
+        QTest::keyClick(&window, Qt::Key_Escape);
+    }));
+}
+
+TEST_F(MailPictures, of_the_history)
+{
+    server().execute(
+        "INSERT INTO correo_historial (identificador, tiempo, remitente, destinatarios, asunto, cuerpo, "
+        "usuario) SELECT 'CT.AAAA', '2026-03-01 09:30' + INTERVAL seq * 31 HOUR, 'ana@example.com', "
+        "IF(seq % 3, 'maria@acme.example', 'maria@acme.example; compras@acme.example'), "
+        "CONCAT('Seguimiento a su cotización, punto ', seq), 'Estimada María:\n\nGracias por su "
+        "llamada de hoy. Adjunto la lista de precios.\n\nSaludos,\nAna López\n\n[Archivo adjunto: "
+        "lista de precios.pdf, 180 KB]', 'Ana López' FROM seq_1_to_9");
+    operatorAt.expect("VerHistorial", [](QWidget& window) {
+        takes(window);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    mail()->VerHistorial(maria);
+}
+
+} // namespace
+} // namespace dn::host::tests
