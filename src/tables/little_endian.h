@@ -11,8 +11,7 @@ namespace dn::tables {
 
 inline void append16(std::string& bytes, std::uint32_t number)
 {
-    bytes += static_cast<char>(number & 0xFFU);
-    bytes += static_cast<char>(number >> 8U & 0xFFU);
+    bytes.append({static_cast<char>(number & 0xFFU), static_cast<char>(number >> 8U & 0xFFU)});
 }
 
 inline void append32(std::string& bytes, std::uint32_t number)

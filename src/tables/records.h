@@ -26,19 +26,21 @@ public:
     Records& u16(std::uint32_t number);
     Records& u32(std::uint32_t number);
     Records& bytes(std::string_view text);
+    /// UTF-16 units, of two bytes each when `wide`, else of one.
+    Records& units(std::u16string_view text, bool wide);
     /// Writes the record begun.
     void end();
 
     /// Bytes that still fit into the record begun.
-    std::size_t room() const { return largest - body_.size(); }
+    std::size_t room() const { return headBytes + largest - record_.size(); }
     /// Where the next record will stand, counted in bytes from the first one.
     std::uint32_t position() const { return static_cast<std::uint32_t>(file_.size()); }
 
 private:
+    static constexpr std::size_t headBytes = 4;
+
     CompoundFile& file_;
-    std::uint16_t kind_ = 0;
-    std::string body_;
-    std::string head_;
+    std::string record_; // kind and length, then the contents
 };
 
 } // namespace dn::tables

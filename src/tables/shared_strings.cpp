@@ -68,8 +68,8 @@ void SharedStrings::writeUnits()
     for (std::size_t next = 0; next < units_.size();) {
         std::size_t behind = std::min(units_.size(), next + records_.room() / width);
         if (behind > next && behind < units_.size() && isFirstHalf(units_[behind - 1])) --behind;
-        for (; next < behind; ++next)
-            wide_ ? records_.u16(units_[next]) : records_.u8(units_[next]);
+        records_.units(std::u16string_view(units_).substr(next, behind - next), wide_);
+        next = behind;
         if (next == units_.size()) return;
         goOn();
         records_.u8(wide_ ? 1 : 0);

@@ -22,7 +22,7 @@ def by_xlrd(path, bold_only=False):
                 if cell.ctype in (xlrd.XL_CELL_EMPTY, xlrd.XL_CELL_BLANK):
                     continue
                 assert cell.ctype == xlrd.XL_CELL_TEXT, (number, row, column, cell)
-                bold = book.font_list[book.xf_list[cell.xf_index].font_index].bold
+                bold = book.font_list[book.xf_list[cell.xf_index].font_index].weight >= 700
                 if bold or not bold_only:
                     yield number, row, column, cell.value
 
