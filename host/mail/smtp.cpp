@@ -98,6 +98,8 @@ std::string refusal(const MailSettings& settings, const Transfer& transfer)
     if (transfer.replied.empty() || (transfer.replied[0] != '4' && transfer.replied[0] != '5'))
         return lost("Se cortó la conexión con el servidor de correo «" + settings.host() + "».", transfer);
     if (transfer.read > 0) return withReply("El servidor de correo rechazó el mensaje.", transfer);
+    if (transfer.replied.rfind("552", 0) == 0)
+        return withReply("El mensaje es demasiado grande para el servidor de correo.", transfer);
     if (recipient.empty()) return withReply("El servidor de correo no acepta al remitente.", transfer);
     return withReply("El servidor de correo no acepta al destinatario «" + recipient + "»; no se envió a nadie.",
                      transfer);

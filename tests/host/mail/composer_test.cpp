@@ -6,7 +6,7 @@
 #include "host/mail/attachments_field.h"
 #include "tests/host/mail/mails.h"
 
-#include <QFileDialog>
+#include <QDialog>
 #include <QJsonArray>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -244,7 +244,7 @@ protected:
             auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
             ASSERT_NE(name, nullptr);
             name->setText(QString::fromStdString(file.string()));
-            static_cast<QFileDialog&>(dialog).done(QDialog::Accepted);
+            dynamic_cast<QDialog&>(dialog).done(QDialog::Accepted);
         });
         pressButton(window, "Adjuntar…");
     }
