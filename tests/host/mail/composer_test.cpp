@@ -159,7 +159,7 @@ TEST_F(Writing, without_a_subject_asks)
     EXPECT_TRUE(writes([this](QWidget& window) {
         expectQuestion("no lleva asunto", "Escribir el asunto");
         pressButton(window, keeps);
-        EXPECT_EQ(focus(), "Asunto");
+        EXPECT_EQ(window.focusWidget()->objectName(), "Asunto");
         expectQuestion("no lleva asunto", "Enviar sin asunto");
         pressButton(window, keeps);
     }));

@@ -71,7 +71,11 @@ void types(QWidget& window, const char* text)
     auto* const body = window.findChild<QPlainTextEdit*>("Texto");
     ASSERT_NE(body, nullptr);
     body->setFocus();
-    presses(*body, QString::fromUtf8(text));
+    const QStringList lines = QString::fromUtf8(text).split('\n');
+    for (const QString& line : lines) {
+        if (&line != &lines.front()) QTest::keyClick(body, Qt::Key_Return);
+        presses(*body, line);
+    }
 }
 
 void hits(int key, Qt::KeyboardModifiers modifiers)
