@@ -3,8 +3,8 @@
 
 // The benchmarks: one run on the same rows and the same server, in client CPU, each checking its own answer.
 //
-//     dn_bench [--check] [--only loading|projects|directory|memory|filling|growth|commands] [--rows N] [--rounds
-//     N]
+//     dn_bench [--check] [--only loading|projects|directory|memory|filling|growth|commands|export] [--rows N]
+//     [--rounds N]
 //              [--folder DIR]
 //
 // With --check the program ends with 1 and names the rows of the table that missed their bar.
@@ -12,6 +12,7 @@
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
 #include "bench/commands.h"
+#include "bench/export.h"
 #include "bench/measure.h"
 #include "bench/project_rows.h"
 #include "bench/report.h"
@@ -48,11 +49,12 @@ Options readOptions(const QApplication& application)
     const QCommandLineOption folder("folder", "Where the server keeps its rows between runs.", "folder",
                                     QDir::tempPath() + "/dn-bench");
     const QCommandLineOption only(
-        "only", "One benchmark: loading, projects, directory, memory, filling, growth or commands.", "benchmark");
+        "only", "One benchmark: loading, projects, directory, memory, filling, growth, commands or export.",
+        "benchmark");
     parser.addOptions({check, rows, rounds, folder, only});
     parser.process(application);
-    const QStringList benchmarks{"",       "loading", "projects", "directory",
-                                 "memory", "filling", "growth",   "commands"};
+    const QStringList benchmarks{"",        "loading", "projects", "directory", "memory",
+                                 "filling", "growth",  "commands", "export"};
     if (!benchmarks.contains(parser.value(only)))
         throw std::runtime_error("no such benchmark: " + parser.value(only).toStdString());
     const qulonglong count = parser.value(rows).toULongLong();
@@ -246,11 +248,9 @@ void benchGrowth(const Texts& texts, int rounds, Report& report)
     report.bar("selection by key, a hundred times the rows", large.select / small.select, 1.5, "times");
 }
 
-int run(const QApplication& application)
+void benchOnTheDatabase(const Options& options, Report& report)
 {
-    const Options options = readOptions(application);
     BenchDatabase database(options.folder, options.rows);
-    Report report;
     if (options.runs("loading")) benchLoading(database, options.rounds, report);
     if (options.runs("projects")) benchProjects(database, options.rounds, report);
     if (options.runs("directory")) benchDirectory(database, options.rounds, report);
@@ -264,6 +264,14 @@ int run(const QApplication& application)
     }
     if (options.runs("filling")) benchFilling(texts, options.rounds, report);
     if (options.runs("growth")) benchGrowth(texts, options.rounds, report);
+}
+
+int run(const QApplication& application)
+{
+    const Options options = readOptions(application);
+    Report report;
+    if (options.runs("export")) benchExport(options.rounds, report);
+    if (options.only != "export") benchOnTheDatabase(options, report);
     std::printf("%zu prospects, the middle of %d rounds\n\n%s", options.rows, options.rounds,
                 report.table().c_str());
     if (!options.check) return 0;

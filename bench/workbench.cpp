@@ -28,6 +28,7 @@ void Workbench::open(BenchDatabase& database)
     control.SetObjects(&database.connection(), database.agent(), false, "bench");
     control.RefreshData();
     control.elements().top.lblItem(tab_).click();
+    view_->viewport()->update(); // the rows may have been painted in the yield of their own load
     counter_->awaitPaint();
 }
 
@@ -39,6 +40,7 @@ Cost Workbench::load()
             elements.projects.cbProjStatusProj.pick(0);
         else
             elements.top.lblItem(tab_).click();
+        view_->viewport()->update(); // as above
         awaitRows();
     });
 }

@@ -4,25 +4,45 @@
 #include "host/dialler.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 
 namespace dn::host {
 
-// Ends at the first character that no number has within itself: "961 12-34 / 55 10" is two numbers.
+namespace {
+
+constexpr qsizetype shortest = 5; ///< digits; fewer are an extension, a count or the name of a field
+constexpr qsizetype local = 7;    ///< from here on a number may be whole
+constexpr qsizetype longest = 15; ///< no number of the world has more
+
+/// The first number of digits and what may stand between them. Where a second one follows, a dash with blanks
+/// around it keeps the two apart, or their length.
+QString firstOf(const QString& run)
+{
+    static const QRegularExpression group(QStringLiteral(R"(([ .()-]*)(\d+))"));
+    QString digits;
+    for (const QRegularExpressionMatch& next : group.globalMatch(run)) {
+        const bool dash = digits.size() >= local && next.capturedView(1).contains(QStringLiteral(" - "));
+        const bool tooMany = !digits.isEmpty() && digits.size() + next.capturedLength(2) > longest;
+        if (dash || tooMany) break;
+        digits += next.capturedView(2);
+    }
+    return digits;
+}
+
+} // namespace
+
+// Other characters part one number from the next: "961 12-34 / 55 10" is two.
 QString telephoneAddress(const std::string& text)
 {
-    QString number;
-    bool digits = false;
-    for (const QChar character : QString::fromStdString(text)) {
-        if (character >= u'0' && character <= u'9') {
-            number += character;
-            digits = true;
-        } else if (!digits) {
-            number = character == u'+' ? QStringLiteral("+") : QString(); // the sign belongs to what follows it
-        } else if (!QStringLiteral(" -.()").contains(character)) {
-            break;
-        }
+    static const QRegularExpression counted(QStringLiteral(R"(\p{L}\d{1,4}(?!\d))")); // "Tel1"
+    static const QRegularExpression run(QStringLiteral(R"(\+?\d+(?:[ .()-]+\d+)*)"));
+    const QString numbers = QString::fromStdString(text).replace(counted, QStringLiteral(";"));
+    for (const QRegularExpressionMatch& candidate : run.globalMatch(numbers)) {
+        const QString digits = firstOf(candidate.captured());
+        if (digits.size() < shortest) continue;
+        return (candidate.capturedView().startsWith(u'+') ? "tel:+" : "tel:") + digits;
     }
-    return digits ? "tel:" + number : QString();
+    return {};
 }
 
 bool dial(const std::string& text)

@@ -65,6 +65,8 @@ void MainWindow::addMenus()
     QAction* reload = file->addAction("&Actualizar");
     reload->setShortcut(QKeySequence::Refresh);
     connect(reload, &QAction::triggered, this, [this] { refresh(); });
+    connect(file->addAction("&Exportar listas de correo..."), &QAction::triggered, this,
+            [this] { control().ExportarListas(); });
     file->addSeparator();
     QAction* quit = file->addAction("&Salir");
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

@@ -13,9 +13,7 @@ using data::resumeNext;
 
 void CallDecision::Call_QueHacer() // continue-on-error
 {
-    Party party = Party::none;
-    resumeNext([&] { party = party_.find(); });
-    switch (party) {
+    switch (party_.find()) {
     case Party::none:
         return;
     case Party::prospect:

@@ -15,6 +15,7 @@ namespace {
 using data::resumeNext;
 
 constexpr int telephones = 5; // the sub-item "Teléfonos" of the prospects
+constexpr int contact = 6;    // the button "Contacto establecido"
 
 } // namespace
 
@@ -54,7 +55,8 @@ void CallFlow::showRinging() // continue-on-error
 
 void CallFlow::cmdCall_Click() // no trap
 {
-    switch (party_.find()) {
+    if (atWork()) return;
+    switch (partyInHand()) {
     case Party::none:
         return;
     case Party::prospect:
@@ -65,6 +67,13 @@ void CallFlow::cmdCall_Click() // no trap
         break;
     }
     if (elements_.call.cmdContesta.usable()) elements_.call.cmdContesta.SetFocus();
+}
+
+// On the tab "Hoy" this yields.
+Party CallFlow::partyInHand() // no trap
+{
+    const Turn::Hold hold(outcomes_.turn(), Turn::Work::other);
+    return party_.find();
 }
 
 void CallFlow::callProspect() // no trap
@@ -90,13 +99,28 @@ void CallFlow::callProject() // no trap
 
 void CallFlow::cmdContesta_Click() // continue-on-error
 {
+    if (atWork()) return;
     desk::CallElements& call = elements_.call;
     resumeNext([&] { call.picLlamando.Visible(false); });
     resumeNext([&] { call.picContacto.Visible(true); });
-    resumeNext([&] { call.cmdCallCon(0).SetFocus(); });
+    // Who presses the same key twice goes on to the summary, which stores nothing yet.
+    resumeNext([&] { call.cmdCallCon(contact).SetFocus(); });
 }
 
-void CallFlow::cmdOkCall_Click() { outcomes_.Call_Resumen(elements_.call.txtResCall.Text()); } // continue-on-error
+void CallFlow::nobodyReached(std::int16_t motivo) // continue-on-error
+{
+    if (!atWork()) outcomes_.Call_NoConnect(motivo);
+}
+
+void CallFlow::cmdCallCon_Click(std::int16_t Index) // continue-on-error
+{
+    if (!atWork()) outcomes_.Call_Connect(Index);
+}
+
+void CallFlow::cmdOkCall_Click() // continue-on-error
+{
+    if (!atWork()) outcomes_.Call_Resumen(elements_.call.txtResCall.Text());
+}
 
 void CallFlow::Timer1_Timer() // continue-on-error
 {

@@ -31,15 +31,16 @@ public:
     void IniciarLlamada(const std::string& Tabla, std::int32_t PK, const std::string& Tel);
 
     /// Calls the party in hand; without one it says so, or on the tab "Hoy" does nothing.
+    /// Like all buttons of a call it does nothing while a step of one has not returned.
     /// @throws RuntimeError for a row that holds no key or no telephone.
     void cmdCall_Click();
 
     void cmdContesta_Click();
-    void cmdOcupado_Click() { outcomes_.Call_NoConnect(1); }
-    void cmdNoContestan_Click() { outcomes_.Call_NoConnect(2); }
-    void cmdFueraServ_Click() { outcomes_.Call_NoConnect(3); }
-    void cmdCancelCall_Click() { outcomes_.Call_NoConnect(0); }
-    void cmdCallCon_Click(std::int16_t Index) { outcomes_.Call_Connect(Index); }
+    void cmdOcupado_Click() { nobodyReached(1); }
+    void cmdNoContestan_Click() { nobodyReached(2); }
+    void cmdFueraServ_Click() { nobodyReached(3); }
+    void cmdCancelCall_Click() { nobodyReached(0); }
+    void cmdCallCon_Click(std::int16_t Index);
     void cmdOkCall_Click();
 
     /// Moves the bar, round and round, whether a call is in progress or not.
@@ -49,6 +50,10 @@ public:
     screen::Signal<std::string, std::int32_t, std::string> started;
 
 private:
+    bool atWork() const { return outcomes_.turn().taken(); }
+
+    Party partyInHand();
+    void nobodyReached(std::int16_t motivo);
     void callProspect();
     void callProject();
     void lockLists();

@@ -51,6 +51,7 @@ void CallOutcomes::Call_Connect(std::int16_t R) // continue-on-error
         toSummary();
         return;
     }
+    const Turn::Hold hold(turn_, Turn::Work::ending);
     const std::string reason = reasonOf(R);
     note("Se estableció llamada al: " + session_.Call_Tel + " pero no se pudo contactar al prospecto. " +
          std::string(crlf) + "<" + reason + ">");
@@ -67,6 +68,7 @@ void CallOutcomes::toSummary() // continue-on-error
     desk::CallElements& call = elements_.call;
     resumeNext([&] { call.txtResCall.Text(""); });
     resumeNext([&] { call.picContacto.Visible(false); });
+    resumeNext([&] { call.picLlamando.Visible(false); }); // the host has no step between ringing and this
     resumeNext([&] { call.picResumen.Visible(true); });
     if (call.txtResCall.usable()) resumeNext([&] { call.txtResCall.SetFocus(); });
 }
@@ -85,6 +87,7 @@ std::string CallOutcomes::reasonOf(std::int16_t R) // continue-on-error
 
 void CallOutcomes::Call_Resumen(const std::string& S) // continue-on-error
 {
+    const Turn::Hold hold(turn_, Turn::Work::ending);
     resumeNext([&] { elements_.detail.cmdCall.Enabled(true); });
     note("Se estableció llamada al " + session_.Call_Tel + " Con éxito. Resumen: " + std::string(crlf) + S);
     // One form on both engines: SQL Server refuses it and keeps its values.
@@ -102,6 +105,7 @@ void CallOutcomes::Call_Resumen(const std::string& S) // continue-on-error
 
 void CallOutcomes::Call_NoConnect(std::int16_t motivo) // continue-on-error
 {
+    const Turn::Hold hold(turn_, Turn::Work::ending);
     toIdle();
     if (motivo != 0) {
         const std::string result(resultOf(motivo));
@@ -112,6 +116,7 @@ void CallOutcomes::Call_NoConnect(std::int16_t motivo) // continue-on-error
                     std::to_string(motivo) + " Where Sys_PK=" + std::to_string(session_.Call_PK));
         note("No se pudo establecer llamada al: " + session_.Call_Tel + " " + result);
     }
+    resumeNext([&] { ended.emit(); });
     resumeNext([&] { decision_.Call_QueHacer(); });
     resumeNext([&] { list_.Call_RefreshList(); });
 }
@@ -129,7 +134,6 @@ void CallOutcomes::toIdle() // continue-on-error
     resumeNext([&] { elements_.today.lvwHoy.Enabled(true); });
     resumeNext([&] { elements_.detail.cmdCall.Enabled(true); });
     if (wasHere) resumeNext([&] { list_.takeFocus(); });
-    resumeNext([&] { ended.emit(); });
 }
 
 void CallOutcomes::note(const std::string& text) // continue-on-error
@@ -145,9 +149,10 @@ void CallOutcomes::execute(const std::string& statement) // continue-on-error
 
 void CallOutcomes::lvw_DblClick() // continue-on-error
 {
-    if (session_.Call_Progress) return;
+    if (session_.Call_Progress || turn_.taken()) return;
     const auto row = elements_.prospects.lvw.SelectedItem();
     if (!row) return;
+    const Turn::Hold hold(turn_, Turn::Work::other);
     resumeNext([&] { session_.Call_PK = desk::keyNumber(*row); });
     resumeNext([&] { decision_.Call_QueHacer(); });
     resumeNext([&] { list_.Call_RefreshList(); });

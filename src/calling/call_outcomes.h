@@ -7,6 +7,7 @@
 
 #include "calling/call_decision.h"
 #include "calling/list_in_sight.h"
+#include "calling/turn.h"
 #include "desk/elements.h"
 #include "desk/session.h"
 #include "notes/notes.h"
@@ -44,7 +45,11 @@ public:
     /// Asks what happens next with the selected prospect, without a call; not during one.
     void lvw_DblClick();
 
-    /// A call has ended. Raised when the screen is back, ahead of the question.
+    /// Held by each ending, and by the question of a double click, until it has returned.
+    Turn& turn() { return turn_; }
+
+    /// A call has ended. Raised when the screen is back and the outcome of a call that reached nobody is written,
+    /// ahead of the question. The question and what is written behind it still go by the call in hand.
     screen::Signal<> ended;
 
 private:
@@ -60,6 +65,7 @@ private:
     CallDecision& decision_;
     ListInSight& list_;
     screen::Dialogs& dialogs_;
+    Turn turn_;
 };
 
 } // namespace dn::calling

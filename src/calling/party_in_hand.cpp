@@ -3,6 +3,8 @@
 
 #include "calling/party_in_hand.h"
 
+#include "data/failure_modes.h"
+
 namespace dn::calling {
 
 Party PartyInHand::find() // no trap
@@ -22,7 +24,7 @@ Party PartyInHand::ofTheDay() // no trap
     const auto row = elements_.today.lvwHoy.SelectedItem();
     if (!row) return Party::none;
     const Party party = row->Text() == today::prospectType ? Party::prospect : Party::project;
-    today_.lvwHoy_ItemClick(row);
+    data::resumeNext([&] { today_.lvwHoy_ItemClick(row); });
     return party;
 }
 

@@ -60,6 +60,7 @@ CallElements::CallElements(Container& control)
     LabelLlamando.FontBold(true);
     LabelLlamando.Move(0, 60, inner, 300);
     lbltel.FontBold(true);
+    lbltel.UseMnemonic(false);
     lbltel.Move(0, 420, inner, 300);
     PG.Move(0, 900, inner, 240);
     layOut(cmdContesta, "Llamada establecida", "call", 0, 1530, 3630);
@@ -83,14 +84,14 @@ CallElements::CallElements(Container& control)
     int number = 0;
     for (Button* command : {&cmdContesta, &cmdOcupado, &cmdNoContestan, &cmdFueraServ})
         command->Shortcut("Ctrl+" + std::to_string(++number));
-    cmdCancelCall.Shortcut("Esc");
+    cmdCancelCall.Shortcut("Esc", picLlamada); // who writes a note meanwhile cancels no call
     for (int i = 0; i < cmdCallCon.Count(); ++i)
-        cmdCallCon(i).Shortcut("Ctrl+" + std::to_string(i + 1));
+        cmdCallCon(i).Shortcut("Alt+" + std::to_string(i + 1)); // no key that has just answered the line
     cmdOkCall.Shortcut("F8");
 
     PG.Range(0, 100);
     Timer1.Interval(25);
-    Timer1.Moves(PG);
+    Timer1.Moves(PG, 101); // from 0 to 100
 }
 
 } // namespace dn::desk

@@ -13,6 +13,8 @@ using screen::Twips;
 
 constexpr Twips labelDrop =
     (Metrics::rowHeight - Metrics::labelHeight) / 2; // centres it beside a field of one row
+constexpr Twips aboveHeading = 60;
+constexpr Twips belowHeading = 60;
 constexpr Twips aboveButtons = 60; // they stand off from the fields by this much more than a field from the next
 
 /// The label's name is its field's with another prefix: "lblNombre" for "txtNombre".
@@ -41,14 +43,32 @@ void FieldGrid::tall(const char* label, screen::Element& field, Twips height)
     below_ = true;
 }
 
-void FieldGrid::buttons(screen::Button& accept, screen::Button& cancel)
+void FieldGrid::heading(screen::Label& heading)
+{
+    heading.FontBold(true);
+    const Share ofHeight = below_ ? Share::moves : Share::none;
+    place({&heading, fieldLeft(), top_ + aboveHeading, fieldWidth_, Metrics::labelHeight, Share::grows, ofHeight});
+    top_ += aboveHeading + Metrics::labelHeight + belowHeading;
+}
+
+void FieldGrid::pair(screen::Element& field, screen::Element& behind, Twips width)
+{
+    const Share ofHeight = below_ ? Share::moves : Share::none;
+    const Twips left = fieldLeft() + fieldWidth_ - width;
+    place({&field, fieldLeft(), top_, left - Metrics::gap - fieldLeft(), Metrics::rowHeight, Share::grows,
+           ofHeight});
+    place({&behind, left, top_, width, Metrics::rowHeight, Share::moves, ofHeight});
+    top_ += Metrics::rowHeight + Metrics::gap;
+}
+
+void FieldGrid::buttons(screen::Button& accept, screen::Button& cancel, Twips width)
 {
     const Share ofHeight = below_ ? Share::moves : Share::none;
     top_ += aboveButtons;
-    Twips left = formWidth() - Metrics::margin - 2 * Metrics::buttonWidth - Metrics::gap;
+    Twips left = formWidth() - Metrics::margin - 2 * width - Metrics::gap;
     for (screen::Button* button : {&accept, &cancel}) {
-        place({button, left, top_, Metrics::buttonWidth, Metrics::buttonHeight, Share::moves, ofHeight});
-        left += Metrics::buttonWidth + Metrics::gap;
+        place({button, left, top_, width, Metrics::buttonHeight, Share::moves, ofHeight});
+        left += width + Metrics::gap;
     }
     accept.Default(true);
     cancel.Cancel(true);

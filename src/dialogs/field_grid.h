@@ -26,8 +26,12 @@ public:
     void field(const char* label, screen::Element& field);
     /// A field of several rows.
     void tall(const char* label, screen::Element& field, screen::Twips height);
+    /// A line of text over the fields that follow.
+    void heading(screen::Label& heading);
+    /// A field with another behind it. @param width of the one behind.
+    void pair(screen::Element& field, screen::Element& behind, screen::Twips width);
     /// The row of buttons. @param accept pressed by Enter. @param cancel pressed by Escape.
-    void buttons(screen::Button& accept, screen::Button& cancel);
+    void buttons(screen::Button& accept, screen::Button& cancel, screen::Twips width = Metrics::buttonWidth);
     /// The same with a further button ahead of them, which stands apart at the left.
     void buttons(screen::Button& further, screen::Twips width, screen::Button& accept, screen::Button& cancel);
 

@@ -9,6 +9,6 @@
 namespace dn::directories {
 
 /// Lays out the columns of `lvwOrganizaciones` and `lvwContactos`; their only writer.
-void InitDirectoryColumns(desk::OrganisationElements& organisations, desk::PersonElements& persons);
+void InitDirectoryColumns(desk::OrganisationElements& organisationElements, desk::PersonElements& personElements);
 
 } // namespace dn::directories

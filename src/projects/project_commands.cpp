@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "data/failure_modes.h"
 #include "desk/row_key.h"
+#include "dialogs/dlg_tools.h"
 
 #include <any>
 #include <memory>
@@ -39,7 +40,7 @@ void ProjectCommands::cmdNewProjEditProj_Click() // continue-on-error
 {
     const auto selected = projects_.lvwProy.SelectedItem();
     if (!selected) {
-        resumeNext([&] { dialogs_.say("Debe seleccionar un elemento de la lista"); });
+        resumeNext([&] { ports_.dialogs.say("Debe seleccionar un elemento de la lista"); });
         return;
     }
     std::int32_t key = 0;
@@ -106,6 +107,26 @@ void ProjectCommands::cmdProjNewOrg_Click() // continue-on-error
         HostObject none;
         std::any result;
         present(session_.oUICRM)->NuevaOrganizacion(none, agente, result);
+    });
+}
+
+void ProjectCommands::cmdNewProjTool_Click() // continue-on-error
+{
+    resumeNext([&] {
+        dialogs::dlgTools tool(ports_);
+        tool.Motor = session_.MotorBD;
+        tool.Cnn = session_.AdoCnn;
+        tool.Show();
+    });
+}
+
+void ProjectCommands::ExportarListas() // continue-on-error
+{
+    resumeNext([&] {
+        dialogs::dlgTools tool(ports_);
+        tool.Motor = session_.MotorBD;
+        tool.Cnn = session_.AdoCnn;
+        tool.ShowExportFiltro();
     });
 }
 

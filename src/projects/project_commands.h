@@ -19,8 +19,8 @@ namespace dn::projects {
 class ProjectCommands {
 public:
     ProjectCommands(desk::Session& session, desk::ProjectElements& projects, desk::TopElements& top,
-                    ProjectList& list, desk::HostScreens& screens, screen::Dialogs& dialogs)
-        : session_(session), projects_(projects), top_(top), list_(list), screens_(screens), dialogs_(dialogs)
+                    ProjectList& list, desk::HostScreens& screens, screen::Ports ports)
+        : session_(session), projects_(projects), top_(top), list_(list), screens_(screens), ports_(ports)
     {
     }
 
@@ -44,6 +44,12 @@ public:
     /// The same for a new organisation, with failures passed over.
     void cmdProjNewOrg_Click();
 
+    /// Opens the tool that hands groups of projects over. The list is not loaded anew.
+    void cmdNewProjTool_Click();
+
+    /// Opens the export of the mail lists, which that tool holds.
+    void ExportarListas();
+
 private:
     void SelProyecto(std::int32_t PK, bool& result);
     void open(const std::string& found);
@@ -53,7 +59,7 @@ private:
     desk::TopElements& top_;
     ProjectList& list_;
     desk::HostScreens& screens_;
-    screen::Dialogs& dialogs_;
+    screen::Ports ports_;
 };
 
 } // namespace dn::projects

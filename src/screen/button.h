@@ -46,6 +46,16 @@ public:
 
     void Shortcut(std::string key) { set(shortcut_, std::move(key)); }
 
+    /// A key that counts only while the focus lies within a container.
+    void Shortcut(std::string key, const Container& reach)
+    {
+        reach_ = &reach;
+        Shortcut(std::move(key));
+    }
+
+    /// Where the key counts; nothing for the whole screen.
+    const Container* shortcutReach() const { return reach_; }
+
     /// The operator presses it.
     void press()
     {
@@ -58,6 +68,7 @@ private:
     std::string caption_;
     std::string picture_;
     std::string shortcut_;
+    const Container* reach_ = nullptr;
     std::optional<Colour> backColor_;
     bool default_ = false;
     bool cancel_ = false;

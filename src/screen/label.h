@@ -19,10 +19,16 @@ public:
 
     void accept(ElementVisitor& visitor) override { visitor.visit(*this); }
 
-    /// An ampersand marks the key that gives the focus to the next element in tab order.
+    /// An ampersand marks the key that gives the focus to the next element in tab order, unless the label has no
+    /// such key.
     const std::string& Caption() const { return caption_; }
 
     void Caption(std::string caption) { set(caption_, std::move(caption)); }
+
+    /// Whether an ampersand marks a key; a label that shows data has none, and shows it.
+    bool UseMnemonic() const { return useMnemonic_; }
+
+    void UseMnemonic(bool use) { set(useMnemonic_, use); }
 
     /// Nothing until a colour is set: the label is then transparent.
     std::optional<Colour> BackColor() const { return backColor_; }
@@ -64,6 +70,7 @@ private:
     std::optional<Colour> backColor_;
     int borderStyle_ = 0;
     TextAlignment alignment_ = TextAlignment::left;
+    bool useMnemonic_ = true;
     bool bold_ = false;
     bool autoSize_ = false;
     bool handPointer_ = false;

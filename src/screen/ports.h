@@ -32,7 +32,7 @@ enum class Answer : std::uint8_t { ok, yes, no };
 
 /// The result of a save-file dialog.
 struct SaveChoice {
-    std::string path;
+    std::string path;    ///< as typed, no extension added
     int filterIndex = 1; ///< which pair of the filter was chosen, counted from 1
 };
 

@@ -20,11 +20,18 @@ public:
     void Interval(int milliseconds) { set(interval_, milliseconds); }
 
     /// The element that the ticks move, where they do nothing else. While that one does not show, the ticks may
-    /// come late and several together, so that nobody wakes up for what nobody sees.
-    const Element* Moves() const { return moves_; }
+    /// stay away and come together when it shows again, so that nobody wakes up for what nobody sees.
+    Element* Moves() const { return moves_; }
 
-    /// @param element outlives the timer.
-    void Moves(const Element& element) { set<const Element*>(moves_, &element); }
+    /// How many ticks bring that element back to where it was.
+    int Round() const { return round_; }
+
+    /// @param element outlives the timer. @param round at least 1.
+    void Moves(Element& element, int round)
+    {
+        round_ = round;
+        set<Element*>(moves_, &element);
+    }
 
     /// The interval has passed.
     void tick()
@@ -36,7 +43,8 @@ public:
 
 private:
     int interval_ = 0;
-    const Element* moves_ = nullptr;
+    int round_ = 1;
+    Element* moves_ = nullptr;
 };
 
 } // namespace dn::screen

@@ -21,7 +21,7 @@ ctrDnContacts::ctrDnContacts(screen::Ports ports)
       phoneChoice_(session_),
       projectDetail_(elements_.detail, elements_.top, tabStrip_, timeline_, phoneChoice_, prospectDetail_),
       projectList_(session_, elements_.projects, elements_.top, projectDetail_, counters_),
-      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports.dialogs),
+      projectCommands_(session_, elements_.projects, elements_.top, projectList_, hostScreens_, ports),
       todayPanel_(elements_, prospectDetail_, projectDetail_, *this),
       queue_(session_, elements_, tabStrip_, todayPanel_, counters_, ports.clock),
       todayCommands_(elements_.today, queue_, prospectEditing_, prospectConversion_, hostScreens_, ports.dialogs),

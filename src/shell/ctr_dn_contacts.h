@@ -6,7 +6,8 @@
 //
 // Order of the host's calls, which is binding: create the control, hand over the factory of the host's objects,
 // `SetObjects`, `InitUICRM`, `RefreshData`; from then on any of them again, at will. Everything runs on the host's
-// user-interface thread. Neither the control nor the connection may end while one of the control's windows is open.
+// user-interface thread. Neither the control nor the connection may end while one of the control's windows is
+// open.
 #pragma once
 
 #include "mail/mail.h"
@@ -150,6 +151,10 @@ public:
     /// Asks for an agent in a dialog. @return his key; 0 when none was chosen or anything failed.
     std::int32_t ShSelAgente() override { return agents_.ShSelAgente(); }
 
+    /// Opens the export of the mail lists of prospects and projects, for which the control has no button of its
+    /// own. Returns when the operator closes it; a failure of a statement goes where those of his own clicks go.
+    void ExportarListas() { projectCommands_.ExportarListas(); }
+
     /// Writes a mail to the party in hand, as the button "Correo" does.
     void cmdSend_Click() override { mail_.cmdSend_Click(); }
 
@@ -184,8 +189,13 @@ public:
     /// Raised when the screen shows it. What a listener throws is passed over.
     screen::Signal<std::string, std::int32_t, std::string>& callStarted() { return callFlow_.started; }
 
-    /// A call has ended, or the screen was told so. Raised ahead of the question what happens next.
+    /// A call has ended, or the screen was told so. Raised ahead of the question what happens next: the line can
+    /// be hung up, but the call in hand is still needed.
     screen::Signal<>& callEnded() { return callOutcomes_.ended; }
+
+    /// What the end of a call brought is over: question, late statement, list. Nothing reads the call in hand any
+    /// more, and another one may begin, unless the host has begun it already.
+    screen::Signal<>& callSettled() { return callOutcomes_.turn().settled; }
 
     // ---- For the screen layer and for tests
 

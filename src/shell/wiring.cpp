@@ -69,6 +69,7 @@ void ctrDnContacts::wire()
     join(projects.cmdProjSeekProj.Click, projectCommands_, &ProjectCommands::cmdProjSeekProj_Click);
     join(projects.cmdProjNewContact.Click, projectCommands_, &ProjectCommands::cmdProjNewContact_Click);
     join(projects.cmdProjNewOrg.Click, projectCommands_, &ProjectCommands::cmdProjNewOrg_Click);
+    join(projects.cmdNewProjTool.Click, projectCommands_, &ProjectCommands::cmdNewProjTool_Click);
 
     join(today.lvwHoy.ItemClick, todayPanel_, &TodayPanel::lvwHoy_ItemClick);
     join(today.lvwHoy.DblClick, todayCommands_, &TodayCommands::lvwHoy_DblClick);

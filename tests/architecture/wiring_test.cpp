@@ -61,7 +61,8 @@ std::vector<std::string> statementsOf(const std::string& text)
 bool joins(const std::string& statement, const Handler& handler)
 {
     const std::string element = handler.element == "UserControl" ? "control" : handler.element;
-    const std::regex event("\\b" + element + R"((\(\w+\))?\.)" + handler.event + "\\b");
+    const std::string signal = handler.event == "Timer" ? "TimerEvent" : handler.event; // Timer is the class
+    const std::regex event("\\b" + element + R"((\(\w+\))?\.)" + signal + "\\b");
     const std::regex name("\\b" + handler.name + "\\b");
     return std::regex_search(statement, event) && std::regex_search(statement, name);
 }

@@ -21,6 +21,7 @@ protected:
 
     void doubleClicks(std::size_t row = 0)
     {
+        lvw().clickRow(row);
         steps.clear();
         lvw().doubleClickRow(row);
         std::erase(steps, timeline);

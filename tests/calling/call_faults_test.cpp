@@ -5,6 +5,8 @@
 
 #include "tests/calling/call_fixture.h"
 
+#include <algorithm>
+
 namespace dn::tests {
 namespace {
 
@@ -91,6 +93,7 @@ TEST_F(CallFaults, a_refused_update_leaves_the_attempt_out_and_the_line_in)
     for (const Ending& ending : endings()) {
         ending();
         EXPECT_THAT(steps, Contains(testing::StartsWith("INSERT INTO xt_biticontact")));
+        EXPECT_THAT(steps, Contains(testing::StartsWith("UPDATE ut_icontact SET uf_ultimointento"))) << "tried";
         EXPECT_EQ(state(), CallState::idle);
     }
     EXPECT_THAT(ports.dialogs.boxes(), IsEmpty());
@@ -109,12 +112,33 @@ TEST_F(CallFaults, a_party_that_is_deleted_meanwhile_is_written_to_no_row_and_le
     for (const Ending& ending : endings()) {
         prospects({prospect(12, {{"uf_Telefono", text("1")}}), prospect(13)});
         openProspects();
+        lvw().clickRow(0);
         const auto goes = control.callStarted().connect(
             [this](const std::string&, std::int32_t, const std::string&) { prospects({prospect(13)}); });
         ending();
         EXPECT_EQ(state(), CallState::idle);
+        for (const std::string& step : steps)
+            if (step.rfind("UPDATE", 0) == 0)
+                EXPECT_THAT(step, testing::ContainsRegex("Where Sys_PK ?= ?12")) << "and not who is selected now";
+        EXPECT_THAT(steps, Contains(testing::StartsWith("UPDATE")));
+        EXPECT_THAT(steps, Contains(testing::EndsWith("'ana',12)")));
         EXPECT_THAT(keys(lvw()), testing::ElementsAre("K13"));
         EXPECT_EQ(lvw().SelectedItem()->Key(), "K13");
+    }
+}
+
+TEST_F(CallFaults, a_connection_that_dies_during_the_question_brings_it_back_until_it_is_closed)
+{
+    for (const Ending& ending : endings()) {
+        cnn.setState(data::Connection::open);
+        openProspects();
+        const auto dies = control.callEnded().connect([this] { cnn.setState(data::Connection::closed); });
+        decides(4);
+        ports.dialogs.expectInput("Motivo del cambio de estado:", "x");
+        ports.dialogs.expectBox("La conexión con la base de datos está cerrada");
+        ending(); // closes it the second time
+        EXPECT_EQ(state(), CallState::idle);
+        EXPECT_EQ(std::count(steps.begin(), steps.end(), question), 2);
     }
 }
 

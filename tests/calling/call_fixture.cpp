@@ -47,7 +47,8 @@ CallState CallTest::state()
     const bool answered = call().picContacto.shown();
     const bool summary = call().picResumen.shown();
     if (!call().picLlamada.Visible())
-        return locked(false) && call().lbltel.Caption().empty() ? CallState::idle : CallState::torn;
+        return locked(false) && call().lbltel.Caption().empty() && !call().picLlamando.Visible() ? CallState::idle
+                                                                                                 : CallState::torn;
     if (!locked(true) || call().lbltel.Caption().empty() || ringing + answered + summary != 1)
         return CallState::torn;
     if (ringing) return CallState::ringing;

@@ -5,6 +5,8 @@
 
 #include "tests/calling/call_fixture.h"
 
+#include <algorithm>
+
 namespace dn::tests {
 namespace {
 
@@ -72,7 +74,7 @@ TEST_F(CallStart, takes_the_keyboard_along_and_brings_it_back)
     detail().cmdCall.press();
     EXPECT_TRUE(call().cmdContesta.hasFocus());
     call().cmdContesta.press();
-    EXPECT_TRUE(call().cmdCallCon(0).hasFocus());
+    EXPECT_TRUE(call().cmdCallCon(6).hasFocus()) << "which stores nothing yet";
     call().cmdCallCon(6).press();
     EXPECT_TRUE(call().txtResCall.hasFocus());
     ports.events.expectModal("dlgQueH", [&](screen::Form& form) {
@@ -96,23 +98,45 @@ TEST_F(CallStart, by_the_host_leaves_who_writes_a_note_at_his_note)
     EXPECT_TRUE(call().cmdContesta.hasFocus()) << "the list is locked";
 }
 
+/// The keys of all buttons that the operator can reach.
+void collectKeys(const screen::Container& container, std::vector<std::string>& keys)
+{
+    for (const screen::Element* child : container.children()) {
+        if (const auto* button = dynamic_cast<const screen::Button*>(child);
+            button != nullptr && button->usable() && !button->Shortcut().empty())
+            keys.push_back(button->Shortcut());
+        if (const auto* inner = dynamic_cast<const screen::Container*>(child)) collectKeys(*inner, keys);
+    }
+}
+
 TEST_F(CallStart, gives_each_command_a_key_that_no_other_has_at_the_same_time)
 {
-    const auto keys = [](std::initializer_list<const screen::Button*> buttons) {
+    const auto keys = [this] {
         std::vector<std::string> result;
-        for (const screen::Button* button : buttons)
-            result.push_back(button->Shortcut());
+        collectKeys(elements().control, result);
+        std::sort(result.begin(), result.end());
         return result;
     };
-    const auto always =
-        keys({&detail().cmdCall, &detail().cmdNote, &detail().cmdSend, &detail().cmdEditC, &detail().cmdIntro});
-    EXPECT_THAT(always, testing::ElementsAre("F8", "F6", "F7", "F2", "F9"));
-    EXPECT_THAT(keys({&call().cmdContesta, &call().cmdOcupado, &call().cmdNoContestan, &call().cmdFueraServ,
-                      &call().cmdCancelCall}),
-                testing::ElementsAre("Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4", "Esc"));
-    for (int i = 0; i < call().cmdCallCon.Count(); ++i)
-        EXPECT_EQ(call().cmdCallCon(i).Shortcut(), "Ctrl+" + std::to_string(i + 1));
-    EXPECT_EQ(call().cmdOkCall.Shortcut(), detail().cmdCall.Shortcut()) << "which is locked during a call";
+    using testing::IsSupersetOf;
+    const auto alone = [](const std::vector<std::string>& sorted) {
+        return std::adjacent_find(sorted.begin(), sorted.end()) == sorted.end();
+    };
+    EXPECT_THAT(keys(), IsSupersetOf({"F8", "F6", "F7", "F2", "F9"}));
+    EXPECT_TRUE(alone(keys()));
+    const std::vector<std::string> ringing{"Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4", "Esc"};
+    rings();
+    EXPECT_THAT(keys(), IsSupersetOf(ringing));
+    EXPECT_TRUE(alone(keys()));
+    EXPECT_EQ(call().cmdCancelCall.shortcutReach(), &call().picLlamada) << "not from a note";
+    EXPECT_EQ(call().cmdContesta.shortcutReach(), nullptr);
+    call().cmdContesta.press();
+    EXPECT_THAT(keys(), IsSupersetOf({"Alt+1", "Alt+2", "Alt+3", "Alt+4", "Alt+5", "Alt+6", "Alt+7"}));
+    EXPECT_TRUE(alone(keys()));
+    for (const std::string& key : ringing)
+        EXPECT_THAT(keys(), testing::Not(testing::Contains(key))) << "pressed twice it would answer for him";
+    call().cmdCallCon(6).press();
+    EXPECT_THAT(keys(), testing::Contains("F8"));
+    EXPECT_TRUE(alone(keys()));
 }
 
 } // namespace

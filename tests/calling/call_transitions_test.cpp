@@ -136,6 +136,34 @@ TEST_P(CallEndings, leads_back_to_where_no_call_is)
     EXPECT_EQ(control.Call_Tel(), "5512345678");
 }
 
+TEST_P(CallEndings, leads_there_also_when_the_connection_dies_at_any_statement)
+{
+    const auto& [ending, byHost] = GetParam();
+    const std::size_t statements = ending.written.size() + 2 + ending.afterwards.size() + 2;
+    for (std::size_t n = 1; n <= statements; ++n) {
+        cnn.beforeExecute(nullptr);
+        cnn.setState(data::Connection::open);
+        detail().txtText.Text("");
+        openProspects();
+        enters(ending.from);
+        if (ending.asked != nullptr) ports.dialogs.expectInput("Motivo para no comunicarme:", ending.asked);
+        std::size_t count = 0;
+        cnn.beforeExecute([&](std::string_view statement) {
+            if (++count == n) cnn.setState(data::Connection::closed);
+            if (count >= n && statement.rfind("INSERT", 0) == 0) // the note tells of it
+                ports.dialogs.expectBox("La conexión con la base de datos está cerrada");
+        });
+        closesTheQuestion();
+        if (byHost)
+            ending.byHost(control);
+        else
+            ending.byButton(call());
+        EXPECT_EQ(state(), CallState::idle) << n;
+        EXPECT_EQ(ports.pointer.MousePointer(), screen::Pointer::standard) << n;
+        EXPECT_GE(count, ending.written.size() + 1 + ending.afterwards.size()) << "each one has its turn";
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Calls, CallEndings, testing::Combine(testing::ValuesIn(endings()), testing::Bool()),
                          [](const auto& ending) {
                              return std::string(std::get<0>(ending.param).name) +
@@ -181,6 +209,21 @@ TEST_F(CallTransitions, the_right_person_leads_to_an_empty_summary)
         closesTheQuestion();
         control.Call_NoConnect(0);
     }
+}
+
+// The host has no step for an answered line.
+TEST_F(CallTransitions, the_host_goes_from_ringing_to_the_summary_which_shows_alone)
+{
+    rings();
+    control.Call_Connect(6);
+    EXPECT_EQ(state(), CallState::summary);
+    EXPECT_FALSE(call().picLlamando.Visible());
+    EXPECT_TRUE(call().txtResCall.hasFocus());
+    call().txtResCall.type("Pide precios");
+    call().cmdCancelCall.press(); // its key is Escape
+    EXPECT_EQ(state(), CallState::summary);
+    EXPECT_EQ(call().txtResCall.Text(), "Pide precios");
+    EXPECT_THAT(steps, IsEmpty());
 }
 
 TEST_F(CallTransitions, what_an_earlier_call_left_open_is_put_right_by_the_next_one)
@@ -328,6 +371,9 @@ TEST_F(CallTransitions, the_bar_goes_round_whether_somebody_calls_or_not)
     call().Timer1.tick();
     EXPECT_EQ(call().PG.Value(), 2);
     EXPECT_EQ(call().Timer1.Moves(), &call().PG);
+    for (int i = 0; i < call().Timer1.Round(); ++i)
+        call().Timer1.tick();
+    EXPECT_EQ(call().PG.Value(), 2) << "where it was";
 }
 
 } // namespace

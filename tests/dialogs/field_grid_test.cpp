@@ -67,6 +67,20 @@ TEST_F(FieldGrid, gives_the_key_tab_the_order_of_the_rows)
     EXPECT_EQ(cmdHistorial.Top(), cmdOk.Top());
 }
 
+TEST_F(FieldGrid, has_headings_and_pairs)
+{
+    screen::Label Label1(&form, "Label1");
+    grid.heading(Label1);
+    grid.pair(txtNombre, txtPie, 1200);
+    grid.buttons(cmdOk, cmdCancel, 1800);
+    EXPECT_TRUE(Label1.FontBold());
+    EXPECT_THAT(frameOf(Label1), ElementsAre(1800, 240, 4500, 255));
+    EXPECT_THAT(frameOf(txtNombre), ElementsAre(1800, 555, 3180, 345));
+    EXPECT_THAT(frameOf(txtPie), ElementsAre(5100, 555, 1200, 345));
+    EXPECT_EQ(cmdOk.Width(), 1800);
+    EXPECT_EQ(cmdCancel.Left() + cmdCancel.Width(), form.Width() - Metrics::margin);
+}
+
 TEST_F(FieldGrid, of_single_rows_keeps_its_size)
 {
     grid.field("Nombre:", txtNombre);

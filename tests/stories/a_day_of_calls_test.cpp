@@ -3,6 +3,7 @@
 
 // The operator calls through the queue of the day: every outcome that a call can have, until nobody is left in it.
 
+#include "screen/calendars.h"
 #include "tests/stories/day.h"
 #include "tests/support/element_tree.h"
 

@@ -91,6 +91,26 @@ TEST_F(CallingAProspect, a_second_contact_leaves_the_first_one_where_it_was)
     EXPECT_NE(stored("uf_ultimocontac"), "2026-01-05 10:00:00");
 }
 
+// As SQL Server does with the form of that statement.
+TEST_F(CallingAProspect, a_first_contact_that_the_server_refuses_leaves_the_last_one_stored)
+{
+    prospect("María", {{"uf_Telefono", "'1'"}});
+    enters(ana);
+    cnn->refuses = [](std::string_view statement) {
+        return statement.find("isnull(uf_contactado)") != std::string_view::npos;
+    };
+    for (const char* said : {"la primera vez", "otra vez"}) {
+        closesTheQuestion();
+        presses("cmdCall");
+        control.Call_Connect(6);
+        control.Call_Resumen(said);
+        EXPECT_EQ(stored("uf_contactado"), "NULL");
+        EXPECT_EQ(stored("uf_primercontac"), "NULL");
+        EXPECT_EQ(stored("uf_res_ultimointento"), "50");
+        EXPECT_NE(stored("uf_ultimocontac"), "NULL");
+    }
+}
+
 TEST_F(CallingAProspect, nobody_answers_and_the_attempt_is_seen_in_the_list)
 {
     prospect("María", {{"uf_Telefono", "'1'"}});
@@ -147,7 +167,10 @@ TEST_F(CallingAProspect, who_was_deleted_during_the_call_is_gone_afterwards)
     presses("cmdCall");
     database("DELETE FROM ut_icontact WHERE uf_Nombre = 'María'");
     closesTheQuestion();
+    changesSent();
     presses("cmdOcupado");
+    EXPECT_THAT(changesSent(), ElementsAre(StartsWith("UPDATE ut_icontact"), StartsWith("INSERT")));
+    EXPECT_THAT(inTheDatabase("SELECT uf_res_ultimointento FROM ut_icontact"), ElementsAre("NULL"));
     EXPECT_THAT(seesProspects(), ElementsAre("Otra"));
     EXPECT_TRUE(canUse("cmdCall"));
 }

@@ -61,7 +61,7 @@ protected:
     }
 };
 
-TEST_F(Rights, are_eighteen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(18)); }
+TEST_F(Rights, are_nineteen_grants) { EXPECT_THAT(documentedGrants(), SizeIs(19)); }
 
 TEST_F(Rights, suffice_for_calls)
 {
@@ -134,14 +134,33 @@ TEST_F(Rights, suffice_for_entering_correcting_and_assigning)
                 SizeIs(1));
 }
 
-TEST_F(Rights, suffice_for_the_queue_of_the_day_and_the_projects)
+TEST_F(Rights, suffice_for_the_mail_lists_and_the_group_tool)
+{
+    database("INSERT IGNORE INTO Ejecutivo (Sys_PK, Nombre) VALUES (7, 'Ana')");
+    prospect("María");
+    project("Nave");
+    entersAsAdministrator();
+    ports.events.expectModal("dlgFiltro", [&](screen::Form& form) {
+        EXPECT_GT(elementNamed<screen::ComboBox>(form, "dxEjecutivo.InnerList").ListCount(), 1);
+        EXPECT_GT(elementNamed<screen::ComboBox>(form, "dxMeta.InnerList").ListCount(), 1);
+        elementNamed<screen::CheckBox>(form, "chkContactos").toggle();
+        elementNamed<screen::CheckBox>(form, "chkProyectos").toggle();
+        ports.events.expectModal("dlgShow", [](screen::Form& lists) {
+            EXPECT_EQ(elementNamed<screen::Label>(lists, "lblTotal").Caption(), "Total de Registros: 2");
+            lists.closeWindow();
+        });
+        elementNamed<screen::Button>(form, "cmdExportar").press();
+        form.closeWindow();
+    });
+    control.ExportarListas();
+    cnn->execute(
+        "UPDATE Proyecto SET IEjecutivo = 9  WHERE  uf_Color<> 1  AND uf_Status1 = 1 AND IEjecutivo = 7 ");
+}
+
+TEST_F(Rights, suffice_for_the_queue_of_the_day)
 {
     prospect("María");
-    database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
-    database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
-    database("INSERT INTO Persona (Sys_PK, Nombre) VALUES (1, 'Luz')");
-    database(
-        "INSERT INTO Proyecto (IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) VALUES (7, 1, 1, 1, 1)");
+    project("Sin citas");
     enters(ana);
     opensTab(desk::hoy);
     EXPECT_EQ(sees("lblcuenta2"), "Hoy: 2 actividades | Proyectos: 1 Contactos: 1");

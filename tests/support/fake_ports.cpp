@@ -69,6 +69,7 @@ std::string FakeDialogs::InputBox(const std::string& prompt)
 
 std::optional<screen::SaveChoice> FakeDialogs::ShowSave(const std::string& filter)
 {
+    filters_.push_back(filter);
     const auto step = next<SaveStep>(filter);
     return step ? step->answer : std::nullopt;
 }

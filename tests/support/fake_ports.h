@@ -26,8 +26,8 @@ class FakeDialogs : public screen::Dialogs {
 public:
     ~FakeDialogs() override;
 
-    /// The next question will be a message box of this prompt, without an icon and a title of its own, and with the
-    /// buttons that the answer is one of.
+    /// The next question will be a message box of this prompt, without an icon and a title of its own, and with
+    /// the buttons that the answer is one of.
     void expectBox(std::string prompt, screen::Answer answer = screen::Answer::ok);
     /// The next question will be a message box, whose text and style are looked at afterwards.
     void expectAnyBox(screen::Answer answer = screen::Answer::ok);
@@ -40,6 +40,8 @@ public:
 
     /// Every message box that was shown, in order.
     const std::vector<screen::MessageBox>& boxes() const { return boxes_; }
+    /// The filter of every save dialog that was shown, in order.
+    const std::vector<std::string>& filters() const { return filters_; }
 
     screen::Answer MsgBox(const screen::MessageBox& box) override;
     std::string InputBox(const std::string& prompt) override;
@@ -63,6 +65,7 @@ private:
 
     std::deque<std::variant<BoxStep, InputStep, SaveStep>> script_;
     std::vector<screen::MessageBox> boxes_;
+    std::vector<std::string> filters_;
 };
 
 class FakePointer : public screen::Pointer {

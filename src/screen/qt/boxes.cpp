@@ -5,6 +5,7 @@
 
 #include "base/runtime_error.h"
 #include "screen/qt/file_filter.h"
+#include "screen/qt/held_keys.h"
 #include "screen/qt/ports.h"
 #include "screen/qt/text.h"
 #include "screen/qt/theme.h"
@@ -69,6 +70,7 @@ public:
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
         dress(*this);
+        ignoreHeldKeys(*this);
         edit_.setFocus();
     }
 
@@ -111,6 +113,7 @@ Answer QtDialogs::MsgBox(const MessageBox& box)
     dress(window);
     if (box.buttons == MessageBox::Buttons::ok) {
         addButton(window, labelled("Aceptar"), QMessageBox::AcceptRole, true);
+        ignoreHeldKeys(window);
         window.exec();
         return Answer::ok;
     }
@@ -118,6 +121,7 @@ Answer QtDialogs::MsgBox(const MessageBox& box)
         addButton(window, labelled("&Sí"), QMessageBox::YesRole, box.defaultButton == 1);
     QPushButton* const no = addButton(window, labelled("&No"), QMessageBox::NoRole, box.defaultButton == 2);
     window.setEscapeButton(no);
+    ignoreHeldKeys(window);
     window.exec();
     return window.clickedButton() == yes ? Answer::yes : Answer::no;
 }
@@ -142,9 +146,6 @@ std::optional<SaveChoice> QtDialogs::ShowSave(const std::string& filter)
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilters(pairs.nameFilters());
-    dialog.setDefaultSuffix(pairs.suffix(1));
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
-                     [&](const QString& chosen) { dialog.setDefaultSuffix(pairs.suffix(pairs.number(chosen))); });
     speakSpanish(dialog);
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString path = dialog.selectedFiles().constFirst();

@@ -12,7 +12,6 @@ FileFilter::FileFilter(std::string_view pairs)
     const QStringList parts = fromUtf8(pairs).split(u'|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         QString pattern = parts[i + 1];
-        patterns_ += pattern;
         filters_ += QStringLiteral("%1 (%2)").arg(parts[i], pattern.replace(u';', u' '));
     }
 }
@@ -21,14 +20,6 @@ int FileFilter::number(const QString& nameFilter) const
 {
     const qsizetype index = filters_.indexOf(nameFilter);
     return index < 0 ? 1 : static_cast<int>(index) + 1;
-}
-
-QString FileFilter::suffix(int number) const
-{
-    if (number < 1 || number > patterns_.size()) return {};
-    const QString first = patterns_[number - 1].section(u';', 0, 0);
-    const QString suffix = first.section(u'.', -1);
-    return suffix == first || suffix.contains(u'*') ? QString() : suffix;
 }
 
 } // namespace dn::screen::qt

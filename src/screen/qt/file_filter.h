@@ -20,12 +20,8 @@ public:
     /// The number of a name filter, counted from 1; 1 for one that is not there.
     int number(const QString& nameFilter) const;
 
-    /// What a file name without an extension gets for the filter of that number; empty for "*.*".
-    QString suffix(int number) const;
-
 private:
     QStringList filters_;
-    QStringList patterns_;
 };
 
 } // namespace dn::screen::qt

@@ -3,6 +3,7 @@
 
 #include "screen/qt/focus_keeper.h"
 
+#include "screen/label.h"
 #include "screen/qt/label_view.h"
 #include "screen/qt/text.h"
 
@@ -46,6 +47,13 @@ void nameIt(const View& view, const QString& labelAhead)
         widget.setAccessibleName(labelAhead.isEmpty() ? widget.objectName() : labelAhead);
 }
 
+/// Whether it belongs to what follows it: one that shows data stands for itself.
+bool labels(const Element& element)
+{
+    const auto* const label = dynamic_cast<const screen::Label*>(&element);
+    return label != nullptr && label->UseMnemonic();
+}
+
 QString spoken(const LabelView& label)
 {
     QString text = withoutMnemonic(toUtf8(label.text()));
@@ -81,7 +89,8 @@ FocusKeeper::FocusKeeper(QWidget& root, const std::vector<View>& views) : root_(
     for (const View& view : inTabOrder(views)) {
         elements_.insert(view.widget, view.element);
         wires_.push_back(view.element->ended.connect([this, widget = view.widget] { forget(widget); }));
-        if (auto* const next = dynamic_cast<LabelView*>(view.widget); next != nullptr) label = next;
+        if (auto* const next = dynamic_cast<LabelView*>(view.widget); next != nullptr && labels(*view.element))
+            label = next;
         if (!takesFocus(*view.widget)) continue;
         nameIt(view, label != nullptr ? spoken(*label) : QString());
         if (label != nullptr) label->stepTo(view.widget);

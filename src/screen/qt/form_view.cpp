@@ -6,6 +6,7 @@
 #include "screen/button.h"
 #include "screen/qt/focus_keeper.h"
 #include "screen/qt/geometry.h"
+#include "screen/qt/held_keys.h"
 #include "screen/qt/shortcuts.h"
 #include "screen/qt/text.h"
 #include "screen/qt/theme.h"
@@ -42,6 +43,7 @@ FormView::FormView(screen::Form& form, QWidget* parent, Guard& guard)
     focus_ = std::make_unique<FocusKeeper>(*this, views);
     shortcuts_ = std::make_unique<Shortcuts>(*this, views, guard);
     dress(*this);
+    ignoreHeldKeys(*this);
     wires_.push_back(form.changed.connect([this] { mirror(); }));
     wires_.push_back(form.ended.connect([this] {
         element_ = nullptr;

@@ -57,7 +57,8 @@ void LabelView::stepTo(QWidget* buddy)
 void LabelView::mirror(const screen::Label& label)
 {
     setBold(*this, label.FontBold());
-    setText(buddy() != nullptr ? fromUtf8(label.Caption()) : withoutMnemonic(label.Caption()));
+    const bool asItIs = buddy() != nullptr || !label.UseMnemonic();
+    setText(asItIs ? fromUtf8(label.Caption()) : withoutMnemonic(label.Caption()));
     setAlignment(horizontal(label.Alignment()) | Qt::AlignVCenter);
     setFrameShape(label.BorderStyle() != 0 ? QFrame::Box : QFrame::NoFrame);
     setAutoFillBackground(label.BackColor().has_value());

@@ -8,6 +8,8 @@
 #include "screen/qt/list_view_view.h"
 #include "screen/qt/text.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -88,6 +90,10 @@ void ListViewView::contextMenuEvent(QContextMenuEvent* event)
 void ListViewView::keyPressEvent(QKeyEvent* event)
 {
     model_->publish();
+    if (event->matches(QKeySequence::Copy)) {
+        copySelected();
+        return;
+    }
     if (handleKey(*event)) return;
     const QString text = event->text();
     if (!text.isEmpty() && text.front().isPrint() &&
@@ -95,6 +101,16 @@ void ListViewView::keyPressEvent(QKeyEvent* event)
         keyboardSearch(text);
     else
         event->ignore();
+}
+
+// The selected row as text, a tab between the cells, as a spreadsheet takes it.
+void ListViewView::copySelected() const
+{
+    if (!currentIndex().isValid()) return;
+    QStringList cells;
+    for (int column = 0; column < model_->columnCount(); ++column)
+        cells += currentIndex().siblingAtColumn(column).data().toString();
+    QGuiApplication::clipboard()->setText(cells.join(u'\t'));
 }
 
 bool ListViewView::handleKey(const QKeyEvent& event)

@@ -43,6 +43,7 @@ private:
     void setColumnWidths();
     void reveal(int row);
     void click(int row);
+    void copySelected() const;
     bool handleKey(const QKeyEvent& event);
     std::optional<int> target(int key) const;
     QString tipAt(const QModelIndex& index) const;

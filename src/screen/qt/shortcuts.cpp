@@ -8,25 +8,37 @@
 #include <algorithm>
 
 namespace dn::screen::qt {
+namespace {
+
+/// The widget within which a button's key counts.
+QWidget& reachOf(const screen::Button& button, QWidget& root, const std::vector<View>& views)
+{
+    const auto found = std::find_if(views.begin(), views.end(), [&](const View& view) {
+        return button.shortcutReach() != nullptr && view.element == button.shortcutReach();
+    });
+    return found != views.end() ? *found->widget : root;
+}
+
+} // namespace
 
 Shortcuts::Shortcuts(QWidget& root, const std::vector<View>& views, Guard& guard) : guard_(guard)
 {
     for (const View& view : views)
         if (auto* const button = dynamic_cast<screen::Button*>(view.element);
             button != nullptr && !button->Shortcut().empty())
-            bind(*button, root);
+            bind(*button, reachOf(*button, root, views));
     refresh();
 }
 
-void Shortcuts::bind(screen::Button& button, QWidget& root)
+void Shortcuts::bind(screen::Button& button, QWidget& reach)
 {
     const QKeySequence sequence(fromUtf8(button.Shortcut()), QKeySequence::PortableText);
-    Key& key = keys_.try_emplace(sequence, Key{nullptr, {}}).first->second;
+    Key& key = keys_.try_emplace({&reach, sequence}, Key{nullptr, {}}).first->second;
     if (key.shortcut == nullptr) {
-        key.shortcut = new QShortcut(sequence, &root);
+        key.shortcut = new QShortcut(sequence, &reach);
         key.shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         key.shortcut->setAutoRepeat(false); // a key that is held down does not run through a whole call
-        QObject::connect(key.shortcut, &QShortcut::activated, &root, [this, &key] { press(key); });
+        QObject::connect(key.shortcut, &QShortcut::activated, &reach, [this, &key] { press(key); });
     }
     key.buttons.push_back(&button);
     wires_.push_back(button.ended.connect([&key, &button] { std::erase(key.buttons, &button); }));
@@ -43,7 +55,7 @@ void Shortcuts::press(const Key& key)
 
 void Shortcuts::refresh()
 {
-    for (auto& [sequence, key] : keys_)
+    for (auto& [place, key] : keys_)
         key.shortcut->setEnabled(std::any_of(key.buttons.begin(), key.buttons.end(),
                                              [](const auto* button) { return button->usable(); }));
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The keys that press buttons from anywhere on a screen. A key is taken only while one of its buttons can be used,
-// and only while the focus lies on the screen: otherwise it is the host's.
+// and only while the focus lies on the screen, or in that part of it where it counts: otherwise it is the host's.
 #pragma once
 
 #include "screen/button.h"
@@ -13,6 +13,7 @@
 #include <QShortcut>
 
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace dn::screen::qt {
@@ -29,12 +30,12 @@ private:
         std::vector<screen::Button*> buttons;
     };
 
-    void bind(screen::Button& button, QWidget& root);
+    void bind(screen::Button& button, QWidget& reach);
     void press(const Key& key);
     void refresh();
 
     Guard& guard_;
-    std::map<QKeySequence, Key> keys_;
+    std::map<std::pair<QWidget*, QKeySequence>, Key> keys_; ///< by where they count, and what they are
     Subscriptions wires_;
 };
 

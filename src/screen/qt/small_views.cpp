@@ -49,58 +49,46 @@ TimerView::TimerView(screen::Timer& timer, QObject* parent, Guard& guard)
 void TimerView::watch()
 {
     sight_.clear();
-    // Listening to it changes nothing of it.
-    for (auto* step = const_cast<Element*>(element_->Moves()); step != nullptr; step = step->parent())
+    for (Element* step = element_->Moves(); step != nullptr; step = step->parent())
         sight_.push_back(step->changed.connect([this] { mirror(); }));
-}
-
-/// Milliseconds between two awakenings, 0 for none at all.
-int TimerView::pace() const
-{
-    constexpr int resting = 500;
-    if (!element_->Enabled() || element_->Interval() <= 0) return 0;
-    const bool seen = element_->Moves() == nullptr || element_->Moves()->shown();
-    return seen ? element_->Interval() : qMax(resting, element_->Interval());
 }
 
 void TimerView::mirror()
 {
     if (element_ == nullptr) return;
-    const int wanted = pace();
-    if (wanted == 0) {
+    if (!element_->Enabled() || element_->Interval() <= 0) {
+        timer_.stop();
+        since_.invalidate();
+        left_ = 0;
+        return;
+    }
+    if (!since_.isValid()) since_.start();
+    if (element_->Moves() != nullptr && !element_->Moves()->shown()) {
         timer_.stop();
         return;
     }
-    if (timer_.isActive() && timer_.interval() == wanted) return;
-    const bool resumes = timer_.isActive();
-    timer_.start(wanted);
-    if (resumes) // faster or slower: what was not made of the time until now
-        makeUp();
-    else
-        since_.start();
+    if (timer_.isActive() && timer_.interval() == element_->Interval()) return;
+    const bool rested = !timer_.isActive();
+    timer_.start(element_->Interval());
+    if (rested) makeUp();
 }
 
 // A timer of the toolkit is silent until its slot has returned, nested event loops included: starting it anew
 // makes it another timer, which is not.
 void TimerView::tick()
 {
-    const bool rests = timer_.interval() != element_->Interval();
     timer_.start(timer_.interval());
-    if (rests) {
-        makeUp();
-        return;
-    }
     since_.start();
     guard_.run([this] { element_->tick(); });
 }
 
-// A machine that slept does not make up for its sleep.
+// Whole rounds leave everything as it is.
 void TimerView::makeUp()
 {
-    constexpr qint64 longest = 10'000;
-    const qint64 due = qMin(since_.elapsed(), longest) / element_->Interval();
-    if (due == 0) return;
+    const qint64 owed = since_.elapsed() + left_;
+    left_ = owed % element_->Interval();
     since_.start();
+    const qint64 due = owed / element_->Interval() % element_->Round();
     guard_.run([&] {
         for (qint64 i = 0; i < due && element_ != nullptr; ++i)
             element_->tick();

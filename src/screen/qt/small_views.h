@@ -35,8 +35,8 @@ private:
     Bond<screen::Line> bond_;
 };
 
-/// Makes a timer element tick, also while a handler of one of its ticks sits in a nested event loop. Rests while
-/// the element that the ticks move does not show, and makes up for them twice a second.
+/// Makes a timer element tick, also while a handler of one of its ticks sits in a nested event loop. Stands still
+/// while the element that the ticks move does not show, and makes up for it when it does.
 class TimerView : public QObject {
 public:
     TimerView(screen::Timer& timer, QObject* parent, Guard& guard);
@@ -44,14 +44,14 @@ public:
 private:
     void mirror();
     void watch();
-    int pace() const;
     void tick();
     void makeUp();
 
     screen::Timer* element_;
     Guard& guard_;
     QTimer timer_;
-    QElapsedTimer since_; ///< the last tick that was made
+    QElapsedTimer since_; ///< the last tick that was made; invalid while the element is stopped
+    qint64 left_ = 0;     ///< milliseconds that were no whole tick when the last rest was made up for
     Subscriptions sight_; ///< whether the moved element shows: it and what lies around it
     Subscriptions wires_;
 };

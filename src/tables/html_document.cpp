@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tables/html_document.h"
+
+#include "tables/new_file.h"
+#include "tables/storable_text.h"
+
+#include "base/text.h"
+
+#include <string_view>
+
+namespace dn::tables {
+namespace {
+
+constexpr std::string_view head = R"(<!DOCTYPE html>
+<html xmlns="http://www.w3.org/1999/xhtml" lang="es">
+<head>
+<meta charset="utf-8" />
+<title>)";
+
+constexpr std::string_view style = R"(</title>
+<style>
+body { font-family: sans-serif; font-size: 10pt; }
+table { border-collapse: collapse; }
+th, td { border: 1px solid #999; padding: 2px 6px; text-align: left; vertical-align: top; white-space: pre-line; }
+th { background: #eee; }
+</style>
+</head>
+<body>
+<table>
+)";
+
+constexpr std::string_view foot = "</tbody>\n</table>\n</body>\n</html>\n";
+
+std::string_view entity(char byte)
+{
+    switch (byte) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return "&quot;";
+    case '\'':
+        return "&#39;";
+    default:
+        return {};
+    }
+}
+
+void appendEscaped(std::string& out, std::string_view text)
+{
+    while (!text.empty()) {
+        if (!isPlain(text.front())) {
+            appendCharacter(out, takeStorable(text));
+            continue;
+        }
+        const std::string_view escaped = entity(text.front());
+        if (escaped.empty())
+            out += text.front();
+        else
+            out += escaped;
+        text.remove_prefix(1);
+    }
+}
+
+std::string headRow(const Table& table)
+{
+    std::string row = "<thead>\n<tr>";
+    for (const Column& column : table.columns()) {
+        row += "<th scope=\"col\">";
+        appendEscaped(row, column.caption);
+        row += "</th>";
+    }
+    return row + "</tr>\n</thead>\n<tbody>\n";
+}
+
+} // namespace
+
+void writeHtml(const std::string& path, const std::string& title, const Table& table)
+{
+    NewFile file(path);
+    std::string out(head);
+    appendEscaped(out, title);
+    file.write(out.append(style).append(headRow(table)));
+    for (std::size_t row = 0; row < table.rows(); ++row) {
+        out = "<tr>";
+        for (std::size_t column = 0; column < table.columns().size(); ++column) {
+            out += "<td>";
+            appendEscaped(out, table.cell(row, column));
+            out += "</td>";
+        }
+        file.write(out += "</tr>\n");
+    }
+    file.write(foot);
+    file.keep();
+}
+
+} // namespace dn::tables

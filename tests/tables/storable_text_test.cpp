@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Texts as the files of other programs may hold them.
+
+#include "tables/storable_text.h"
+
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+namespace dn::tests {
+namespace {
+
+std::string stored(std::string_view text)
+{
+    std::string out;
+    while (!text.empty())
+        appendCharacter(out, tables::takeStorable(text));
+    return out;
+}
+
+TEST(StorableText, keeps_every_character_that_is_one)
+{
+    for (const char* text : {"José Ñúñez", "日本", "😀 y más", "a\tb\nc", "~!\"'<>&", "\xC2\xA0\xC2\xAD"})
+        EXPECT_EQ(stored(text), text);
+}
+
+TEST(StorableText, has_one_line_feed_for_every_line_end)
+{
+    EXPECT_EQ(stored("a\r\nb\rc\nd\r\n"), "a\nb\nc\nd\n");
+    EXPECT_EQ(stored("\r\r\n\n\r"), "\n\n\n\n");
+}
+
+TEST(StorableText, has_a_mark_for_whatever_is_no_character)
+{
+    for (const std::string& text :
+         {std::string(1, '\0'), std::string("\x01"), std::string("\x7F"), std::string("\xC2\x85"),
+          std::string("\xFF"), std::string("\xC3"), std::string("\xEF\xBF\xBF"), std::string("\xEF\xB7\x90")})
+        EXPECT_EQ(stored("a" + text + "b"), "a\xEF\xBF\xBD"
+                                            "b");
+}
+
+} // namespace
+} // namespace dn::tests

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A table as a binary workbook, as far as its bytes tell without a program that reads it.
+
+#include "tables/workbook.h"
+
+#include "base/runtime_error.h"
+#include "tests/support/table_files.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+
+namespace dn::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+constexpr std::size_t headerBytes = 512;
+
+std::uint32_t number16(const std::string& bytes, std::size_t at)
+{
+    return static_cast<unsigned char>(bytes[at]) + 256U * static_cast<unsigned char>(bytes[at + 1]);
+}
+
+std::uint32_t number32(const std::string& bytes, std::size_t at)
+{
+    return number16(bytes, at) + 65'536U * number16(bytes, at + 2);
+}
+
+class WorkbookFile : public testing::Test {
+protected:
+    std::string written(const tables::Table& table)
+    {
+        tables::writeWorkbook(path, "Correos", table);
+        return contentsOf(path);
+    }
+
+    /// How many records of each kind follow each other from the beginning, to the end of the last sheet.
+    static std::map<std::uint32_t, int> records(const std::string& file)
+    {
+        std::map<std::uint32_t, int> kinds;
+        for (std::size_t at = headerBytes; number16(file, at) != 0; at += 4 + number16(file, at + 2)) {
+            EXPECT_LE(number16(file, at + 2), 8224U);
+            ++kinds[number16(file, at)];
+        }
+        return kinds;
+    }
+
+    OutputFolder folder;
+    std::string path = folder.file("lista.xls");
+};
+
+TEST_F(WorkbookFile, holds_what_programs_insist_on)
+{
+    const std::string file =
+        written(MadeTable({{"Nombre", 200}, {"Correos", 150}}, {{"Ana", "a@x"}, {"", "b@x"}}));
+    EXPECT_THAT(file, StartsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"));
+    EXPECT_EQ(file.size() % 512, 0U);
+    std::map<std::uint32_t, int> kinds = records(file);
+    EXPECT_EQ(kinds[0x0031], 5) << "FONT";
+    EXPECT_EQ(kinds[0x00E0], 17) << "XF";
+    EXPECT_EQ(kinds[0x0293], 1) << "STYLE";
+    EXPECT_EQ(kinds[0x0085], 1) << "BOUNDSHEET";
+    EXPECT_EQ(kinds[0x00FC], 1) << "SST";
+    EXPECT_EQ(kinds[0x00FD], 5) << "LABELSST: an empty cell has none";
+    EXPECT_EQ(kinds[0x0809], 2) << "BOF";
+    EXPECT_EQ(kinds[0x000A], 2) << "EOF";
+}
+
+TEST_F(WorkbookFile, allocates_every_sector_once)
+{
+    for (const std::size_t rows : {0U, 1U, 127U, 5'000U, 40'000U}) { // the last takes more than the header's index
+        const std::string file = written(MadeTable({{"Nombre", 200}}, rows, [](std::size_t row, std::size_t) {
+            return std::to_string(row) + std::string(180, 'x');
+        }));
+        const std::uint32_t tables = number32(file, 44);
+        std::vector<std::uint32_t> places;
+        for (std::size_t i = 0; i < 109; ++i)
+            places.push_back(number32(file, 76 + 4 * i));
+        std::uint32_t list = number32(file, 68);
+        for (std::uint32_t i = 0; i < number32(file, 72); ++i, list = number32(file, 512 + list * 512 + 508))
+            for (std::size_t n = 0; n < 127; ++n)
+                places.push_back(number32(file, 512 + list * 512 + 4 * n));
+        places.erase(std::remove(places.begin(), places.end(), 0xFFFFFFFFU), places.end());
+        ASSERT_EQ(places.size(), tables);
+        std::vector<std::uint32_t> next;
+        for (const std::uint32_t place : places)
+            for (std::size_t n = 0; n < 128; ++n)
+                next.push_back(number32(file, 512 + place * 512 + 4 * n));
+        std::uint32_t sector = 0;
+        std::uint32_t length = 1;
+        for (; next[sector] != 0xFFFFFFFEU && length < next.size(); sector = next[sector])
+            ++length;
+        const std::uint32_t directory = number32(file, 48);
+        EXPECT_EQ(length * 512, (number32(file, 512 + directory * 512 + 128 + 120) + 511) / 512 * 512);
+        EXPECT_EQ(next[directory], 0xFFFFFFFEU);
+        EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFDU), static_cast<std::ptrdiff_t>(tables));
+        EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFFU),
+                  static_cast<std::ptrdiff_t>(next.size() - (file.size() / 512 - 1)));
+    }
+}
+
+TEST_F(WorkbookFile, goes_on_in_a_further_sheet_after_65535_rows)
+{
+    const auto sheets = [&](std::size_t rows) {
+        return records(
+            written(MadeTable({{"N", 50}}, rows, [](std::size_t, std::size_t) { return "x"; })))[0x0085];
+    };
+    EXPECT_THAT((std::vector{sheets(0), sheets(65'535), sheets(65'536)}), ElementsAre(1, 1, 2));
+}
+
+TEST_F(WorkbookFile, that_cannot_be_written_leaves_nothing_behind)
+{
+    const MadeTable table({{"Nombre", 200}}, 5'000,
+                          [](std::size_t, std::size_t) { return std::string(100, 'x'); });
+    const std::size_t whole = written(table).size();
+    std::filesystem::remove(path);
+    for (const std::size_t room : {std::size_t{0}, std::size_t{511}, whole / 2, whole - 1}) {
+        const FullDisk disk(room);
+        EXPECT_THROW(tables::writeWorkbook(path, "Correos", table), RuntimeError) << room;
+    }
+    EXPECT_THROW(tables::writeWorkbook(folder.file("no/existe.xls"), "Correos", table), RuntimeError);
+    EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+} // namespace
+} // namespace dn::tests
