@@ -40,7 +40,7 @@ TEST_F(Writing, sends_to_the_server_and_stores_the_mail_once)
 {
     MailServer& to = toAServer();
     EXPECT_TRUE(writes([](QWidget& window) {
-        EXPECT_EQ(window.windowTitle(), "Correo");
+        EXPECT_EQ(window.windowTitle(), "Correo: María Ñúñez");
         EXPECT_EQ(textIn(window, "De"), "Ana López <ana@example.com>");
         EXPECT_EQ(textIn(window, "Para"), "maria@acme.example");
         EXPECT_EQ(textIn(window, "lblAviso"), "");
