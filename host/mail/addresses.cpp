@@ -22,10 +22,13 @@ std::string stripped(std::string_view part)
     return std::string(part.substr(first, part.find_last_not_of(blanks) - first + 1));
 }
 
+// A name that holds another address or a line end is none: whoever pasted it must look at it.
 std::string withoutName(const std::string& part)
 {
     const std::size_t open = part.find('<');
     if (part.empty() || part.back() != '>' || open == std::string::npos) return part;
+    const std::string name = part.substr(0, open);
+    if (name.find('@') != std::string::npos || oneLine(name) != name) return part;
     return stripped(part.substr(open + 1, part.size() - open - 2));
 }
 

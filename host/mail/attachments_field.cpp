@@ -9,6 +9,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMimeDatabase>
 #include <QVBoxLayout>
@@ -80,7 +81,7 @@ void AttachmentsField::add(const QString& path)
     auto* const item = new QListWidgetItem(file.fileName() + "  (" + sizeOf(file.size()) + ")", list_);
     item->setData(pathRole, file.absoluteFilePath());
     item->setData(sizeRole, file.size());
-    list_->setCurrentItem(item);
+    list_->setCurrentItem(item, QItemSelectionModel::ClearAndSelect);
     showTotal();
 }
 

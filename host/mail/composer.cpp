@@ -16,12 +16,21 @@ namespace {
 
 constexpr int longestSubject = 250;
 constexpr int looksEvery = 50; // milliseconds
-constexpr int linesOfText = 12;
+constexpr int linesOfText = 6; // that stay in sight in the smallest window
+constexpr int widthInCharacters = 92;
+constexpr int heightInLines = 34;
 constexpr const char* nobody = "dncontacts@localhost"; // where no sender is set up, of a mail in the outbox
 
 std::string senderOf(const MailSettings& settings)
 {
     return wireAddress(settings.from.empty() ? nobody : settings.from);
+}
+
+QString titleOf(const Letter& letter)
+{
+    const auto name = letter.fields.find("nombre");
+    const bool known = name != letter.fields.end() && !name->second.empty();
+    return known ? "Correo: " + QString::fromStdString(name->second) : QString("Correo");
 }
 
 QString nameOf(const Letter& letter)
@@ -32,7 +41,7 @@ QString nameOf(const Letter& letter)
 } // namespace
 
 Composer::Composer(Letter letter, QWidget* over)
-    : Form("Enviar", "Correo", over),
+    : Form("Enviar", titleOf(letter), over),
       letter_(std::move(letter)),
       attachments_(new AttachmentsField(letter_.settings.limit, this))
 {
@@ -42,6 +51,7 @@ Composer::Composer(Letter letter, QWidget* over)
     showNotices();
     write(QString::fromStdString(filled(letter_.subject.toStdString(), letter_.fields)),
           QString::fromStdString(filled(letter_.body.toStdString(), letter_.fields)));
+    resize(fontMetrics().averageCharWidth() * widthInCharacters, fontMetrics().lineSpacing() * heightInLines);
     const bool known = !recipients_->text().trimmed().isEmpty();
     (known ? subject_ : recipients_)->setFocus();
     connect(&looks_, &QTimer::timeout, this, [this] { look(); });

@@ -12,7 +12,7 @@
 //     name      = Ana López                                   DNCONTACTS_SMTP_NAME
 //     tls       = yes                                         DNCONTACTS_SMTP_TLS
 //     ca        = /etc/ssl/empresa.pem                        DNCONTACTS_SMTP_CA
-//     timeout   = 30                                          DNCONTACTS_SMTP_TIMEOUT
+//     timeout   = 60                                          DNCONTACTS_SMTP_TIMEOUT
 //     limit     = 25                                          DNCONTACTS_SMTP_LIMIT
 //     templates = /srv/plantillas                             DNCONTACTS_MAIL_TEMPLATES
 //     outbox    = /home/ana/correo                            DNCONTACTS_MAIL_OUTBOX
@@ -34,7 +34,7 @@ struct MailSettings {
     std::string name; ///< the sender's name; empty: the name of who works
     bool tls = true;  ///< no mail goes out in the clear
     std::string ca;   ///< a file with certificates to trust; empty: those of the system
-    int timeout = 30; ///< seconds without an answer
+    int timeout = 60; ///< seconds without an answer
     int limit = 25;   ///< megabytes of attachments that a mail may carry
     std::filesystem::path templates;
     std::filesystem::path outbox;

@@ -30,7 +30,7 @@ struct Transfer {
     SendProgress& progress;
     std::size_t read = 0;
     std::string asked = {};   // the last command that names a recipient
-    std::string replied = {}; // the last line of the server
+    std::string replied = {}; // the last line of the server but for its farewell
 };
 
 std::size_t giveText(char* buffer, std::size_t size, std::size_t count, void* context)
@@ -44,8 +44,10 @@ std::size_t giveText(char* buffer, std::size_t size, std::size_t count, void* co
 
 std::size_t takeReply(char* line, std::size_t size, std::size_t count, void* context)
 {
-    static_cast<Transfer*>(context)->replied.assign(line, size * count);
-    return size * count;
+    const std::string_view reply(line, size * count);
+    // The farewell, which follows a refusal as well, says nothing.
+    if (reply.rfind("221", 0) != 0) static_cast<Transfer*>(context)->replied = reply;
+    return reply.size();
 }
 
 int showProgress(void* context, curl_off_t, curl_off_t, curl_off_t total, curl_off_t done)
@@ -98,6 +100,8 @@ std::string refusal(const MailSettings& settings, const Transfer& transfer)
     if (transfer.replied.empty() || (transfer.replied[0] != '4' && transfer.replied[0] != '5'))
         return lost("Se cortó la conexión con el servidor de correo «" + settings.host() + "».", transfer);
     if (transfer.read > 0) return withReply("El servidor de correo rechazó el mensaje.", transfer);
+    if (transfer.replied.rfind("552", 0) == 0)
+        return withReply("El mensaje es demasiado grande para el servidor de correo.", transfer);
     if (recipient.empty()) return withReply("El servidor de correo no acepta al remitente.", transfer);
     return withReply("El servidor de correo no acepta al destinatario «" + recipient + "»; no se envió a nadie.",
                      transfer);

@@ -193,6 +193,23 @@ TEST_F(Rights, suffice_for_the_directories)
     EXPECT_EQ(sees("lblinfoOrganizacion"), "Organizaciones: 1.");
 }
 
+TEST_F(Rights, suffice_for_mails)
+{
+    for (const char* table : {"Proyecto", "actividad", "Persona", "Organizacion", "xt_biticontact"})
+        database(std::string("DELETE FROM ") + table);
+    prospect("María");
+    database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
+    database("INSERT INTO Organizacion (Sys_PK, Nombre) VALUES (1, 'Aceros')");
+    database("INSERT INTO Persona (Sys_PK, Nombre, MSN) VALUES (1, 'Luz', 'luz@x.mx')");
+    database(
+        "INSERT INTO Proyecto (IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) VALUES (7, 1, 1, 1, 1)");
+    enters(ana);
+    presses("cmdSend");
+    opensTab(desk::proyectos);
+    presses("cmdSend");
+    EXPECT_THAT(inTheDatabase("SELECT uf_Mensaje FROM xt_biticontact"), SizeIs(2));
+}
+
 TEST_F(Rights, allow_nothing_else)
 {
     prospect("María");

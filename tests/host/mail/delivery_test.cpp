@@ -102,7 +102,7 @@ TEST_F(Delivery, of_a_mail_that_is_too_large_for_the_server_fails_ahead_of_it)
 {
     const MailServer server({"small"});
     message.attachments = {{"x", "application/pdf", std::string(2'000'000, 'x')}};
-    EXPECT_THAT(sendsTo(server), HasSubstr("552"));
+    EXPECT_THAT(sendsTo(server), AllOf(HasSubstr("demasiado grande"), HasSubstr("552")));
     EXPECT_EQ(server.count(), 0);
 }
 

@@ -64,13 +64,22 @@ std::string contentOf(const fs::path& file)
     return text.str();
 }
 
-QJsonObject parsed(const fs::path& mail)
+std::vector<QJsonObject> parsed(const std::vector<fs::path>& mails)
 {
     const Folder folder;
-    dn::tests::ChildProcess python({DN_PYTHON, script("read_mail.py"), mail.string()}, {}, folder.path() / "out");
+    std::vector<std::string> command{DN_PYTHON, script("read_mail.py")};
+    for (const fs::path& mail : mails)
+        command.push_back(mail.string());
+    dn::tests::ChildProcess python(command, {}, folder.path() / "out");
     if (python.wait() != 0) throw std::runtime_error(contentOf(folder.path() / "out"));
-    return jsonOf(folder.path() / "out");
+    std::vector<QJsonObject> result;
+    const QByteArray json = QByteArray::fromStdString(contentOf(folder.path() / "out"));
+    for (const QJsonValue& mail : QJsonDocument::fromJson(json).array())
+        result.push_back(mail.toObject());
+    return result;
 }
+
+QJsonObject parsed(const fs::path& mail) { return parsed(std::vector<fs::path>{mail}).at(0); }
 
 MailServer::MailServer(std::vector<std::string> moods)
 {

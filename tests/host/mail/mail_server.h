@@ -33,8 +33,9 @@ private:
 
 std::string contentOf(const std::filesystem::path& file);
 
-/// What an independent parser makes of a mail: see read_mail.py. @throws std::runtime_error when it cannot read
-/// it.
+/// What an independent parser makes of mails: see read_mail.py. @throws std::runtime_error when it cannot read
+/// one.
+std::vector<QJsonObject> parsed(const std::vector<std::filesystem::path>& mails);
 QJsonObject parsed(const std::filesystem::path& mail);
 
 class MailServer {

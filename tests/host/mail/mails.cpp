@@ -3,6 +3,8 @@
 
 #include "tests/host/mail/mails.h"
 
+#include "host/mail/mail_history.h"
+
 #include <QApplication>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -23,6 +25,13 @@ void Mails::SetUp()
     settings.from = "ana@example.com";
     settings.outbox = folder.path() / "bandeja";
     settings.tls = false;
+    std::shared_ptr<ScreenContext> shared;
+    factory.mailBy([&shared](const std::shared_ptr<ScreenContext>& context) {
+        shared = context;
+        return nullptr;
+    });
+    static_cast<void>(factory.newCorreoHost());
+    keepsMailHistory(shared->database); // opens the connection, so that tests count their own statements alone
     factory.mailBy([this](const std::shared_ptr<ScreenContext>& context) {
         return std::make_shared<Mailer>(context, [this] { return settings; });
     });
@@ -62,7 +71,11 @@ void types(QWidget& window, const char* text)
     auto* const body = window.findChild<QPlainTextEdit*>("Texto");
     ASSERT_NE(body, nullptr);
     body->setFocus();
-    presses(*body, QString::fromUtf8(text));
+    const QStringList lines = QString::fromUtf8(text).split('\n');
+    for (const QString& line : lines) {
+        if (&line != &lines.front()) QTest::keyClick(body, Qt::Key_Return);
+        presses(*body, line);
+    }
 }
 
 void hits(int key, Qt::KeyboardModifiers modifiers)

@@ -3,6 +3,7 @@
 
 // The user's mail settings, the templates, and the fields that they name.
 
+#include "host/database/host_error.h"
 #include "host/mail/mail_settings.h"
 #include "host/mail/party_fields.h"
 #include "host/mail/templates.h"
@@ -54,7 +55,7 @@ TEST_F(Settings, without_a_file_mean_the_outbox)
     EXPECT_EQ(settings.problem, "");
     EXPECT_THAT(settings.warnings, IsEmpty());
     EXPECT_TRUE(settings.tls);
-    EXPECT_EQ(settings.timeout, 30);
+    EXPECT_EQ(settings.timeout, 60);
     EXPECT_EQ(settings.limit, 25);
     EXPECT_TRUE(settings.templates.empty());
 }
