@@ -113,7 +113,7 @@ TEST_F(AssigningProspects, of_a_thousand_the_one_that_the_server_refuses_stays_a
     EXPECT_THAT(agentsOf("P0500"), ElementsAre("7"));
     EXPECT_THAT(log(), IsEmpty());
     EXPECT_EQ(ports.pointer.MousePointer(), screen::Pointer::standard);
-    EXPECT_EQ(sees("lblCuenta"), "Hoy: 0 actividades | Proyectos: 0 Contactos: 1");
+    EXPECT_EQ(sees("lblCuenta"), "Hoy: 1000 actividades | Proyectos: 0 Contactos: 1");
     picks("cbAgente", "Beto");
     EXPECT_THAT(seesProspects(), testing::SizeIs(999));
 }
