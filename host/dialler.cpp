@@ -15,13 +15,14 @@ constexpr qsizetype local = 7;    ///< from here on a number may be whole
 constexpr qsizetype longest = 15; ///< no number of the world has more
 
 /// The first number of digits and what may stand between them. Where a second one follows, a dash with blanks
-/// around it keeps the two apart, or their length.
+/// around it and a long group behind keep the two apart, or their length.
 QString firstOf(const QString& run)
 {
     static const QRegularExpression group(QStringLiteral(R"(([ .()-]*)(\d+))"));
     QString digits;
     for (const QRegularExpressionMatch& next : group.globalMatch(run)) {
-        const bool dash = digits.size() >= local && next.capturedView(1).contains(QStringLiteral(" - "));
+        const bool dash = digits.size() >= local && next.capturedLength(2) >= shortest &&
+                          next.capturedView(1).contains(QStringLiteral(" - "));
         const bool tooMany = !digits.isEmpty() && digits.size() + next.capturedLength(2) > longest;
         if (dash || tooMany) break;
         digits += next.capturedView(2);

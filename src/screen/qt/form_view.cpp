@@ -52,7 +52,11 @@ FormView::FormView(screen::Form& form, QWidget* parent, Guard& guard)
     mirror();
 }
 
-FormView::~FormView() = default;
+FormView::~FormView()
+{
+    wires_.clear();
+    if (element_ != nullptr) element_->Hide(); // the window went with the one that it stood over
+}
 
 void FormView::run()
 {

@@ -30,7 +30,7 @@ void ListBoxView::mirror(const screen::ListBox& list)
     if (list.ListIndex() >= 0) // the selection too: a click with Ctrl takes it off the current line
         selectionModel()->setCurrentIndex(model()->index(list.ListIndex(), 0),
                                           QItemSelectionModel::ClearAndSelect);
-    else if (selectionModel()->hasSelection() || currentIndex().row() != list.ListIndex())
+    else if (!list.checkBoxes()) // there the current line is the one that Space marks
         selectionModel()->clear();
     mirroring_ = false;
 }

@@ -30,7 +30,6 @@ void QtEventLoop::ShowModal(Form& form)
     const QPointer<FormView> view(new FormView(form, active != nullptr ? active : owner_.data(), guard_));
     view->run();
     delete view;
-    if (form.Visible()) form.Hide();
 }
 
 DateTime QtClock::Now() const

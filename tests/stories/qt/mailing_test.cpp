@@ -37,9 +37,9 @@ TEST_F(MailingAtTheWindow, marks_lines_with_the_mouse)
         const QRect line = list.visualRect(list.model()->index(1, 0));
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(line.left() + 10, line.center().y()));
         picture(window, "dlgDirMail");
-        EXPECT_EQ(list.model()->index(0, 0).data(Qt::CheckStateRole), Qt::Checked);
-        EXPECT_EQ(list.model()->index(1, 0).data(Qt::CheckStateRole), Qt::Checked);
-        EXPECT_EQ(list.model()->index(2, 0).data(Qt::CheckStateRole), Qt::Unchecked);
+        EXPECT_EQ(list.model()->index(0, 0).data(Qt::CheckStateRole).toInt(), static_cast<int>(Qt::Checked));
+        EXPECT_EQ(list.model()->index(1, 0).data(Qt::CheckStateRole).toInt(), static_cast<int>(Qt::Checked));
+        EXPECT_EQ(list.model()->index(2, 0).data(Qt::CheckStateRole).toInt(), static_cast<int>(Qt::Unchecked));
         pressButton(window, "Aceptar");
     });
     clicks("cmdSend");
@@ -61,6 +61,7 @@ TEST_F(MailingAtTheWindow, marks_lines_with_the_keyboard_alone)
     EXPECT_EQ(mail(), "Enviar PY.AAAA <ana@casa.mx>");
     hands.expect("dlgDirMail", [&](QWidget&) { key(Qt::Key_Escape); });
     host.log.calls.clear();
+    backTo(widget);
     key(Qt::Key_F7);
     EXPECT_EQ(mail(), "");
 }
