@@ -58,8 +58,9 @@ void ctrDnContacts::wire()
     join(prospects.chkProsSelPros.Click, prospectInteraction_, &ProspectInteraction::chkProsSelPros_Click);
 
     join(prospects.cmdProsNewProj.Click, prospectConversion_, &ProspectConversion::cmdProsNewProj_Click);
-    for (std::int16_t i = 0; i < top.bColor.Count(); ++i)
-        wires_.push_back(top.bColor(i).Click.connect([this, i] { colourMarks_.bColor_Click(i); }));
+    for (int i = 0; i < top.bColor.Count(); ++i)
+        wires_.push_back(
+            top.bColor(i).Click.connect([this, i] { colourMarks_.bColor_Click(static_cast<std::int16_t>(i)); }));
 
     join(projects.cbProjStatusProj.Click, projectList_, &ProjectList::cbProjStatusProj_Click);
     join(projects.lvwProy.ItemClick, projectDetail_, &ProjectDetail::lvwProy_ItemClick);
@@ -102,8 +103,9 @@ void ctrDnContacts::wire()
     join(call.cmdNoContestan.Click, callFlow_, &CallFlow::cmdNoContestan_Click);
     join(call.cmdFueraServ.Click, callFlow_, &CallFlow::cmdFueraServ_Click);
     join(call.cmdCancelCall.Click, callFlow_, &CallFlow::cmdCancelCall_Click);
-    for (std::int16_t i = 0; i < call.cmdCallCon.Count(); ++i)
-        wires_.push_back(call.cmdCallCon(i).Click.connect([this, i] { callFlow_.cmdCallCon_Click(i); }));
+    for (int i = 0; i < call.cmdCallCon.Count(); ++i)
+        wires_.push_back(call.cmdCallCon(i).Click.connect(
+            [this, i] { callFlow_.cmdCallCon_Click(static_cast<std::int16_t>(i)); }));
     join(call.cmdOkCall.Click, callFlow_, &CallFlow::cmdOkCall_Click);
     join(call.Timer1.TimerEvent, callFlow_, &CallFlow::Timer1_Timer);
 
