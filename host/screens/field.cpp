@@ -74,7 +74,7 @@ QString LineField::complaint()
 
 QString MailField::complaint()
 {
-    if (const QString text = LineField::complaint(); !text.isEmpty()) return text;
+    if (QString text = LineField::complaint(); !text.isEmpty()) return text;
     const QString address = QString::fromStdString(value());
     if (!touched() || address.isEmpty() || areAddresses(address)) return {};
     return "Escriba el correo en la forma nombre@dominio.";
