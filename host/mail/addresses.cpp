@@ -42,11 +42,10 @@ bool isDotted(std::string_view text, std::string_view further, std::size_t longe
         if (c == '.') {
             if (length == 0) return false;
             length = 0;
-        } else if (!isAlphanumeric(c) && further.find(c) == std::string_view::npos) {
-            return false;
-        } else if (++length > longestWord) {
-            return false;
+            continue;
         }
+        const bool allowed = isAlphanumeric(c) || further.find(c) != std::string_view::npos;
+        if (!allowed || ++length > longestWord) return false;
     }
     return length > 0;
 }
@@ -88,7 +87,7 @@ std::string complaintAbout(const std::string& address)
     constexpr std::string_view ofLocalPart = "!#$%&'*+-/=?^_`{|}~";
     const std::string wire = wireAddress(address);
     const std::size_t at = wire.rfind('@');
-    const bool good = at != std::string::npos && at <= 64 && wire.size() <= 254 &&
+    const bool good = at <= 64 && wire.size() <= 254 &&
                       isDotted(std::string_view(wire).substr(0, at), ofLocalPart, 64) &&
                       isDomain(std::string_view(wire).substr(at + 1));
     if (good) return {};

@@ -88,6 +88,7 @@ void AttachmentsField::add(const QString& path)
 std::vector<Attachment> AttachmentsField::read() const
 {
     std::vector<Attachment> attachments;
+    attachments.reserve(static_cast<std::size_t>(list_->count()));
     for (int i = 0; i < list_->count(); ++i)
         attachments.push_back(readAttachment(list_->item(i)->data(pathRole).toString()));
     return attachments;

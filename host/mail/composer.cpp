@@ -259,7 +259,7 @@ void Composer::look()
         report(this, failure);
         return;
     }
-    QDialog::accept();
+    done(Accepted);
 }
 
 void Composer::showSending(bool sends)

@@ -7,6 +7,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdlib>
@@ -52,9 +53,7 @@ std::string stripped(const std::string& text)
 
 bool isKey(const std::string& name)
 {
-    for (const Key& key : keys)
-        if (name == key.name) return true;
-    return false;
+    return std::any_of(std::begin(keys), std::end(keys), [&](const Key& key) { return name == key.name; });
 }
 
 // A value goes from the equals sign to the end of its line, as it stands: no quotes, no escapes.

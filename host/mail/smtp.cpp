@@ -37,7 +37,7 @@ std::size_t giveText(char* buffer, std::size_t size, std::size_t count, void* co
 {
     auto& transfer = *static_cast<Transfer*>(context);
     const std::size_t bytes = std::min(size * count, transfer.text.size() - transfer.read);
-    std::memcpy(buffer, transfer.text.data() + transfer.read, bytes);
+    std::copy_n(transfer.text.data() + transfer.read, bytes, buffer);
     transfer.read += bytes;
     return bytes;
 }

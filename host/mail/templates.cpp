@@ -13,7 +13,10 @@ namespace {
 
 constexpr qint64 longest = 1 << 20; // bytes; more is no template
 
-QString withoutMark(QString text) { return text.startsWith(QChar(QChar::ByteOrderMark)) ? text.mid(1) : text; }
+QString withoutMark(const QString& text)
+{
+    return text.startsWith(QChar(QChar::ByteOrderMark)) ? text.mid(1) : text;
+}
 
 } // namespace
 

@@ -26,6 +26,6 @@ struct TemplateText {
 std::vector<Template> templatesIn(const std::filesystem::path& folder);
 
 /// @throws HostError when the file cannot be read.
-TemplateText readTemplate(const std::filesystem::path& file);
+TemplateText readTemplate(const std::filesystem::path& path);
 
 } // namespace dn::host

@@ -32,7 +32,7 @@ private:
                          const std::vector<ReportColumn>& columns, int stretch);
     void addClose();
     void load();
-    void fill(QTreeWidget& list, QLabel& caption, const QString& text, const std::vector<Relation>& relations);
+    void fill(QTreeWidget& list, QLabel& caption, const QString& title, const std::vector<Relation>& relations);
     void open(const QTreeWidget& list);
 
     ScreenContext& context_;
