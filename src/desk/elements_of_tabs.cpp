@@ -112,6 +112,7 @@ TodayElements::TodayElements(Container& control)
                     {&Command7, "Historial de correos", "history", 2250},
                     {&geProyFromContacto, "Crear proyecto", "project", 1800}},
                    30, 75);
+    cmdEditHoy.Shortcut("F2"); // as the command has that it stands in for
     layOutCounter(lblcuenta2, "info");
     layOutList(lvwHoy);
     lvwHoy.AddColumn("Tipo", 2000);

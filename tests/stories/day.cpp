@@ -4,13 +4,13 @@
 #include "tests/stories/day.h"
 
 #include "base/date_time.h"
+#include "tests/stories/queued_projects.h"
 
 namespace dn::tests {
 
 Day::Day()
 {
-    database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
-    database("INSERT IGNORE INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
+    fillCatalogues(*beside);
     itIs("2026-03-14 09:30:00");
 }
 
@@ -23,22 +23,29 @@ void Day::itIs(const std::string& moment)
     cnn->statements.pop_back(); // not the control's
 }
 
+// The server has no zones of its own; one year of one zone is enough here.
+void Day::livesInMadrid()
+{
+    database("SET time_zone = '+00:00'");
+    database("REPLACE INTO mysql.time_zone (Time_zone_id, Use_leap_seconds) VALUES (1, 'N')");
+    database("REPLACE INTO mysql.time_zone_name (Name, Time_zone_id) VALUES ('Europe/Madrid', 1)");
+    database(
+        "REPLACE INTO mysql.time_zone_transition_type VALUES (1, 0, 3600, 0, 'CET'), (1, 1, 7200, 1, 'CEST')");
+    database("REPLACE INTO mysql.time_zone_transition VALUES (1, UNIX_TIMESTAMP('2026-03-29 01:00:00'), 1), (1, "
+             "UNIX_TIMESTAMP('2026-10-25 01:00:00'), 0)");
+    database("SET time_zone = 'Europe/Madrid'");
+    cnn->execute("SET time_zone = 'Europe/Madrid'");
+    cnn->statements.pop_back(); // not the control's
+}
+
 std::int64_t Day::project(const std::string& name, std::int32_t agent)
 {
-    database("INSERT INTO Organizacion (Nombre, Tel1) VALUES ('Org. " + name + "', '961 111')");
-    database("INSERT INTO Persona (Nombre, IOrganizacion) VALUES ('" + name + "', LAST_INSERT_ID())");
-    database("INSERT INTO Proyecto (Descripcion, IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) SELECT "
-             "'Proyecto de " +
-             name + "', " + std::to_string(agent) +
-             ", 1, IOrganizacion, Sys_PK, 1 FROM Persona WHERE Sys_PK = "
-             "LAST_INSERT_ID()");
-    return beside->execute("SELECT LAST_INSERT_ID()")->value(0).toWhole();
+    return openProject(*beside, name, agent);
 }
 
 void Day::activity(std::int64_t project, const std::string& due)
 {
-    database("INSERT INTO actividad (IProyecto, ITpActividad, Asunto, FInicio) VALUES (" +
-             std::to_string(project) + ", 1, 'Llamar', '" + due + "')");
+    pendingActivity(*beside, project, "'" + due + "'");
 }
 
 void Day::whileTheHost(const std::string& call, const std::vector<std::string>& statements)

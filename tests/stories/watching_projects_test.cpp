@@ -3,6 +3,7 @@
 
 // The operator looks after his projects: what is due next, and what nobody has planned anything for.
 
+#include "tests/stories/missing_table.h"
 #include "tests/stories/project_operator.h"
 
 namespace dn::tests {
@@ -212,15 +213,15 @@ TEST_F(WatchingProjects, a_table_that_is_gone_leaves_the_other_half_and_no_messa
     due("Con cita", 1);
     project("Sin cita");
     enters(ana);
-    database("RENAME TABLE actividad TO actividad_fuera");
-    opensProjects();
-    EXPECT_THAT(seesProjects(), testing::UnorderedElementsAre("Con cita", "Sin cita"));
-    EXPECT_EQ(seesProjectCell("Con cita", "Actividad"), "< Ninguna >");
-    database("RENAME TABLE Meta TO Meta_fuera");
-    opensProjects();
-    EXPECT_THAT(seesProjects(), IsEmpty());
-    database("RENAME TABLE Meta_fuera TO Meta");
-    database("RENAME TABLE actividad_fuera TO actividad");
+    {
+        const MissingTable noActivities(*beside, "actividad");
+        opensProjects();
+        EXPECT_THAT(seesProjects(), testing::UnorderedElementsAre("Con cita", "Sin cita"));
+        EXPECT_EQ(seesProjectCell("Con cita", "Actividad"), "< Ninguna >");
+        const MissingTable noGoals(*beside, "Meta");
+        opensProjects();
+        EXPECT_THAT(seesProjects(), IsEmpty());
+    }
     opensProjects();
     EXPECT_THAT(seesProjects(), ElementsAre("Con cita", "Sin cita"));
 }

@@ -77,7 +77,7 @@ void ListViewView::mouseDoubleClickEvent(QMouseEvent* event)
 void ListViewView::contextMenuEvent(QContextMenuEvent* event)
 {
     const screen::ListView* const list = bond_.element();
-    if (list == nullptr || list->ColumnHeaders().empty()) return;
+    if (list == nullptr || list->ColumnHeaders().empty() || list->ColumnClick.listeners() == 0) return;
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const ColumnHeader& header : list->ColumnHeaders())
@@ -125,7 +125,7 @@ bool ListViewView::handleKey(const QKeyEvent& event)
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() + step);
         return true;
     case Qt::Key_Space:
-        if (row >= 0) bond_.gesture([&](auto& it) { it.toggleCheck(static_cast<std::size_t>(row)); });
+        if (row >= 0) pressSpace(row);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -139,6 +139,18 @@ bool ListViewView::handleKey(const QKeyEvent& event)
     if (*goal >= 0 && *goal != row) click(*goal);
     if (currentIndex().isValid()) reveal(currentIndex().row());
     return true;
+}
+
+// A list selects its first row by itself, and clicks nothing: without check boxes this is the click that is
+// missing.
+void ListViewView::pressSpace(int row)
+{
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr) return;
+    if (list->CheckBoxes())
+        bond_.gesture([&](auto& it) { it.toggleCheck(static_cast<std::size_t>(row)); });
+    else
+        click(row);
 }
 
 /// The row that a key leads to, -1 in an empty list; nothing for other keys.

@@ -22,6 +22,8 @@ ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard
       model_(new ListViewModel(list, this)),
       bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
 {
+    // Ahead of the table's own listening, which gives the selection up.
+    connect(model_, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { rememberPlace(); });
     setModel(model_);
     setItemDelegate(new ListCellPainter(this)); // owned by this as its parent
     arrange();
@@ -85,8 +87,27 @@ void ListViewView::showPublished(bool columnsAreNew, bool rowsAreNew)
 {
     if (columnsAreNew) setColumnWidths();
     mirrorSelection();
-    // A list that was built anew starts with its selected row in view.
-    if (rowsAreNew && currentIndex().isValid()) reveal(currentIndex().row());
+    if (rowsAreNew && currentIndex().isValid()) takePlaceAgain();
+}
+
+// Whoever works down a list that is loaded again and again must not look for his row each time, nor scroll to see
+// what comes behind it.
+void ListViewView::rememberPlace()
+{
+    const int below = currentIndex().row() - verticalScrollBar()->value();
+    const bool inView = currentIndex().isValid() && below >= 0 && below < verticalScrollBar()->pageStep();
+    linesAbove_.reset();
+    if (inView) linesAbove_ = below;
+}
+
+// A list that was built anew starts with its selected row in view, as far from the top as the one before.
+void ListViewView::takePlaceAgain()
+{
+    if (linesAbove_) {
+        executeDelayedItemsLayout(); // the bar must know of the rows
+        verticalScrollBar()->setValue(currentIndex().row() - *linesAbove_);
+    }
+    reveal(currentIndex().row());
 }
 
 void ListViewView::mirrorSelection()

@@ -41,15 +41,19 @@ private:
     void mirrorSorting(const screen::ListView& list);
     void showPublished(bool columnsAreNew, bool rowsAreNew);
     void setColumnWidths();
+    void rememberPlace();
+    void takePlaceAgain();
     void reveal(int row);
     void click(int row);
     void copySelected() const;
     bool handleKey(const QKeyEvent& event);
+    void pressSpace(int row);
     std::optional<int> target(int key) const;
     QString tipAt(const QModelIndex& index) const;
 
     ListViewModel* model_; // owned by this as its parent
     int pressedCheck_ = -1;
+    std::optional<int> linesAbove_; ///< those above the selected row, if it was in view when the rows went away
     bool mirroring_ = false;
     Bond<screen::ListView> bond_;
     Subscription revealed_;

@@ -147,14 +147,18 @@ TEST_F(ListViewTest, a_check_box_is_clicked_beside_the_selection)
     press(Qt::Key_Space);
     EXPECT_EQ(checked.size(), 3U);
     EXPECT_TRUE(list.ListItems()("K4").Checked());
+    EXPECT_THAT(clicked, ElementsAre("K4")) << "the key checks and does not click";
 }
 
 TEST_F(ListViewTest, a_list_without_check_boxes_has_none_to_click)
 {
     addRows(0, 10);
     show();
+    press(Qt::Key_Space); // the first row is selected by itself, and this clicks it
+    EXPECT_THAT(clicked, ElementsAre("K0"));
     click(2);
     press(Qt::Key_Space);
+    EXPECT_THAT(clicked, ElementsAre("K0", "K2", "K2"));
     EXPECT_TRUE(table().checkRect(2).isEmpty());
     EXPECT_THAT(checked, IsEmpty());
 }
@@ -174,6 +178,16 @@ TEST_F(ListViewTest, headers_are_clicked_by_mouse_and_by_menu)
     menu->actions()[2]->trigger();
     EXPECT_THAT(headers, ElementsAre(2, 3));
     menu->close();
+}
+
+TEST_F(ListViewTest, a_list_that_nobody_sorts_has_no_menu_of_its_columns)
+{
+    addRows(0, 10);
+    show();
+    wires.clear();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {10, 10}, table().mapToGlobal(QPoint(10, 10)));
+    QApplication::sendEvent(table().viewport(), &event);
+    EXPECT_EQ(table().findChild<QMenu*>(), nullptr);
 }
 
 TEST_F(ListViewTest, a_disabled_list_takes_no_input)

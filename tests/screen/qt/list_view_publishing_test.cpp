@@ -6,6 +6,7 @@
 #include "screen/qt/colours.h"
 #include "tests/screen/qt/list_view_fixture.h"
 
+#include <QApplication>
 #include <QBrush>
 #include <QFont>
 #include <QHeaderView>
@@ -199,6 +200,30 @@ TEST_F(ListViewTest, a_list_that_is_built_anew_starts_with_its_selected_row_in_v
     list.ListItems()("K900").Selected(true);
     settle();
     EXPECT_TRUE(table().viewport()->rect().contains(at(900, 0)));
+}
+
+TEST_F(ListViewTest, a_list_that_is_built_anew_keeps_the_selected_row_where_it_stood)
+{
+    addRows(0, 1000);
+    show();
+    table().verticalScrollBar()->setValue(495);
+    click(500);
+    list.ListItems().Clear();
+    QApplication::processEvents(); // the load yields
+    addRows(10, 1000);             // ten rows above it are gone
+    list.ListItems()("K500").Selected(true);
+    settle();
+    EXPECT_EQ(table().verticalScrollBar()->value(), 485);
+    table().verticalScrollBar()->setValue(0); // the operator looks elsewhere
+    list.ListItems().Clear();
+    addRows(0, 1000);
+    list.ListItems()("K500").Selected(true);
+    settle();
+    EXPECT_TRUE(table().viewport()->rect().contains(at(500, 0)));
+    list.ListItems().Clear();
+    addRows(0, 5);
+    settle();
+    EXPECT_EQ(table().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(ListViewTest, removing_a_row_leaves_the_others)
