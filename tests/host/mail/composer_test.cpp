@@ -334,7 +334,7 @@ TEST_F(Attaching, a_file_that_grew_beyond_the_limit_is_told)
 TEST_F(Attaching, shows_how_far_a_slow_server_is_and_the_window_goes_on)
 {
     MailServer& slow = toAServer({"slow"});
-    const fs::path file = folder.holds("plano.pdf", std::string(6'000'000, 'x'));
+    const fs::path file = folder.holds("plano.pdf", std::string(3'000'000, 'x'));
     EXPECT_TRUE(writes([&](QWidget& window) {
         types(window, "Asunto", "Hola");
         attachments(window).add(QString::fromStdString(file.string()));
@@ -347,8 +347,8 @@ TEST_F(Attaching, shows_how_far_a_slow_server_is_and_the_window_goes_on)
         EXPECT_THAT(history(), IsEmpty());
         slow.letGoOn();
     }));
-    EXPECT_EQ(slow.mail()["attachments"][0]["size"].toInt(), 6'000'000);
-    EXPECT_THAT(history().at(0).at(4), HasSubstr("[Archivo adjunto: plano.pdf, 5.7 MB]"));
+    EXPECT_EQ(slow.mail()["attachments"][0]["size"].toInt(), 3'000'000);
+    EXPECT_THAT(history().at(0).at(4), HasSubstr("[Archivo adjunto: plano.pdf, 2.9 MB]"));
 }
 
 } // namespace

@@ -48,7 +48,7 @@ class Server:
     async def listen(self):
         inbound = socket.create_server(("127.0.0.1", 0))
         if "slow" in self.moods:
-            inbound.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 65536)  # or all of the text would fit into it
+            inbound.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 16384)  # or all of the text would fit into it
         secure = self.context() if "smtps" in self.moods else None
         protocol = Mute if "mute" in self.moods else self.protocol
         self.listener = await asyncio.get_running_loop().create_server(protocol, sock=inbound, ssl=secure)
