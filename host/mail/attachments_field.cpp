@@ -74,6 +74,7 @@ void AttachmentsField::add(const QString& path)
 std::vector<std::filesystem::path> AttachmentsField::files() const
 {
     std::vector<std::filesystem::path> files;
+    files.reserve(static_cast<std::size_t>(list_->count()));
     for (int i = 0; i < list_->count(); ++i)
         files.emplace_back(list_->item(i)->data(pathRole).toString().toStdString());
     return files;
