@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -75,11 +76,14 @@ public:
         if (field.isModified()) view_.commit(index, field.text());
     }
 
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    // The style has a frame for the focus only after a key, and none that shows on a selected cell.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        ListCellPainter::initStyleOption(option, index);
-        if (view_.hasFocus() && index == view_.currentIndex()) option->state |= QStyle::State_HasFocus;
+        ListCellPainter::paint(painter, option, index);
+        if (!view_.hasFocus() || index != view_.currentIndex()) return;
+        const bool selected = (option.state & QStyle::State_Selected) != 0;
+        painter->setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight));
+        painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
     }
 
 private:
@@ -147,7 +151,8 @@ bool DataGridView::handleKey(const QKeyEvent& event)
     if (event.matches(QKeySequence::Copy)) {
         copySelected();
     } else if (open && cell.isValid()) {
-        if ((shownRows().flags(cell) & Qt::ItemIsEditable) != 0) edit(cell);
+        // The key that closes a cell comes here too.
+        if (state() != EditingState && (shownRows().flags(cell) & Qt::ItemIsEditable) != 0) edit(cell);
     } else if (event.key() == Qt::Key_Space && event.modifiers() == Qt::ShiftModifier && cell.isValid()) {
         selectionModel()->select(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     } else if (event.key() == Qt::Key_Space && event.modifiers() == Qt::ControlModifier && cell.isValid()) {

@@ -63,6 +63,12 @@ protected:
     {
         QTest::mouseClick(table().viewport(), Qt::LeftButton, modifiers, at(row, column));
     }
+    void doubleClick(int row, int column)
+    {
+        click(row, column);
+        QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, at(row, column));
+        settle();
+    }
     /// A key in whatever has the keyboard.
     static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
@@ -159,6 +165,20 @@ TEST_F(DataGridViewTest, selects_with_the_keyboard_alone)
     EXPECT_EQ(focus(), "dxGrid");
 }
 
+TEST_F(DataGridViewTest, frames_the_cell_that_has_the_keyboard)
+{
+    open();
+    key(Qt::Key_Down);
+    key(Qt::Key_A, Qt::ControlModifier);
+    const auto edge = [&](int row, int column) {
+        const QRect cell = table().visualRect(table().model()->index(row, column));
+        return colourAt(*table().viewport(), {cell.left() + 1, cell.center().y()});
+    };
+    EXPECT_EQ(edge(1, 0), table().palette().color(QPalette::HighlightedText));
+    EXPECT_EQ(edge(0, 0), table().palette().color(QPalette::Highlight));
+    EXPECT_EQ(edge(1, 1), table().palette().color(QPalette::Highlight));
+}
+
 TEST_F(DataGridViewTest, without_a_selection_leaves_the_clipboard_alone)
 {
     grid.ListItems().Clear();
@@ -237,8 +257,7 @@ TEST_F(DataGridViewTest, opens_a_cell_with_enter_a_double_click_or_typing)
     EXPECT_EQ(focus(), "dxGrid.cell");
     key(Qt::Key_Escape);
     EXPECT_EQ(focus(), "dxGrid");
-    QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, at(2, 0));
-    settle();
+    doubleClick(2, 0);
     EXPECT_EQ(focus(), "dxGrid.cell");
     key(Qt::Key_Escape);
     writes("Ñu");
@@ -317,8 +336,7 @@ TEST_F(DataGridViewTest, for_reading_alone_opens_no_cell_and_still_copies)
     open();
     key(Qt::Key_F2);
     key(Qt::Key_Return);
-    QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, at(0, 0));
-    settle();
+    doubleClick(0, 0);
     EXPECT_EQ(focus(), "dxGrid");
     writes("b");
     EXPECT_EQ(focus(), "dxGrid");
