@@ -3,6 +3,7 @@
 
 // What the operator does on a list view: clicks, keys, and the pointer that rests on a cell.
 
+#include "screen/copied_text.h"
 #include "screen/qt/list_cell_painter.h"
 #include "screen/qt/list_view_model.h"
 #include "screen/qt/list_view_view.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace dn::screen::qt {
 
@@ -73,18 +75,26 @@ void ListViewView::mouseDoubleClickEvent(QMouseEvent* event)
         bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(index.row())); });
 }
 
-// The headers for who works with the keyboard: the menu key lists the columns to sort by.
 void ListViewView::contextMenuEvent(QContextMenuEvent* event)
 {
-    const screen::ListView* const list = bond_.element();
-    if (list == nullptr || list->ColumnHeaders().empty() || list->ColumnClick.listeners() == 0) return;
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(*menu);
+    if (menu->isEmpty())
+        menu->deleteLater();
+    else
+        menu->popup(event->globalPos());
+}
+
+// The headers for who works with the keyboard: the menu key lists the columns to sort by.
+void ListViewView::fillMenu(QMenu& menu)
+{
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr || list->ColumnClick.listeners() == 0) return;
     for (const ColumnHeader& header : list->ColumnHeaders())
-        menu->addAction(
+        menu.addAction(
             QStringLiteral("Ordenar por «%1»").arg(fromUtf8(header.Text)), this,
             [this, column = header.Index - 1] { bond_.gesture([&](auto& it) { it.clickHeader(column); }); });
-    menu->popup(event->globalPos());
 }
 
 void ListViewView::keyPressEvent(QKeyEvent* event)
@@ -103,14 +113,15 @@ void ListViewView::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
-// The selected row as text, a tab between the cells, as a spreadsheet takes it.
 void ListViewView::copySelected() const
 {
-    if (!currentIndex().isValid()) return;
-    QStringList cells;
-    for (int column = 0; column < model_->columnCount(); ++column)
-        cells += currentIndex().siblingAtColumn(column).data().toString();
-    QGuiApplication::clipboard()->setText(cells.join(u'\t'));
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr) return;
+    std::vector<CellRange> ranges;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        ranges.push_back({static_cast<std::size_t>(range.top()), static_cast<std::size_t>(range.bottom()),
+                          static_cast<std::size_t>(range.left()), static_cast<std::size_t>(range.right())});
+    if (!ranges.empty()) QGuiApplication::clipboard()->setText(fromUtf8(copiedText(*list, std::move(ranges))));
 }
 
 bool ListViewView::handleKey(const QKeyEvent& event)

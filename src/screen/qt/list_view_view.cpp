@@ -18,10 +18,14 @@ constexpr int lineHeight = 20; // logical pixels: an icon of 16 and some air
 } // namespace
 
 ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard)
-    : QTableView(parent),
-      model_(new ListViewModel(list, this)),
-      bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
+    : ListViewView(list, parent, guard, new ListViewModel(list, nullptr))
 {
+}
+
+ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard, ListViewModel* model)
+    : QTableView(parent), model_(model), bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
+{
+    model_->setParent(this);
     // Ahead of the table's own listening, which gives the selection up.
     connect(model_, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { rememberPlace(); });
     setModel(model_);
@@ -118,10 +122,16 @@ void ListViewView::mirrorSelection()
     mirroring_ = true;
     if (!position || static_cast<int>(*position) >= model_->rowCount())
         selectionModel()->clear();
-    else if (const QModelIndex index = model_->index(static_cast<int>(*position), 0);
-             index != currentIndex() || !selectionModel()->isSelected(index))
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    else
+        showSelected(static_cast<int>(*position));
     mirroring_ = false;
+}
+
+void ListViewView::showSelected(int row)
+{
+    const QModelIndex index = model_->index(row, 0);
+    if (index != currentIndex() || !selectionModel()->isSelected(index))
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void ListViewView::setColumnWidths()
