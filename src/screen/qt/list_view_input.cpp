@@ -73,11 +73,12 @@ void ListViewView::mouseDoubleClickEvent(QMouseEvent* event)
         bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(index.row())); });
 }
 
-// The headers for who works with the keyboard: the menu key lists the columns to sort by.
+// The headers for who works with the keyboard: the menu key lists the columns to sort by, where a list can be
+// sorted.
 void ListViewView::contextMenuEvent(QContextMenuEvent* event)
 {
     const screen::ListView* const list = bond_.element();
-    if (list == nullptr || list->ColumnHeaders().empty()) return;
+    if (list == nullptr || list->ColumnHeaders().empty() || list->ColumnClick.listeners() == 0) return;
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const ColumnHeader& header : list->ColumnHeaders())
@@ -128,8 +129,9 @@ bool ListViewView::handleKey(const QKeyEvent& event)
         if (row >= 0) bond_.gesture([&](auto& it) { it.toggleCheck(static_cast<std::size_t>(row)); });
         return true;
     case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (row >= 0) bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(row)); });
+    case Qt::Key_Enter: // held down it opens nothing a second time
+        if (row >= 0 && !event.isAutoRepeat())
+            bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(row)); });
         return true;
     default:
         break;
