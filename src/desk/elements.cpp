@@ -56,7 +56,7 @@ void layOutMarks(ControlArray<Button>& bColor)
     int index = 0;
     for (const Mark& mark : marks) {
         Button& button = bColor(index);
-        button.Move(60 + index * 390, 30, 360, 255);
+        button.Move(45 + index * 330, 30, 300, 255); // all five show in a control that is 800 pixels wide
         button.BackColor(mark.colour);
         button.Picture("mark-" + std::to_string(index)); // a shape for whoever does not tell the colours apart
         button.ToolTipText(mark.name);

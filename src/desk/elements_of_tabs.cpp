@@ -172,14 +172,15 @@ ProjectElements::ProjectElements(Container& control, TopElements& top)
       ImageList1("ImageList1", {"project-frozen", "project-cold", "project-warm", "project-hot", "project-lost"}),
       lvwProy(&control, "lvwProy")
 {
-    cbProjStatusProj.Move(stripLeft, stripTop, 2100, commandHeight);
-    layOutCommands({{&cmdProjNewProj, "Nuevo proyecto", "project", 1800},
-                    {&cmdNewProjEditProj, "Editar", "edit", 1200},
-                    {&cmdProjSeekProj, "Buscar", "search", 1200},
-                    {&cmdProjNewContact, "Nuevo contacto", "person", 1800},
-                    {&cmdProjNewOrg, "Nueva organización", "organisation", 2100},
-                    {&cmdNewProjTool, "Herramientas", "tools", 1650}},
-                   2265, stripTop);
+    // All of them show in a control that is 800 pixels wide.
+    cbProjStatusProj.Move(stripLeft, stripTop, 2265, commandHeight);
+    layOutCommands({{&cmdProjNewProj, "Nuevo proyecto", "project", 1740},
+                    {&cmdNewProjEditProj, "Editar", "edit", 1080},
+                    {&cmdProjSeekProj, "Buscar", "search", 1110},
+                    {&cmdProjNewContact, "Nuevo contacto", "person", 1740},
+                    {&cmdProjNewOrg, "Nueva organización", "organisation", 2040},
+                    {&cmdNewProjTool, "Herramientas", "tools", 1560}},
+                   2415, stripTop);
 
     layOutList(lvwProy);
     lvwProy.SmallIcons(&ImageList1);
