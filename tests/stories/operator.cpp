@@ -17,7 +17,9 @@ namespace {
 
 constexpr int nameColumn = 3; // the sub-item "Nombre"
 
-std::unique_ptr<data::Connection> connect()
+} // namespace
+
+std::unique_ptr<data::Connection> Operator::connect()
 {
     data::mariadb::Options options;
     options.socket = sharedServer().socket();
@@ -26,8 +28,6 @@ std::unique_ptr<data::Connection> connect()
     options.database = MariaServer::database;
     return std::make_unique<data::mariadb::Connection>(options);
 }
-
-} // namespace
 
 void Operator::SetUpTestSuite()
 {

@@ -81,12 +81,13 @@ void ListViewView::contextMenuEvent(QContextMenuEvent* event)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu);
     if (menu->isEmpty())
-        menu->deleteLater();
+        delete menu;
     else
         menu->popup(event->globalPos());
 }
 
-// The headers for who works with the keyboard: the menu key lists the columns to sort by.
+// The headers for who works with the keyboard: the menu key lists the columns to sort by,
+// where a list can be sorted.
 void ListViewView::fillMenu(QMenu& menu)
 {
     const screen::ListView* const list = bond_.element();
@@ -139,8 +140,9 @@ bool ListViewView::handleKey(const QKeyEvent& event)
         if (row >= 0) pressSpace(row);
         return true;
     case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (row >= 0) bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(row)); });
+    case Qt::Key_Enter: // held down it opens nothing a second time
+        if (row >= 0 && !event.isAutoRepeat())
+            bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(row)); });
         return true;
     default:
         break;

@@ -70,13 +70,13 @@ void ListViewView::arrange()
     verticalHeader()->setDefaultSectionSize(lineHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setMinimumSectionSize(16);
 }
 
 void ListViewView::mirror(const screen::ListView& list)
 {
     mirrorSorting(list);
+    horizontalHeader()->setSectionsClickable(list.ColumnClick.listeners() > 0);
     viewport()->update();
 }
 
