@@ -139,13 +139,15 @@ TEST_F(CallYields, whoever_is_clicked_before_the_attempt_is_stored_does_not_get_
 // The lists are free again when the note of an unanswered call is written.
 TEST_F(CallYields, whoever_is_clicked_while_the_note_is_written_does_not_get_it)
 {
-    for (const char* other : {"P88", "P12"}) {
+    due({queuedProspect(13), queuedProject(88), queuedProspect(12)});
+    for (const char* other : {"P88", "K12"}) {
         ringsOfTheDay();
         bool once = true;
         atEachYield([&] {
             if (std::exchange(once, false)) click(other);
         });
-        call().cmdOcupado.press(); // whose question is for the party in hand by then, a project
+        if (other[0] == 'K') closesTheQuestion(); // it is for the party in hand by then
+        call().cmdOcupado.press();
         EXPECT_FALSE(once);
         EXPECT_THAT(
             changes(),
