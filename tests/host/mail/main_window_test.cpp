@@ -55,7 +55,7 @@ TEST_F(ProgramWindow, hands_the_users_templates_on_behind_the_binding_which_sets
         QTest::keyClick(box, Qt::Key_Down);
         EXPECT_EQ(textIn(mail, "Texto"), "Estimada María Ñúñez:");
         types(mail, "Asunto", "Hola");
-        pressButton(mail, "Guardar en la bandeja de salida");
+        pressButton(mail, keeps);
     });
     window.control().elements().detail.cmdSend.press();
     settings.outbox = folder.path() / "bandeja-de-salida"; // below the data folder
