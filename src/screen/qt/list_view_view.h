@@ -59,7 +59,6 @@ private:
     void setColumnWidths();
     void rememberPlace();
     void takePlaceAgain();
-    void reveal(int row);
     void click(int row);
     bool handleKey(const QKeyEvent& event);
     void pressSpace(int row);
