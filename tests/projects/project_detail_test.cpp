@@ -67,12 +67,13 @@ TEST_F(ProjectDesk, a_click_goes_step_by_step)
     elements().detail.cmdIntro.Enabled(false);
     std::vector<std::string> steps;
     cnn.beforeExecute([&](std::string_view statement) {
-        steps.push_back(std::string(statement.find("xt_biticontact") == statement.npos ? "contact" : "timeline") +
-                        (swatch() == 0x0000FFU ? " swatch" : "") +
-                        (txtInfo() == "\r\n\r\nEnseñar\r\n\r\n\r\n\r\n" ? " row" : "") +
-                        (txtInfo().ends_with("María \r\n") ? " contact" : "") +
-                        (elements().detail.cmdIntro.Enabled() ? " unlocked" : "") +
-                        (control.Call_Tel() == "55 1" ? " number" : ""));
+        steps.push_back(
+            std::string(statement.find("xt_biticontact") == std::string_view::npos ? "contact" : "timeline") +
+            (swatch() == 0x0000FFU ? " swatch" : "") +
+            (txtInfo() == "\r\n\r\nEnseñar\r\n\r\n\r\n\r\n" ? " row" : "") +
+            (txtInfo().ends_with("María \r\n") ? " contact" : "") +
+            (elements().detail.cmdIntro.Enabled() ? " unlocked" : "") +
+            (control.Call_Tel() == "55 1" ? " number" : ""));
     });
     control.Call_Tel("");
     lvwProy().clickRow(1);
