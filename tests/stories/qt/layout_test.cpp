@@ -125,6 +125,7 @@ TEST_P(LayoutAtTheWindow, keeps_a_call_in_the_middle_of_the_list)
         EXPECT_EQ(panel.size(), QSize(513, 263));
     }
     pictured("call");
+    hands.expect("dlgQueH", [](QWidget&) { key(Qt::Key_Escape); });
     clicks("cmdCancelCall");
     EXPECT_FALSE(widgetIn<QWidget>(widget, "picLlamada").isVisible());
 }
