@@ -127,8 +127,9 @@ TEST_F(WidgetTest, the_colour_buttons_differ_in_shape)
         for (std::size_t other = one + 1; other < shapes.size(); ++other) {
             int either = 0;
             int different = 0;
-            for (int y = 3; y < shapes[one].height() - 3; ++y) // without the frame
-                for (int x = 3; x < shapes[one].width() - 3; ++x) {
+            const int frame = qRound(3 * shapes[one].devicePixelRatio()); // of each button
+            for (int y = frame; y < shapes[one].height() - frame; ++y)
+                for (int x = frame; x < shapes[one].width() - frame; ++x) {
                     const bool left = qGray(shapes[one].pixel(x, y)) > 0;
                     const bool right = qGray(shapes[other].pixel(x, y)) > 0;
                     either += left || right ? 1 : 0;

@@ -74,14 +74,6 @@ void AtTheWindow::backTo(QWidget& window)
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
-void AtTheWindow::tabsTo(const char* name)
-{
-    for (int presses = 0; focus() != name; ++presses) {
-        if (presses == 60) FAIL() << "Tab does not lead to " << name;
-        key(Qt::Key_Tab);
-    }
-}
-
 std::string AtTheWindow::focus()
 {
     const QWidget* const focused = QApplication::focusWidget();

@@ -47,8 +47,6 @@ protected:
     static int tabsTo(const char* name);
     /// Gives a window the keyboard back after a box stood over it: without a window manager nobody else does.
     static void backTo(QWidget& window);
-    /// Presses Tab until that widget has the keyboard.
-    static void tabsTo(const char* name);
     /// The name of the widget with the focus.
     static std::string focus();
     static std::string boxText(const QWidget& box);
