@@ -105,15 +105,20 @@ void appendCollationKey(std::string& keys, std::string_view text)
     constexpr char end = '\0';      // ahead of every letter
     const auto low = [](std::uint32_t number) { return static_cast<char>(number & 0xFFU); };
     const WeightTable& table = weights();
+    const std::size_t begin = keys.size();
+    keys.resize(begin + 3 * text.size()); // the most; set in place, for letters come by the million
+    char* place = keys.data() + begin;
     std::size_t accented = 0; // bytes of the text up to its last accent
     for (std::string_view rest = text; !rest.empty();) {
         const Weight weight = takeWeight(table, rest);
-        if (weight.letter < firstBeyond)
-            keys += low(weight.letter);
-        else
-            keys.append({beyond, low(weight.letter >> 8U), low(weight.letter)});
+        if (weight.letter >= firstBeyond) {
+            *place++ = beyond;
+            *place++ = low(weight.letter >> 8U);
+        }
+        *place++ = low(weight.letter);
         if (weight.accent != 0) accented = text.size() - rest.size();
     }
+    keys.resize(static_cast<std::size_t>(place - keys.data()));
     keys += end;
     for (std::string_view rest = text.substr(0, accented); !rest.empty();) {
         const Weight weight = takeWeight(table, rest);
