@@ -24,6 +24,9 @@ void appendText(std::string& statement, std::string_view text, Engine engine)
     statement += engine == Engine::sqlServer ? "N'" : "'";
     for (const char c : text) {
         if (c == '\'' || (c == '\\' && engine == Engine::mariadb)) statement += c;
+        // SQL Server takes a backslash at the end of a line as the sign that the text goes on in the next one.
+        if (engine == Engine::sqlServer && (c == '\r' || c == '\n') && statement.ends_with('\\'))
+            statement += "' + N'";
         statement += c;
     }
     statement += '\'';

@@ -188,14 +188,14 @@ TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
                  pedro,
              prospectNote + ">> Descartado: teléfono equivocado','ana'," + pedro + ")"}));
     EXPECT_THAT(
-        inTheDatabase("SELECT CONCAT(uf_Nombre, '|', uf_Telefono, '|', uf_Status, '|', "
-                      "IFNULL(uf_NotaStatus, '-'), '|', IFNULL(uf_FechaStatus, '-'), '|', "
-                      "IFNULL(uf_proxcontac, '-')) FROM ut_icontact ORDER BY Sys_PK"),
+        inTheDatabase(
+            "SELECT uf_Nombre, uf_Telefono, uf_Status, uf_NotaStatus, uf_FechaStatus, uf_proxcontac FROM "
+            "ut_icontact ORDER BY Sys_PK"),
         ElementsAre("María|961|2|compró|2026-03-14 09:10:00|2026-03-13 10:00:00",
                     "Luz|961 555|3||2026-03-14 09:20:00|2026-03-14 12:00:00",
                     "Nora|961|1|Actualizado por creación de proyecto|2026-03-14 09:15:00|2026-03-14 11:00:00",
-                    "Pedro|961|1|teléfono equivocado|2026-03-14 09:50:00|-",
-                    "Tere|961|0|-|-|2026-03-15 09:00:00"));
+                    "Pedro|961|1|teléfono equivocado|2026-03-14 09:50:00|NULL",
+                    "Tere|961|0|NULL|NULL|2026-03-15 09:00:00"));
     EXPECT_THAT(log(),
                 ElementsAre("prospecto " + maria + " ana 2026-03-14 09:10:00 ya compró en otro lado",
                             "prospecto " + maria + " ana 2026-03-14 09:10:00 >> Sin interés: compró",
@@ -203,7 +203,7 @@ TEST_F(AWorkingDay, empties_the_queue_and_leaves_nothing_unwritten)
                             "prospecto " + luz + " ana 2026-03-14 09:20:00 >> Oportunidad: ",
                             "proyecto " + silo + " ana 2026-03-14 09:30:00 planos recibidos",
                             "prospecto " + pedro + " ana 2026-03-14 09:50:00 >> Descartado: teléfono equivocado"));
-    EXPECT_THAT(inTheDatabase("SELECT CONCAT(IProyecto, '|', FInicio, '|', Hecho) FROM actividad ORDER BY Sys_PK"),
+    EXPECT_THAT(inTheDatabase("SELECT IProyecto, FInicio, Hecho FROM actividad ORDER BY Sys_PK"),
                 ElementsAre(silo + "|2026-03-14 08:00:00|1", silo + "|2026-03-20 10:00:00|0",
                             molino + "|2026-03-20 10:00:00|0"));
     const std::vector<std::string> asked{"CrearPersona Nora|Internal|Internal|1|961||x@x.mx||7",

@@ -9,30 +9,31 @@ namespace dn::tests {
 
 Day::Day()
 {
-    database("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
-    database("INSERT IGNORE INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
+    for (const char* table : {"Meta", "mdtpactividad"})
+        database(std::string("DELETE FROM ") + table);
+    database("INSERT INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
+    database("INSERT INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
     itIs("2026-03-14 09:30:00");
 }
 
 void Day::itIs(const std::string& moment)
 {
     ports.clock.now = parseIso(moment).value();
-    const std::string statement = "SET timestamp = UNIX_TIMESTAMP('" + moment + "')";
-    database(statement);
-    cnn->execute(statement);
-    cnn->statements.pop_back(); // not the control's
+    const std::size_t sent = cnn->statements.size();
+    storyServer().setClock(moment, {beside.get(), cnn.get()});
+    cnn->statements.resize(sent); // not the control's
 }
 
 std::int64_t Day::project(const std::string& name, std::int32_t agent)
 {
     database("INSERT INTO Organizacion (Nombre, Tel1) VALUES ('Org. " + name + "', '961 111')");
-    database("INSERT INTO Persona (Nombre, IOrganizacion) VALUES ('" + name + "', LAST_INSERT_ID())");
-    database("INSERT INTO Proyecto (Descripcion, IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) SELECT "
-             "'Proyecto de " +
-             name + "', " + std::to_string(agent) +
-             ", 1, IOrganizacion, Sys_PK, 1 FROM Persona WHERE Sys_PK = "
-             "LAST_INSERT_ID()");
-    return beside->execute("SELECT LAST_INSERT_ID()")->value(0).toWhole();
+    const std::string organisation = std::to_string(lastKey());
+    database("INSERT INTO Persona (Nombre, IOrganizacion) VALUES ('" + name + "', " + organisation + ")");
+    database("INSERT INTO Proyecto (Descripcion, IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) VALUES "
+             "('Proyecto de " +
+             name + "', " + std::to_string(agent) + ", 1, " + organisation + ", " + std::to_string(lastKey()) +
+             ", 1)");
+    return lastKey();
 }
 
 void Day::activity(std::int64_t project, const std::string& due)
@@ -72,10 +73,17 @@ std::vector<std::string> Day::seesQueue()
 
 std::vector<std::string> Day::log()
 {
-    return inTheDatabase(
-        "SELECT CONCAT(IF(uf_IProy IS NULL, CONCAT('prospecto ', uf_Iicontact), CONCAT('proyecto ', "
-        "uf_IProy)), ' ', uf_Usuario, ' ', uf_Tiempo, ' ', uf_Mensaje) FROM xt_biticontact ORDER BY "
-        "Sys_PK");
+    std::vector<std::string> lines;
+    const auto rows = beside->execute(
+        "SELECT uf_IProy, uf_Iicontact, uf_Usuario, uf_Tiempo, uf_Mensaje FROM xt_biticontact ORDER BY Sys_PK");
+    for (; !rows->Eof(); rows->MoveNext()) {
+        const bool prospect = rows->value(0).isNull();
+        std::string line(prospect ? "prospecto" : "proyecto");
+        for (const std::size_t column : {prospect ? 1U : 0U, 2U, 3U, 4U})
+            line.append(" ").append(rows->value(column).raw());
+        lines.push_back(line);
+    }
+    return lines;
 }
 
 std::size_t Day::queuePosition(const std::string& contact)

@@ -116,9 +116,9 @@ TEST_F(WatchingProjects, the_amount_has_thousands_and_cents)
 TEST_F(WatchingProjects, the_days_are_counted_by_the_database)
 {
     due("Antiguo", 1,
-        {{"Sys_DTCreated", "NOW() - INTERVAL 45 DAY"},
-         {"uf_ultimocontac", "NOW() - INTERVAL 3 DAY"},
-         {"uf_ultimointento", "NOW() + INTERVAL 2 DAY"}});
+        {{"Sys_DTCreated", storyServer().fromNow(-45)},
+         {"uf_ultimocontac", storyServer().fromNow(-3)},
+         {"uf_ultimointento", storyServer().fromNow(2)}});
     due("De hoy", 2);
     enters(ana);
     opensProjects();
@@ -212,15 +212,15 @@ TEST_F(WatchingProjects, a_table_that_is_gone_leaves_the_other_half_and_no_messa
     due("Con cita", 1);
     project("Sin cita");
     enters(ana);
-    database("RENAME TABLE actividad TO actividad_fuera");
+    database(storyServer().renaming("actividad", "actividad_fuera"));
     opensProjects();
     EXPECT_THAT(seesProjects(), testing::UnorderedElementsAre("Con cita", "Sin cita"));
     EXPECT_EQ(seesProjectCell("Con cita", "Actividad"), "< Ninguna >");
-    database("RENAME TABLE Meta TO Meta_fuera");
+    database(storyServer().renaming("Meta", "Meta_fuera"));
     opensProjects();
     EXPECT_THAT(seesProjects(), IsEmpty());
-    database("RENAME TABLE Meta_fuera TO Meta");
-    database("RENAME TABLE actividad_fuera TO actividad");
+    database(storyServer().renaming("Meta_fuera", "Meta"));
+    database(storyServer().renaming("actividad_fuera", "actividad"));
     opensProjects();
     EXPECT_THAT(seesProjects(), ElementsAre("Con cita", "Sin cita"));
 }

@@ -13,9 +13,10 @@ import java.nio.file.StandardOpenOption;
 final class BatchLog {
     private final Path file;
 
-    /** @param file where to; null writes nothing. */
-    BatchLog(Path file) {
+    /** @param file where to, from its beginning; null writes nothing. */
+    BatchLog(Path file) throws IOException {
         this.file = file;
+        if (file != null) Files.writeString(file, "");
     }
 
     synchronized void write(String application, int refused, String text) {

@@ -233,6 +233,7 @@ abstract class Expressions extends Cursor {
     }
 
     private void call() {
+        if (!peek().isName() && !next("LEFT") && !next("RIGHT")) throw wrong();
         Token name = take();
         mustSkip("(");
         if (name.is("DATEDIFF") || name.is("DATEADD")) dateFunction(name);

@@ -12,8 +12,10 @@ import java.sql.ResultSet;
 import java.sql.SQLException;
 import java.sql.Statement;
 import java.util.ArrayList;
+import java.util.HashSet;
 import java.util.List;
 import java.util.Locale;
+import java.util.Set;
 
 /** One client, from its greeting to its end. */
 final class Session implements Runner {
@@ -35,6 +37,7 @@ final class Session implements Runner {
     /** Year, month and day of a login in Spanish stand in this order. */
     private String dateFormat = "dmy";
     private String identityInsert = "";
+    private final Set<String> toRenumber = new HashSet<>();
     private Long identity;
     private long rowCount;
 
@@ -223,6 +226,7 @@ final class Session implements Runner {
 
     @Override
     public void call(String name, List<String> values) throws SQLException {
+        if (systemProcedure(name.toLowerCase(Locale.ROOT), values)) return;
         Procedure procedure = database.procedures.get(name.toLowerCase(Locale.ROOT));
         if (procedure == null) throw new SqlError(2812, 16, "Could not find stored procedure '" + name + "'.");
         if (values.size() > procedure.parameters().size())
@@ -241,6 +245,23 @@ final class Session implements Runner {
         noCount = outerNoCount; // a SET of a procedure ends with it
         calls--;
         reply.procedureDone();
+    }
+
+    /** The two of the server's own that are modelled; a lock is given to whoever asks. */
+    private boolean systemProcedure(String name, List<String> values) throws SQLException {
+        switch (name) {
+            case "sp_getapplock" -> reply.procedureDone();
+            case "sp_rename" -> {
+                try (Statement statement = engine.createStatement()) {
+                    statement.execute("ALTER TABLE " + Cursor.quote(values.get(0)) + " RENAME TO " + Cursor.quote(values.get(1)));
+                }
+                reply.procedureDone();
+            }
+            default -> {
+                return false;
+            }
+        }
+        return true;
     }
 
     @Override
@@ -282,6 +303,8 @@ final class Session implements Runner {
                     "The " + verb + " TRANSACTION request has no corresponding BEGIN TRANSACTION.");
         if (verb.equals("ROLLBACK")) engine.rollback();
         engine.setAutoCommit(!verb.equals("BEGIN"));
+        if (verb.equals("COMMIT")) for (String table : toRenumber) renumber(table, identityColumn(table));
+        if (!verb.equals("BEGIN")) toRenumber.clear();
         reply.statementDone(false, null);
     }
 
@@ -296,6 +319,7 @@ final class Session implements Runner {
                     + "'. Cannot perform SET operation for table '" + table + "'.");
         identityInsert = on ? table : "";
         if (!on && engine.getAutoCommit()) renumber(table, key);
+        else if (!on) toRenumber.add(table); // the engine would end the transaction
         reply.statementDone(false, null);
     }
 

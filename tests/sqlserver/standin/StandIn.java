@@ -21,6 +21,7 @@ import java.time.LocalDateTime;
  * <pre>
  *   StandIn USER PASSWORD DATABASE [LOG]
  *   clock 2026-03-14T09:30:00    on its input: the clock stands there; answered by "ok"
+ *   clock run                    it runs again
  * </pre>
  */
 public final class StandIn {
@@ -60,7 +61,8 @@ public final class StandIn {
         BufferedReader input = new BufferedReader(new InputStreamReader(System.in, StandardCharsets.UTF_8));
         for (String line = input.readLine(); line != null; line = input.readLine()) {
             if (!line.startsWith("clock ")) continue;
-            Clock.set(LocalDateTime.parse(line.substring("clock ".length())));
+            String moment = line.substring("clock ".length());
+            Clock.set(moment.equals("run") ? null : LocalDateTime.parse(moment));
             System.out.println("ok");
         }
     }
