@@ -64,6 +64,23 @@ TEST_F(SqlServerConnection, a_frozen_server_is_given_up_after_the_time_out)
     EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
 }
 
+// The server itself would run both.
+TEST_F(SqlServerConnection, a_second_statement_in_a_text_is_refused_and_neither_runs)
+{
+    const auto connection = connect();
+    connection->execute("CREATE TABLE #apiladas (id INT)");
+    for (const char* text : {"INSERT INTO #apiladas VALUES (1); INSERT INTO #apiladas VALUES (2)",
+                             "INSERT INTO #apiladas VALUES (1) INSERT INTO #apiladas VALUES (2)"}) {
+        try {
+            connection->execute(text);
+            ADD_FAILURE() << "no error";
+        } catch (const data::Error& error) {
+            EXPECT_STREQ(error.what(), "El texto contiene más de una instrucción SQL");
+        }
+    }
+    EXPECT_THAT(rowsOf(*connection, "SELECT COUNT(*) FROM #apiladas"), ElementsAre(Row{"0"}));
+}
+
 TEST_F(SqlServerConnection, an_update_of_no_row_is_no_failure)
 {
     const auto connection = connect();

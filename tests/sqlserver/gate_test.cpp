@@ -104,7 +104,7 @@ TEST_F(SqlServerGate, takes_what_may_look_strange)
 {
     for (const char* statement :
          {"SELECT a = 1", "SELECT 1 a, 2 [b c], 3 \"d\"", "SELECT TOP 5 * FROM Meta ORDER BY 1",
-          "select getdate(), LEN('a  '), N'ñ' + 'x'", "SELECT 1 SELECT 2",
+          "select getdate(), LEN('a  '), N'ñ' + 'x'",
           "SELECT * FROM Meta AS m WITH (NOLOCK) WHERE (m.Sys_PK + 1) * 2 > 4 OR (1 = 1)",
           "SELECT CASE WHEN 1 = 1 THEN 'a' ELSE 'b' END, CASE 1 WHEN 1 THEN 2 END",
           "SELECT COUNT(*), COUNT(DISTINCT Descripcion) FROM Meta HAVING COUNT(*) >= 0",
@@ -133,19 +133,28 @@ std::string joined(const std::vector<std::string>& words)
     return text;
 }
 
-/// Takes one word out, writes one twice, changes it with the next one, or puts a stray one ahead of it.
+/// Words that a statement may do without, or have more than once.
+bool isDispensable(const std::string& word)
+{
+    static const std::set<std::string> words{"AS", "as", "INNER", "EXEC", ";"};
+    return words.contains(word.substr(word.find_first_not_of(' ')));
+}
+
+/// Takes one word out, writes one three times (twice it may be its own alias), changes it with the next one, or
+/// puts a stray one ahead of it.
 std::string damaged(std::vector<std::string> words, std::mt19937& dice)
 {
     static const std::vector<std::string> strays{" )", " (", " ,",      " FROM",  " AND",
                                                  " =", " '", " SELECT", " NOW()", " `"};
-    const auto at = static_cast<std::ptrdiff_t>(dice() % words.size());
-    const auto place = words.begin() + at;
+    auto place = words.begin() + static_cast<std::ptrdiff_t>(dice() % words.size());
+    while (isDispensable(*place))
+        place = place == words.begin() ? words.end() - 2 : place - 1;
     switch (dice() % 4) {
     case 0:
         words.erase(place);
         break;
     case 1:
-        words.insert(place, " " + *place);
+        *place += " " + *place + " " + *place;
         break;
     case 2:
         if (place + 1 != words.end()) std::iter_swap(place, place + 1);

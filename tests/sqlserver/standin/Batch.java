@@ -14,12 +14,10 @@ import java.util.Set;
  * What it lets through it turns into the engine's words; every name goes on in quotes, so that no word of the engine's
  * own (TRUE, ROWNUM, LIMIT) means anything.
  */
-final class Batch extends Queries {
+final class Batch extends Definitions {
     private static final Set<String> SWITCHES = Set.of("NOCOUNT", "XACT_ABORT", "QUOTED_IDENTIFIER", "ANSI_NULLS",
             "ANSI_PADDING", "ANSI_WARNINGS", "ANSI_NULL_DFLT_ON", "CONCAT_NULL_YIELDS_NULL", "ARITHABORT",
             "IMPLICIT_TRANSACTIONS", "CURSOR_CLOSE_ON_COMMIT");
-
-    private final List<Step> steps = new ArrayList<>();
 
     private Batch(List<Token> tokens, Charset codePage, List<String> parameters) {
         super(tokens, codePage);
@@ -41,7 +39,7 @@ final class Batch extends Queries {
         while (!atEnd()) {
             if (!skip(";")) statement();
         }
-        return steps;
+        return steps();
     }
 
     private void statement() {
@@ -64,14 +62,6 @@ final class Batch extends Queries {
             case "USE" -> use();
             default -> throw wrong();
         }
-    }
-
-    private void add(Step step) {
-        steps.add(step);
-    }
-
-    private String words() {
-        return out.toString().strip();
     }
 
     // ---- Rows
@@ -166,7 +156,7 @@ final class Batch extends Queries {
         define();
     }
 
-    // ---- Procedures
+    // ---- Calls
 
     private void call() {
         String name = objectName();
@@ -207,195 +197,6 @@ final class Batch extends Queries {
     private static String name(Token token) {
         if (!token.isName()) throw SqlError.syntax(token);
         return token.value();
-    }
-
-    private void createProcedure() {
-        if (steps.size() > 0)
-            throw new SqlError(111, 15, "'CREATE/ALTER PROCEDURE' must be the first statement in a query batch.");
-        take();
-        String name = objectName();
-        List<String> names = new ArrayList<>();
-        boolean parentheses = skip("(");
-        if (peek().kind() == Token.Kind.VARIABLE) do names.add(parameter()); while (skip(","));
-        if (parentheses) mustSkip(")");
-        mustSkip("AS");
-        List<Token> body = new ArrayList<>();
-        while (!atEnd()) body.add(take());
-        if (body.isEmpty()) throw wrong();
-        body.add(peek());
-        Procedure procedure = new Procedure(name, names, body);
-        Batch.body(procedure, codePage); // a wrong one is not stored
-        add(runner -> runner.createProcedure(procedure));
-    }
-
-    private String parameter() {
-        if (peek().kind() != Token.Kind.VARIABLE) throw wrong();
-        String name = take().upper();
-        written(this::type);
-        return name;
-    }
-
-    // ---- Tables, views, indexes
-
-    private void create() {
-        take();
-        boolean orAlter = skip("OR");
-        if (orAlter) mustSkip("ALTER");
-        if (next("PROCEDURE") || next("PROC")) createProcedure();
-        else if (next("VIEW")) createView(orAlter);
-        else if (orAlter) throw wrong();
-        else if (next("TABLE")) createTable();
-        else if (next("UNIQUE") || next("CLUSTERED") || next("NONCLUSTERED") || next("INDEX")) createIndex();
-        else if (skip("DATABASE")) createDatabase();
-        else throw wrong();
-    }
-
-    private void createDatabase() {
-        String name = name();
-        String collation = skip("COLLATE") ? name() : "Modern_Spanish_100_CI_AS_SC_UTF8";
-        add(runner -> runner.createDatabase(name, collation));
-    }
-
-    private void createView(boolean orAlter) {
-        if (steps.size() > 0) throw new SqlError(111, 15, "'CREATE VIEW' must be the first statement in a query batch.");
-        write(orAlter ? "CREATE OR REPLACE" : "CREATE");
-        expect("VIEW");
-        write(quote(objectName()));
-        if (accept("(")) {
-            list(() -> write(quote(name())));
-            expect(")");
-        }
-        expect("AS");
-        query();
-        define();
-        if (!atEnd()) throw wrong();
-    }
-
-    private void createTable() {
-        take();
-        String table = objectName();
-        write(table.startsWith("#") ? "CREATE LOCAL TEMPORARY TABLE" : "CREATE TABLE");
-        write(quote(table));
-        expect("(");
-        list(() -> {
-            if (next("CONSTRAINT") || next("PRIMARY") || next("UNIQUE") || next("CHECK")) constraint(table);
-            else columnDefinition();
-        });
-        expect(")");
-        define();
-    }
-
-    private void columnDefinition() {
-        write(quote(name()));
-        type();
-        while (!next(",") && !next(")")) {
-            if (skip("IDENTITY")) identity();
-            else if (skip("COLLATE")) name();
-            else if (accept("NOT")) expect("NULL");
-            else if (accept("NULL")) continue;
-            else if (accept("DEFAULT")) value();
-            else if (accept("PRIMARY")) expect("KEY");
-            else if (!accept("UNIQUE")) throw wrong();
-        }
-    }
-
-    private void identity() {
-        if (skip("(")) {
-            take();
-            mustSkip(",");
-            take();
-            mustSkip(")");
-        }
-        write("GENERATED BY DEFAULT AS IDENTITY");
-    }
-
-    private void constraint(String table) {
-        if (accept("CONSTRAINT")) write(quote(table + "." + name()));
-        if (accept("CHECK")) {
-            expect("(");
-            condition();
-            expect(")");
-            return;
-        }
-        if (accept("PRIMARY")) expect("KEY");
-        else expect("UNIQUE");
-        if (!skip("CLUSTERED")) skip("NONCLUSTERED");
-        keyColumns();
-    }
-
-    private void keyColumns() {
-        expect("(");
-        list(() -> {
-            write(quote(name()));
-            if (!accept("ASC")) accept("DESC");
-        });
-        expect(")");
-    }
-
-    private void createIndex() {
-        write("CREATE");
-        accept("UNIQUE");
-        if (!skip("CLUSTERED")) skip("NONCLUSTERED");
-        expect("INDEX");
-        String index = name();
-        mustSkip("ON");
-        String table = objectName();
-        write(quote(table + "." + index) + " ON " + quote(table)); // its name is the table's own
-        keyColumns();
-        if (skip("INCLUDE")) written(this::keyColumns);
-        define();
-    }
-
-    private void alter() {
-        take();
-        write("ALTER");
-        expect("TABLE");
-        String table = objectName();
-        write(quote(table));
-        if (accept("ADD")) {
-            if (next("CONSTRAINT")) constraint(table);
-            else columnDefinitionBehindAdd();
-        } else {
-            expect("DROP");
-            expect("CONSTRAINT");
-            if (skip("IF")) {
-                mustSkip("EXISTS");
-                write("IF EXISTS");
-            }
-            write(quote(table + "." + name()));
-        }
-        define();
-    }
-
-    private void columnDefinitionBehindAdd() {
-        write(quote(name()));
-        type();
-        if (accept("NOT")) expect("NULL");
-        else accept("NULL");
-    }
-
-    private void drop() {
-        take();
-        String kind = take().upper();
-        boolean ifExists = skip("IF");
-        if (ifExists) mustSkip("EXISTS");
-        switch (kind) {
-            case "PROCEDURE", "PROC" -> {
-                String name = objectName();
-                add(runner -> runner.dropProcedure(name, ifExists));
-            }
-            case "TABLE", "VIEW" -> {
-                write("DROP " + kind + (ifExists ? " IF EXISTS" : ""));
-                write(quote(objectName()));
-                define();
-            }
-            default -> throw wrong();
-        }
-    }
-
-    private void define() {
-        String words = words();
-        add(runner -> runner.define(words));
     }
 
     // ---- The session

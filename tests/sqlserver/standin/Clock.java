@@ -10,6 +10,8 @@ import java.util.UUID;
 
 /** The server's clock, which a test may set, and what else the engine calls back for. */
 public final class Clock {
+    private static final int WHOLE_SECONDS = 19; // characters
+
     private static volatile LocalDateTime set;
 
     private Clock() {}
@@ -30,14 +32,10 @@ public final class Clock {
     /** A text as a moment: "yyyy-mm-dd hh:nn:ss" reads as year, day, month where the session's order is dmy. */
     public static LocalDateTime date(String text, String order) {
         if (text == null) return null;
-        String plain = text.strip();
-        try {
-            boolean iso = plain.contains("T");
-            String full = plain.length() == 10 ? plain + " 00:00:00" : plain;
-            String pattern = iso ? "uuuu-MM-dd'T'HH:mm:ss" : order.equals("dmy") ? "uuuu-dd-MM HH:mm:ss" : "uuuu-MM-dd HH:mm:ss";
-            return LocalDateTime.parse(full.length() > 19 ? full.substring(0, 19) : full, DateTimeFormatter.ofPattern(pattern));
-        } catch (RuntimeException wrong) {
-            throw new IllegalArgumentException("out of range");
-        }
+        String time = text.strip().length() == 10 ? text.strip() + " 00:00:00" : text.strip();
+        String pattern = time.contains("T") ? "uuuu-MM-dd'T'HH:mm:ss"
+                : order.equals("dmy") ? "uuuu-dd-MM HH:mm:ss" : "uuuu-MM-dd HH:mm:ss";
+        String seconds = time.length() > WHOLE_SECONDS ? time.substring(0, WHOLE_SECONDS) : time;
+        return LocalDateTime.parse(seconds, DateTimeFormatter.ofPattern(pattern));
     }
 }

@@ -18,7 +18,9 @@ import java.time.temporal.ChronoUnit;
 
 /** A column of a result: its type on the wire, and its values. */
 final class Column {
-    private enum Form { INT, BIT, FLOAT, DECIMAL, DATETIME, DATETIME2, DATE, TIME, NVARCHAR, NVARCHAR_MAX, VARCHAR, VARBINARY }
+    private enum Form {
+        INT, BIT, FLOAT, DECIMAL, DATETIME, DATETIME2, DATE, TIME, NVARCHAR, NVARCHAR_MAX, VARCHAR, VARBINARY
+    }
 
     private static final Charset WESTERN = Charset.forName("windows-1252");
     private static final int UNBOUNDED = 0xFFFF;
@@ -118,7 +120,8 @@ final class Column {
             case NVARCHAR -> sized(out, value == null ? null : ((String) value).getBytes(StandardCharsets.UTF_16LE));
             case VARCHAR -> sized(out, value == null ? null : ((String) value).getBytes(WESTERN));
             case VARBINARY -> sized(out, (byte[]) value);
-            case NVARCHAR_MAX -> pieces(out, value == null ? null : ((String) value).getBytes(StandardCharsets.UTF_16LE));
+            case NVARCHAR_MAX ->
+                pieces(out, value == null ? null : ((String) value).getBytes(StandardCharsets.UTF_16LE));
             default -> {
                 byte[] bytes = value == null ? new byte[0] : fixed(value);
                 out.u8(bytes.length).raw(bytes);

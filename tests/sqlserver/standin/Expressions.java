@@ -13,7 +13,7 @@ import java.util.Set;
 /** Values, conditions and types. */
 abstract class Expressions extends Cursor {
     private static final Set<String> COMPARISONS = Set.of("=", "<>", "!=", "<", "<=", ">", ">=", "!<", "!>");
-    /** Types without a length, with one of two kinds, and what the engine calls them. A length of MAX has none there. */
+    /** Types, and what the engine calls them; the second map has those that take a length, of which MAX is none there. */
     private static final Map<String, String> PLAIN_TYPES = Map.ofEntries(Map.entry("INT", "INTEGER"),
             Map.entry("INTEGER", "INTEGER"), Map.entry("BIGINT", "BIGINT"), Map.entry("SMALLINT", "SMALLINT"),
             Map.entry("TINYINT", "SMALLINT"), Map.entry("BIT", "BOOLEAN"), Map.entry("REAL", "REAL"),
@@ -215,7 +215,8 @@ abstract class Expressions extends Cursor {
     /** A text becomes a date by the order of year, month and day that the session has. */
     private void writeCast(String value, String engineType) {
         boolean moment = value.startsWith("'") && engineType.startsWith("TIMESTAMP(3)");
-        write("CAST(" + (moment ? "sysmoment(" + value + ", '\u0001DATEFORMAT\u0001')" : value) + " AS " + engineType + ")");
+        String from = moment ? "sysmoment(" + value + ", '\u0001DATEFORMAT\u0001')" : value;
+        write("CAST(" + from + " AS " + engineType + ")");
     }
 
     private void standardFunction() {

@@ -112,9 +112,12 @@ final class Lexer {
 
     private void word(Token.Kind kind) {
         int from = at++;
-        while (at < text.length() && (Character.isLetterOrDigit(text.charAt(at)) || "_@#$".indexOf(text.charAt(at)) >= 0))
-            at++;
+        while (at < text.length() && isOfWord(text.charAt(at))) at++;
         add(kind, from, text.substring(from, at));
+    }
+
+    private static boolean isOfWord(char c) {
+        return Character.isLetterOrDigit(c) || "_@#$".indexOf(c) >= 0;
     }
 
     private void symbol(char c) {

@@ -18,7 +18,7 @@ interface Runner {
 
     void call(String procedure, List<String> arguments) throws SQLException;
 
-    void createProcedure(Procedure procedure) throws SQLException;
+    void createProcedure(Procedure procedure, boolean orAlter) throws SQLException;
 
     void dropProcedure(String name, boolean ifExists) throws SQLException;
 

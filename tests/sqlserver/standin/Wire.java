@@ -10,7 +10,7 @@ import java.io.InputStream;
 import java.io.OutputStream;
 import java.util.Arrays;
 
-/** Messages in packets, each with a head of eight bytes: type, status, length (big end first), and four that do not matter. */
+/** Messages in packets. The head of one has eight bytes: type, status, length (big end first), four that do not matter. */
 final class Wire {
     static final int BATCH = 1;
     static final int REPLY = 4;
@@ -48,11 +48,6 @@ final class Wire {
             body.write(in.readNBytes(length - HEAD));
             if ((status & LAST) != 0) return new Message(type, body.toByteArray());
         }
-    }
-
-    /** Whether something of the client's waits to be read, such as the wish to stop. */
-    boolean waiting() throws IOException {
-        return in.available() >= HEAD;
     }
 
     void write(byte[] body) throws IOException {
