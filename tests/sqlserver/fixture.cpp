@@ -18,9 +18,11 @@ std::unique_ptr<data::Connection> OnStandIn::connect(const std::string& applicat
 std::unique_ptr<data::Connection> OnStandIn::freshDatabase(const std::string& name, const std::string& application)
 {
     connect()->execute("CREATE DATABASE " + name);
-    auto connection = host::connect(host::OdbcTarget{sharedStandIn().connectionString(name, application)});
-    host::createSchema(*connection, host::Engine::sqlServer);
-    return connection;
+    const auto to = [&](const std::string& who) {
+        return host::connect(host::OdbcTarget{sharedStandIn().connectionString(name, who)});
+    };
+    host::createSchema(*to("esquema"), host::Engine::sqlServer);
+    return to(application);
 }
 
 std::vector<Row> OnStandIn::rowsOf(data::Connection& connection, const std::string& statement)

@@ -4,8 +4,9 @@
 
     read_statements.py LOG...
 
-A log has a line for each text: who sent it, the number of its refusal or 0, the text. Those of the control are read,
-but for EXEC, which sqlglot does not know. Texts that differ by their values alone are read once.
+A log has a line for each text: who sent it, the number of its refusal or 0, the text. Those of the control that read or
+change rows are read; what is left of it is EXEC, which sqlglot does not know, and what the host sets on a connection.
+Texts that differ by their values alone are read once.
 """
 import re
 import sys
@@ -27,7 +28,8 @@ def statements(logs):
         with open(log, encoding="utf-8", newline="\n") as lines:
             for line in lines:
                 sender, refusal, text = line.rstrip("\n").split("\t", 2)
-                if sender == "control" and refusal == "0" and not text.startswith("EXEC "):
+                verb = text.split(" ", 1)[0].upper()
+                if sender == "control" and refusal == "0" and verb in ("SELECT", "INSERT", "UPDATE", "DELETE"):
                     shapes.setdefault(shape(text), unescaped(text))
     return shapes.values()
 

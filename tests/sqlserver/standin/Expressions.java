@@ -13,7 +13,7 @@ import java.util.Set;
 /** Values, conditions and types. */
 abstract class Expressions extends Cursor {
     private static final Set<String> COMPARISONS = Set.of("=", "<>", "!=", "<", "<=", ">", ">=", "!<", "!>");
-    /** Types, and what the engine calls them; the second map has those that take a length, of which MAX is none there. */
+    /** Types, and what the engine calls them; the second map has those with a length, of which MAX is none there. */
     private static final Map<String, String> PLAIN_TYPES = Map.ofEntries(Map.entry("INT", "INTEGER"),
             Map.entry("INTEGER", "INTEGER"), Map.entry("BIGINT", "BIGINT"), Map.entry("SMALLINT", "SMALLINT"),
             Map.entry("TINYINT", "SMALLINT"), Map.entry("BIT", "BOOLEAN"), Map.entry("REAL", "REAL"),

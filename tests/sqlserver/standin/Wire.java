@@ -10,7 +10,7 @@ import java.io.InputStream;
 import java.io.OutputStream;
 import java.util.Arrays;
 
-/** Messages in packets. The head of one has eight bytes: type, status, length (big end first), four that do not matter. */
+/** Messages in packets, each with a head of eight bytes: type, status, length (big end first), four that are idle. */
 final class Wire {
     static final int BATCH = 1;
     static final int REPLY = 4;
