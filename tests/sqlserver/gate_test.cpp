@@ -63,6 +63,7 @@ TEST_F(SqlServerGate, refuses_what_the_engine_behind_it_would_take)
                    {"SELECT 1 = 1 AS a, 2", 102},
                    {"SELECT isnull(uf_Nombre) FROM ut_icontact", 174},
                    {"SELECT * FROM (SELECT 1 AS a)", 102},
+                   {"SELECT a FROM (SELECT 1) AS t", 8155},
                    {"SELECT * FROM (SELECT Sys_PK FROM Meta ORDER BY Sys_PK) AS t", 1033},
                    {"SELECT LENGTH('a')", 195},
                    {"SELECT Descripcion FROM Meta FETCH FIRST 1 ROW ONLY", 156},

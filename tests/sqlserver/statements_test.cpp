@@ -6,6 +6,7 @@
 #include "tests/sqlserver/fixture.h"
 #include "tests/sqlserver/statements.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <regex>

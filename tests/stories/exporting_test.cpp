@@ -97,7 +97,10 @@ TEST_F(Exporting, both_lists_come_in_one_and_go_into_files)
                                        "Rosa Ñuño |Café «El Sol»|sol@example.com;rosa@example.com|55;961",
                                        "Gil  |Niebla||", "Total de Registros: 3"));
     });
-    if (onSqlServer()) return EXPECT_THAT(folder.names(), IsEmpty());
+    if (onSqlServer()) {
+        EXPECT_THAT(folder.names(), IsEmpty());
+        return;
+    }
     EXPECT_THAT(
         contentsOf(folder.file("correos.html")),
         HasSubstr("<tr><td>José Ñúñez</td><td>&lt;Acme&gt;</td><td>josé@example.com</td><td>961</td></tr>"));

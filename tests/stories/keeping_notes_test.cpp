@@ -99,7 +99,10 @@ TEST_F(KeepingNotes, a_backslash_at_the_end_breaks_the_statement_on_mariadb_and_
     const std::string before = sees("txtBit");
     if (!onSqlServer()) ports.dialogs.expectAnyBox();
     presses("cmdIntro");
-    if (onSqlServer()) return EXPECT_THAT(notes(), ElementsAre("C:\\"));
+    if (onSqlServer()) {
+        EXPECT_THAT(notes(), ElementsAre("C:\\"));
+        return;
+    }
     EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr("SQL syntax"));
     EXPECT_THAT(notes(), IsEmpty());
     EXPECT_EQ(sees("txtText"), "C:\\");
@@ -156,7 +159,7 @@ TEST_F(KeepingNotes, a_timeline_of_10_000_lines_reads_newest_first)
     const auto maria = std::to_string(prospect("María"));
     manyRows("INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, uf_Iicontact)", 10'000,
              [&](int line) {
-                 const DateTime time = DateTime{.year = 2026, .month = 1, .day = 1}.plusSeconds(line);
+                 const DateTime time = parseIso("2026-01-01").value().plusSeconds(line);
                  return "'" + formatDate(time, "yyyy-mm-dd hh:nn:ss") + "', 'línea " + std::to_string(line) +
                         "', 'web', " + maria;
              });

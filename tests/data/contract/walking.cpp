@@ -9,7 +9,7 @@ namespace {
 
 TEST_F(Contract, NoRowIsBeginAndEndAtOnce)
 {
-    const auto recordset = ask("SELECT 1 AS a FROM (SELECT 1) AS t WHERE 1 = 0", Rows{{"a"}, {}});
+    const auto recordset = ask("SELECT 1 AS a FROM (SELECT 1 AS uno) AS t WHERE 1 = 0", Rows{{"a"}, {}});
     ASSERT_TRUE(recordset);
     EXPECT_TRUE(recordset->Eof());
     EXPECT_TRUE(recordset->Bof());

@@ -36,7 +36,8 @@ abstract class Queries extends Expressions {
         }
     }
 
-    private boolean limited;
+    private boolean limited; // the last SELECT has a TOP
+    private int unnamed; // the first column without a name of the last SELECT, from 1 on; 0 for none
 
     private void core() {
         if (accept("(")) {
@@ -48,7 +49,7 @@ abstract class Queries extends Expressions {
         if (!accept("DISTINCT")) skip("ALL");
         limited = false;
         if (skip("TOP")) top();
-        list(this::item);
+        int firstUnnamed = items();
         if (skip("INTO")) throw new SqlError(50000, 16, "Stand-in: SELECT INTO is not modelled.");
         if (accept("FROM")) list(this::source);
         if (accept("WHERE")) condition();
@@ -57,6 +58,16 @@ abstract class Queries extends Expressions {
             list(this::value);
         }
         if (accept("HAVING")) condition();
+        unnamed = firstUnnamed; // sources and conditions have SELECTs of their own
+    }
+
+    private int items() {
+        int[] seen = {0, 0};
+        list(() -> {
+            seen[0]++;
+            if (!item() && seen[1] == 0) seen[1] = seen[0];
+        });
+        return seen[1];
     }
 
     private void top() {
@@ -67,8 +78,9 @@ abstract class Queries extends Expressions {
         limited = true;
     }
 
-    private void item() {
-        if (accept("*")) return;
+    /** @return whether the column has a name. */
+    private boolean item() {
+        if (accept("*")) return true;
         if (peek().isName() && peek(1).is(".") && peek(2).is("*")) {
             write(quote(name()) + ".*");
             take();
@@ -79,17 +91,21 @@ abstract class Queries extends Expressions {
             value();
             write("AS " + quote(alias));
         } else {
+            boolean column = peek().isName();
             value();
-            alias();
+            Token last = peek(-1);
+            return alias() || (column && last.isName());
         }
+        return true;
     }
 
-    private void alias() {
+    private boolean alias() {
         boolean told = skip("AS");
         Token token = peek();
         boolean text = token.kind() == Token.Kind.TEXT;
         if (token.isName() || text) write("AS " + quote(take().value()));
         else if (told) throw wrong();
+        return token.isName() || text;
     }
 
     // ---- Sources
@@ -128,11 +144,15 @@ abstract class Queries extends Expressions {
         expect("(");
         query();
         expect(")");
+        int without = unnamed;
         skip("AS");
-        write("AS " + quote(name()));
+        String alias = name();
+        write("AS " + quote(alias));
         if (accept("(")) {
             list(() -> write(quote(name())));
             expect(")");
+        } else if (without > 0) {
+            throw new SqlError(8155, 16, "No column name was specified for column " + without + " of '" + alias + "'.");
         }
     }
 
