@@ -49,6 +49,12 @@ BulkInsert& BulkInsert::moment(const DateTime& value)
     return *this;
 }
 
+BulkInsert& BulkInsert::date(const DateTime& value)
+{
+    appendDate(next(), value);
+    return *this;
+}
+
 BulkInsert& BulkInsert::null()
 {
     next() += "NULL";

@@ -26,6 +26,7 @@ public:
     BulkInsert& text(std::string_view value);
     BulkInsert& number(std::int64_t value);
     BulkInsert& moment(const DateTime& value);
+    BulkInsert& date(const DateTime& value); ///< without its time
     BulkInsert& null();
 
     BulkInsert& text(const char* value) { return text(std::string_view(value)); }

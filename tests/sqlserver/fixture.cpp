@@ -45,7 +45,7 @@ std::int32_t OnStandIn::refusalOf(data::Connection& connection, const std::strin
             rows->MoveNext();
         return 0;
     } catch (const data::Error& refusal) {
-        return static_cast<std::int32_t>(refusal.nativeCode());
+        return refusal.nativeCode() == 0 ? aheadOfTheServer : static_cast<std::int32_t>(refusal.nativeCode());
     }
 }
 

@@ -28,6 +28,8 @@ protected:
 
     /// The rows of a statement, each value in its raw text, a null as "NULL".
     static std::vector<Row> rowsOf(data::Connection& connection, const std::string& statement);
+    /// The refusal of our own connection, which lets no second statement in one text through.
+    static constexpr std::int32_t aheadOfTheServer = -1;
     /// SQL Server's number for the refusal of a statement; 0 when it is taken.
     static std::int32_t refusalOf(data::Connection& connection, const std::string& statement);
 };

@@ -71,7 +71,7 @@ TEST_F(ChangingStatus, an_apostrophe_in_the_reason_is_the_servers_matter_and_is_
     answers("Motivo del cambio de estado:", "d'Arc");
     ports.dialogs.expectAnyBox();
     picks("Combo1", "Descartado");
-    EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::HasSubstr(storyServer().syntaxWords()));
+    EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
     EXPECT_THAT(statusOf("María"), ElementsAre("0|NULL|nunca"));
     EXPECT_THAT(log(), IsEmpty());
     EXPECT_THAT(seesProspects(), ElementsAre("María"));

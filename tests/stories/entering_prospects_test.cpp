@@ -189,7 +189,7 @@ TEST_F(EnteringProspects, an_apostrophe_is_lost_in_the_row_and_breaks_what_is_le
         press(form, "cmdOk");
     });
     EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::StartsWith("Error: "));
-    EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr(storyServer().syntaxWords()));
+    EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
     EXPECT_THAT(seesProspects(), ElementsAre("Juana dArc"));
     EXPECT_THAT(stored("uf_Interes"), ElementsAre("LOréal"));
     EXPECT_THAT(inTheDatabase("SELECT uf_Interes FROM ut_InteresContacto"), IsEmpty());
@@ -216,7 +216,7 @@ TEST_F(EnteringProspects, a_name_that_holds_a_marker_breaks_the_insert_and_nothi
         types(form, "txtNombre", "soy @uf_EMail");
         ports.dialogs.expectAnyBox();
         press(form, "cmdOk");
-        EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr(storyServer().syntaxWords()));
+        EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
         EXPECT_TRUE(form.Visible());
         types(form, "txtNombre", "soy @uf_status"); // a number needs no quotes
         press(form, "cmdOk");
@@ -304,7 +304,7 @@ TEST_F(EnteringProspects, an_apostrophe_in_a_correction_is_told_in_the_servers_w
         types(form, "txtNombre", "Juana d'Arc");
         ports.dialogs.expectAnyBox();
         press(form, "cmdOk");
-        EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr(storyServer().syntaxWords()));
+        EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
         EXPECT_THAT(stored("uf_Nombre"), ElementsAre("Juana"));
         EXPECT_EQ(elementNamed<screen::TextBox>(form, "txtNombre").Text(), "Juana d'Arc");
         types(form, "txtNombre", "Juana de Arco");

@@ -8,6 +8,8 @@
 
 #include "data/connection.h"
 
+#include <gmock/gmock.h>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,8 +40,8 @@ public:
     virtual std::string secondsSince(const std::string& column) const = 0;
     virtual std::string daysSince(const std::string& column) const = 0;
     virtual std::string renaming(const std::string& from, const std::string& to) const = 0;
-    /// What the server's text about a statement with an apostrophe too many says.
-    virtual std::string syntaxWords() const = 0;
+    /// The server's text about a statement with an apostrophe too many.
+    virtual testing::Matcher<std::string> syntaxRefusal() const = 0;
 };
 
 /// The one that all stories of the program run on.

@@ -177,7 +177,7 @@ final class Column {
 
     /** Days since 1900 and three hundredths of a second. */
     private static void moment(Bytes out, LocalDateTime moment) {
-        long ticks = Math.round(moment.toLocalTime().toNanoOfDay() / 1e9 * 300);
+        long ticks = (moment.toLocalTime().toNanoOfDay() * 300 + 500_000_000) / 1_000_000_000;
         long days = ChronoUnit.DAYS.between(FIRST_MOMENT.toLocalDate(), moment.toLocalDate());
         out.u32(days).u32(ticks);
     }
