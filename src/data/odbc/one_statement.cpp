@@ -20,7 +20,7 @@ constexpr std::array starters{"INSERT",     "UPDATE",      "DELETE",   "EXEC",  
                               "USE",        "WAITFOR",     "IF",       "WHILE",     "BEGIN",      "COMMIT",
                               "ROLLBACK",   "SAVE",        "DBCC",     "BULK",      "PRINT",      "RAISERROR",
                               "RETURN",     "GOTO",        "OPEN",     "CLOSE",     "DEALLOCATE", "REVERT",
-                              "CHECKPOINT", "RECONFIGURE", "READTEXT", "WRITETEXT", "UPDATETEXT"};
+                              "CHECKPOINT", "RECONFIGURE", "READTEXT", "WRITETEXT", "UPDATETEXT", "SETUSER"};
 
 template <class Words>
 bool isOneOf(std::string_view word, const Words& words)
@@ -30,15 +30,24 @@ bool isOneOf(std::string_view word, const Words& words)
 
 bool isOfWord(char c)
 {
-    const auto byte = static_cast<unsigned char>(c);
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '@' ||
-           c == '#' || c == '$' || byte >= 0x80;
+           c == '#' || c == '$';
+}
+
+/// Beyond ASCII there are blanks as well as letters. All count as blanks here: a word must not hide behind one.
+bool isBlank(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    return byte <= ' ' || byte >= 0x80;
 }
 
 /// Gives the words and signs of a text without its comments; a text or a name in quotes is the sign of its quote.
 class Words {
 public:
     explicit Words(std::string_view text) : rest_(text) {}
+
+    /// Whether there was a comment of which a server may see another end.
+    bool doubtful() const { return doubtful_; }
 
     /// @return an empty word at the end.
     std::string_view next()
@@ -75,14 +84,21 @@ private:
     {
         while (!rest_.empty()) {
             if (rest_.starts_with("--"))
-                take(std::min(rest_.find('\n'), rest_.size()));
+                skipLine();
             else if (rest_.starts_with("/*"))
                 skipComment();
-            else if (static_cast<unsigned char>(rest_.front()) <= ' ')
+            else if (isBlank(rest_.front()))
                 take(1);
             else
                 return;
         }
+    }
+
+    void skipLine()
+    {
+        const std::size_t end = std::min(rest_.find_first_of("\r\n"), rest_.size());
+        doubtful_ = doubtful_ || (rest_.substr(end).starts_with("\r") && !rest_.substr(end).starts_with("\r\n"));
+        take(end);
     }
 
     void skipComment() // they nest
@@ -97,6 +113,7 @@ private:
     }
 
     std::string_view rest_;
+    bool doubtful_ = false;
 };
 
 /// Looks at one statement that reads or writes rows, word by word.
@@ -153,7 +170,7 @@ bool isStacked(std::string_view text)
         ended = ended || word == ";";
         if (isOneOf(first, ofRows) && statement.endsAt(word)) return true;
     }
-    return false;
+    return words.doubtful();
 }
 
 void requireOneStatement(std::string_view text)

@@ -48,5 +48,14 @@ TEST(OneStatement, IsNoLongerOneWithAnotherThatFollowsBare)
         EXPECT_TRUE(isStacked(text)) << text;
 }
 
+TEST(OneStatement, HidesNothingBehindAStrangeBlankOrTheEndOfAComment)
+{
+    for (const char* text : {"UPDATE t SET a='x'\u00A0UPDATE t SET b = 1", "SELECT 1\u3000DROP TABLE t",
+                             "SELECT 1 -- a\rDROP TABLE t", "SELECT 1 -- a\r'\nDROP TABLE t --'",
+                             "SELECT 1 /* /* */ DROP TABLE t */ DROP TABLE t"})
+        EXPECT_TRUE(isStacked(text)) << text;
+    EXPECT_FALSE(isStacked("SELECT 'ñ' AS año, número -- ñ\r\n FROM añejo"));
+}
+
 } // namespace
 } // namespace dn::data::odbc
