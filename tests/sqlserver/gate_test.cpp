@@ -119,7 +119,7 @@ TEST_F(SqlServerGate, takes_what_may_look_strange)
 /// The words of a statement, each with the blanks ahead of it.
 std::vector<std::string> wordsOf(const std::string& statement)
 {
-    static const std::regex word(R"re(\s*('(?:[^']|'')*'|[\wÀ-ÿ@]+|[<>]=?|\S))re");
+    static const std::regex word(R"re(\s*('(?:[^']|'')*'|[\wÀ-ÿ@]+|<>|[<>]=?|\S))re");
     std::vector<std::string> words;
     for (std::sregex_iterator it(statement.begin(), statement.end(), word); it != std::sregex_iterator(); ++it)
         words.push_back(it->str());
@@ -141,7 +141,7 @@ bool isDispensable(const std::string& word)
     return words.contains(word.substr(word.find_first_not_of(' ')));
 }
 
-/// Takes one word out, writes one three times (twice it may be its own alias), changes it with the next one, or
+/// Takes one word out, writes one three times (twice it may be its own alias), changes it with its neighbour, or
 /// puts a stray one ahead of it.
 std::string damaged(std::vector<std::string> words, std::mt19937& dice)
 {
@@ -158,7 +158,7 @@ std::string damaged(std::vector<std::string> words, std::mt19937& dice)
         *place += " " + *place + " " + *place;
         break;
     case 2:
-        if (place + 1 != words.end()) std::iter_swap(place, place + 1);
+        std::iter_swap(place, place + 1 == words.end() ? place - 1 : place + 1);
         break;
     default:
         words.insert(place, strays[dice() % strays.size()]);
@@ -166,8 +166,8 @@ std::string damaged(std::vector<std::string> words, std::mt19937& dice)
     return joined(words);
 }
 
-// What is taken all the same was looked at, one by one: it is what SQL Server takes too, a comma that was taken
-// out of a list of columns, so that the next column became an alias.
+// What is taken all the same was looked at, one by one: it is what SQL Server takes too, mostly a comma that was
+// taken out of a list of columns, so that the next column became an alias.
 TEST_F(SqlServerGate, refuses_nearly_every_statement_with_one_word_damaged)
 {
     constexpr int tries = 1000;
