@@ -122,7 +122,13 @@ void SqlServerStandIn::kill() noexcept
     id_ = 0;
 }
 
-void SqlServerStandIn::freeze() const noexcept { ::kill(id_, SIGSTOP); }
+void SqlServerStandIn::freeze() const noexcept
+{
+    if (id_ <= 0 || ::kill(id_, SIGSTOP) != 0) return;
+    siginfo_t how{}; // until the last of its threads stands still
+    while (::waitid(P_PID, static_cast<id_t>(id_), &how, WSTOPPED | WEXITED | WNOWAIT) < 0 && errno == EINTR) {
+    }
+}
 
 SqlServerStandIn& sharedStandIn()
 {
