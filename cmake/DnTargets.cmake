@@ -38,6 +38,16 @@ function(dn_configure target)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}")
+    if(DN_UNITY STREQUAL "all")
+        dn_unite(${target})
+    endif()
+endfunction()
+
+# dn_unite(TARGET): compiles its files in bundles, which read each header and instantiate each template once. Names of
+# one file that hide those of another are no mistake then, and builds without bundles look for real ones.
+function(dn_unite target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+    target_compile_options(${target} PRIVATE -Wno-shadow)
 endfunction()
 
 # dn_precompile(TARGET HEADER...): headers that most files of the target include, read once for all of them.
@@ -68,5 +78,8 @@ function(dn_configure_test target)
     dn_configure(${target})
     if(CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo")
         target_compile_options(${target} PRIVATE -O0)
+    endif()
+    if(DN_UNITY STREQUAL "tests")
+        dn_unite(${target})
     endif()
 endfunction()

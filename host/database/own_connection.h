@@ -39,6 +39,12 @@ private:
     bool inTransaction_ = false; // then a lost connection stays lost: what ran before it is gone with it
 };
 
+/// A cell of the current row as text; empty for a null.
+inline std::string textOf(const data::Recordset& row, std::size_t column)
+{
+    return std::string(row.value(column).raw());
+}
+
 /// What runs between its making and `commit` is stored whole or not at all.
 class Transaction {
 public:

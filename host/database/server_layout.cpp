@@ -40,8 +40,10 @@ void requireRoom(const ServerFolder& folder, std::uintmax_t bytes)
 
 HostError installFailed(const ServerFolder& folder)
 {
-    return HostError{"No se pudo crear la base de datos en «" + folder.root.string() + "». Últimas líneas de «" +
-                     folder.installLog.string() + "»:\n" + lastLines(folder.installLog, 12)};
+    std::string lines = complaints(folder.installLog, 8);
+    if (lines.empty()) lines = lastLines(folder.installLog, 12);
+    return HostError{"No se pudo crear la base de datos en «" + folder.root.string() + "». De «" +
+                     folder.installLog.string() + "»:\n" + lines};
 }
 
 void install(const ServerFolder& folder, const ServerBinaries& programs, const fs::path& fresh)

@@ -55,6 +55,18 @@ std::string lastLines(const fs::path& file, std::size_t count)
     return text;
 }
 
+std::string complaints(const fs::path& file, std::size_t count)
+{
+    std::ifstream in(file);
+    std::string text;
+    for (std::string line; count > 0 && std::getline(in, line);) {
+        if (line.find("ERROR") == std::string::npos && line.find("FATAL") == std::string::npos) continue;
+        text += line + '\n';
+        --count;
+    }
+    return text;
+}
+
 void putLogAside(const fs::path& log)
 {
     std::error_code ignored; // without a former log there is nothing to keep

@@ -12,6 +12,10 @@ namespace dn::host {
 /// The last lines of a text file, or an empty text.
 std::string lastLines(const std::filesystem::path& file, std::size_t count);
 
+/// The first lines of a text file in which a server or its installer complains: their closing lines are advice on
+/// where to ask for help. Empty when there are none.
+std::string complaints(const std::filesystem::path& file, std::size_t count);
+
 /// Keeps the log of the former start under another name and makes way for a new one.
 void putLogAside(const std::filesystem::path& log);
 

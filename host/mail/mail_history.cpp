@@ -22,12 +22,6 @@ std::string storedBody(const Message& message)
     return body;
 }
 
-std::string cell(const data::Recordset& row, std::size_t column)
-{
-    const data::Value value = row.value(column);
-    return value.isNull() ? std::string() : std::string(value.raw());
-}
-
 } // namespace
 
 bool keepsMailHistory(OwnConnection& database)
@@ -57,15 +51,15 @@ std::vector<StoredMail> mailsOf(OwnConnection& database, const std::string& reco
     const auto rows = database.run(statement.bind(record).limit(historyLimit));
     std::vector<StoredMail> mails;
     for (; !rows->Eof(); rows->MoveNext())
-        mails.push_back({rows->value(0).toInt32(), cell(*rows, 1), cell(*rows, 2), cell(*rows, 3), cell(*rows, 4),
-                         cell(*rows, 5)});
+        mails.push_back({rows->value(0).toInt32(), textOf(*rows, 1), textOf(*rows, 2), textOf(*rows, 3),
+                         textOf(*rows, 4), textOf(*rows, 5)});
     return mails;
 }
 
 std::string mailBody(OwnConnection& database, std::int32_t key)
 {
     const auto row = database.run(Statement("SELECT cuerpo FROM correo_historial WHERE Sys_PK = ?").bind(key));
-    return row->Eof() ? std::string() : cell(*row, 0);
+    return row->Eof() ? std::string() : textOf(*row, 0);
 }
 
 std::string sizeText(std::size_t bytes)

@@ -21,12 +21,6 @@ PartyFields emptyFields()
 
 namespace {
 
-std::string cell(const data::Recordset& row, std::size_t column)
-{
-    const data::Value value = row.value(column);
-    return value.isNull() ? std::string() : std::string(trimmed(value.raw()));
-}
-
 void ofProspect(OwnConnection& database, const std::string& identifier, PartyFields& fields)
 {
     Statement statement("SELECT uf_Nombre, uf_Empresa, uf_Puesto, uf_Telefono, uf_EMail, uf_Ciudad, uf_Estado, "
@@ -35,7 +29,7 @@ void ofProspect(OwnConnection& database, const std::string& identifier, PartyFie
     if (row->Eof()) return;
     std::size_t column = 0;
     for (const char* field : {"nombre", "empresa", "puesto", "telefono", "correo", "ciudad", "estado", "pais"})
-        fields[field] = cell(*row, column++);
+        fields[field] = textOf(*row, column++);
 }
 
 void ofProject(OwnConnection& database, const std::string& identifier, PartyFields& fields)
@@ -49,8 +43,8 @@ void ofProject(OwnConnection& database, const std::string& identifier, PartyFiel
     if (row->Eof()) return;
     std::size_t column = 0;
     for (const char* field : {"proyecto", "meta", "empresa", "puesto", "telefono", "correo"})
-        fields[field] = cell(*row, column++);
-    fields["nombre"] = fullName(cell(*row, 6), cell(*row, 7), cell(*row, 8));
+        fields[field] = textOf(*row, column++);
+    fields["nombre"] = fullName(textOf(*row, 6), textOf(*row, 7), textOf(*row, 8));
 }
 
 struct Place {

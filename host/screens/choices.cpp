@@ -11,7 +11,7 @@
 namespace dn::host {
 namespace {
 
-std::vector<Choice> read(OwnConnection& database, const Statement& statement)
+std::vector<Choice> readChoices(OwnConnection& database, const Statement& statement)
 {
     std::vector<Choice> choices;
     const auto rows = database.run(statement);
@@ -36,24 +36,25 @@ QIcon patch(const QColor& colour)
 
 std::vector<Choice> readGoals(OwnConnection& database)
 {
-    return read(database, Statement("SELECT Sys_PK, Descripcion FROM Meta ORDER BY Descripcion"));
+    return readChoices(database, Statement("SELECT Sys_PK, Descripcion FROM Meta ORDER BY Descripcion"));
 }
 
 std::vector<Choice> readAgents(OwnConnection& database)
 {
-    return read(database, Statement("SELECT Sys_PK, Nombre FROM Agente ORDER BY Nombre"));
+    return readChoices(database, Statement("SELECT Sys_PK, Nombre FROM Agente ORDER BY Nombre"));
 }
 
 std::vector<Choice> readCities(OwnConnection& database)
 {
-    return read(database, Statement("SELECT Sys_PK, CASE WHEN Estado IS NULL THEN Nombre ELSE CONCAT(Nombre, ?, "
-                                    "Estado) END FROM Ciudad ORDER BY Nombre, Estado")
-                              .bind(", "));
+    return readChoices(database,
+                       Statement("SELECT Sys_PK, CASE WHEN Estado IS NULL THEN Nombre ELSE CONCAT(Nombre, ?, "
+                                 "Estado) END FROM Ciudad ORDER BY Nombre, Estado")
+                           .bind(", "));
 }
 
 std::vector<Choice> readActivityKinds(OwnConnection& database)
 {
-    return read(database, Statement("SELECT Sys_PK, Nombre FROM mdtpactividad ORDER BY Nombre"));
+    return readChoices(database, Statement("SELECT Sys_PK, Nombre FROM mdtpactividad ORDER BY Nombre"));
 }
 
 std::vector<Choice> temperatures(bool ended)

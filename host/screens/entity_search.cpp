@@ -32,7 +32,7 @@ std::string patternOf(std::string_view text)
     return pattern;
 }
 
-std::vector<Entity> read(OwnConnection& database, const Statement& statement, bool organisation)
+std::vector<Entity> readEntities(OwnConnection& database, const Statement& statement, bool organisation)
 {
     std::vector<Entity> found;
     const auto rows = database.run(statement);
@@ -87,7 +87,7 @@ void EntitySearch::addBeginnings(const std::string& text)
     std::vector<Entity> names;
     std::vector<Entity> others;
     const auto add = [this](std::vector<Entity>& to, const Statement& statement, bool organisation) {
-        std::ranges::move(read(database_, statement, organisation), std::back_inserter(to));
+        std::ranges::move(readEntities(database_, statement, organisation), std::back_inserter(to));
     };
     if (scope_.organisations) add(names, organisationsFrom(pattern_), true);
     if (scope_.persons) add(names, personsFrom(pattern_), false);
@@ -123,7 +123,8 @@ bool EntitySearch::goOn()
     try {
         const Statement statement = slice.organisations ? organisationsWith(pattern_, slice.first, slice.last)
                                                         : personsWith(pattern_, slice.first, slice.last);
-        std::ranges::copy_if(read(database_, statement, slice.organisations), std::back_inserter(elsewhere_),
+        std::ranges::copy_if(readEntities(database_, statement, slice.organisations),
+                             std::back_inserter(elsewhere_),
                              [this](const Entity& one) { return !holds(found_, one); });
     } catch (...) {
         slices_.clear();

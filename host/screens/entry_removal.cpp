@@ -26,7 +26,7 @@ struct Removal {
     const char* remedy; // what frees the entry
 };
 
-constexpr Removal person{
+constexpr Removal personRemoval{
     "SELECT COUNT(*) FROM Proyecto WHERE IContacto = ?",
     "SELECT COUNT(*) FROM actividad a JOIN Proyecto p ON p.Sys_PK = a.IProyecto WHERE p.IContacto = ?",
     "SELECT COUNT(*) FROM Persona WHERE Sys_PK = ? AND 0 = 1",
@@ -35,7 +35,7 @@ constexpr Removal person{
     "a la persona",
     "Ponga antes a otra persona en esos proyectos."};
 
-constexpr Removal organisation{
+constexpr Removal organisationRemoval{
     "SELECT COUNT(*) FROM Proyecto WHERE IOrganizacion = ?",
     "SELECT COUNT(*) FROM actividad a JOIN Proyecto p ON p.Sys_PK = a.IProyecto WHERE p.IOrganizacion = ?",
     "SELECT COUNT(*) FROM Persona WHERE IOrganizacion = ?",
@@ -95,7 +95,7 @@ bool isTied(OwnConnection& database, const Removal& removal, std::int32_t key, c
 bool removeEntry(ScreenContext& context, PartyField::Kind kind, std::int32_t key, bool confirm, QWidget* over)
 {
     const bool ofOrganisation = kind == PartyField::Kind::organisation;
-    const Removal& removal = ofOrganisation ? organisation : person;
+    const Removal& removal = ofOrganisation ? organisationRemoval : personRemoval;
     OwnConnection& database = context.database;
     const auto entity = findEntity(database, ofOrganisation, key);
     if (!entity) {

@@ -10,8 +10,8 @@ namespace dn::host {
 namespace {
 
 // The kinds of party of CrearProyecto; any other means none.
-constexpr std::int16_t person = 0;
-constexpr std::int16_t organisation = 1;
+constexpr std::int16_t kindPerson = 0;
+constexpr std::int16_t kindOrganisation = 1;
 
 } // namespace
 
@@ -50,8 +50,8 @@ void ProjectScreens::CrearProyecto(std::int16_t& kind, std::int32_t& party, std:
     QWidget* const over = windowBelow(context_->window);
     reporting(over, [&] {
         ProjectForm form(*context_, 0, over);
-        if (kind == person) form.person(party);
-        if (kind == organisation) form.organisation(party);
+        if (kind == kindPerson) form.person(party);
+        if (kind == kindOrganisation) form.organisation(party);
         if (form.exec() == QDialog::Accepted) result = form.key();
     });
 }

@@ -8,7 +8,7 @@
 namespace dn::host {
 namespace {
 
-std::vector<Relation> read(OwnConnection& database, Statement statement)
+std::vector<Relation> readRelations(OwnConnection& database, Statement statement)
 {
     std::vector<Relation> relations;
     const auto rows = database.run(statement.limit(relationLimit));
@@ -37,7 +37,7 @@ std::vector<Relation> relatedProjects(OwnConnection& database, bool organisation
     Statement ofPerson("SELECT p.Sys_PK, p.FInicio, p.Descripcion, m.Descripcion, p.UF_Status1, p.UF_monto "
                        "FROM Proyecto p LEFT JOIN Meta m ON m.Sys_PK = p.IMeta WHERE p.IContacto = ? "
                        "ORDER BY p.FInicio DESC, p.Sys_PK");
-    return read(database, (organisation ? ofOrganisation : ofPerson).bind(key));
+    return readRelations(database, (organisation ? ofOrganisation : ofPerson).bind(key));
 }
 
 std::vector<Relation> relatedActivities(OwnConnection& database, bool organisation, std::int32_t key)
@@ -49,20 +49,21 @@ std::vector<Relation> relatedActivities(OwnConnection& database, bool organisati
     Statement ofPerson("SELECT p.Sys_PK, a.FInicio, t.Nombre, a.Asunto, a.Hecho, p.Descripcion FROM "
                        "actividad a JOIN Proyecto p ON p.Sys_PK = a.IProyecto LEFT JOIN mdtpactividad t ON "
                        "t.Sys_PK = a.ITpActividad WHERE p.IContacto = ? ORDER BY a.Hecho, a.FInicio, a.Sys_PK");
-    return read(database, (organisation ? ofOrganisation : ofPerson).bind(key));
+    return readRelations(database, (organisation ? ofOrganisation : ofPerson).bind(key));
 }
 
 std::vector<Relation> relatedParties(OwnConnection& database, bool organisation, std::int32_t key)
 {
     if (!organisation) // a UNION leaves each key once
-        return read(database,
-                    Statement("SELECT o.Sys_PK, o.Nombre, COALESCE(o.Tel1, o.Tel2, o.Tel3), o.EMail FROM (SELECT "
-                              "IOrganizacion AS clave FROM Proyecto WHERE IContacto = ? UNION SELECT "
-                              "IOrganizacion FROM Persona WHERE Sys_PK = ?) claves JOIN Organizacion o ON "
-                              "o.Sys_PK = claves.clave ORDER BY o.Nombre, o.Sys_PK")
-                        .bind(key)
-                        .bind(key));
-    std::vector<Relation> persons = read(
+        return readRelations(
+            database,
+            Statement("SELECT o.Sys_PK, o.Nombre, COALESCE(o.Tel1, o.Tel2, o.Tel3), o.EMail FROM (SELECT "
+                      "IOrganizacion AS clave FROM Proyecto WHERE IContacto = ? UNION SELECT "
+                      "IOrganizacion FROM Persona WHERE Sys_PK = ?) claves JOIN Organizacion o ON "
+                      "o.Sys_PK = claves.clave ORDER BY o.Nombre, o.Sys_PK")
+                .bind(key)
+                .bind(key));
+    std::vector<Relation> persons = readRelations(
         database,
         Statement("SELECT p.Sys_PK, p.Nombre, p.Apellido1, p.Apellido2, COALESCE(p.Tel_Trabajo, p.Tel_Movil, "
                   "p.Tel_Casa), p.EMail FROM (SELECT IContacto AS clave FROM Proyecto WHERE IOrganizacion = ? "

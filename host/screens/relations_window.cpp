@@ -16,7 +16,7 @@
 namespace dn::host {
 namespace {
 
-constexpr int keyRole = Qt::UserRole;
+constexpr int relationKeyRole = Qt::UserRole;
 constexpr int amountColumn = 4;
 
 QString text(const std::string& cell) { return QString::fromStdString(cell); }
@@ -136,7 +136,7 @@ void RelationsWindow::fill(QTreeWidget& list, QLabel& caption, const QString& ti
         for (std::size_t column = 0; column < relation.cells.size(); ++column)
             item->setText(static_cast<int>(column), text(relation.cells[column]));
         if (&list == projects_) item->setTextAlignment(amountColumn, Qt::AlignRight | Qt::AlignVCenter);
-        item->setData(0, keyRole, relation.key);
+        item->setData(0, relationKeyRole, relation.key);
         items.append(item);
     }
     list.addTopLevelItems(items);
@@ -149,7 +149,7 @@ void RelationsWindow::open(const QTreeWidget& list)
 {
     const QTreeWidgetItem* const item = list.currentItem();
     if (item == nullptr) return;
-    const std::int32_t key = item->data(0, keyRole).toInt();
+    const std::int32_t key = item->data(0, relationKeyRole).toInt();
     const PartyField::Kind other = ofOrganisation() ? PartyField::Kind::person : PartyField::Kind::organisation;
     reporting(this, [&] {
         if (&list == parties_)

@@ -17,7 +17,7 @@
 namespace dn::host {
 namespace {
 
-constexpr int typingPause = 40; // milliseconds
+constexpr int searchPause = 40; // milliseconds
 constexpr std::array listKeys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
 
 } // namespace
@@ -31,7 +31,7 @@ SearchWindow::SearchWindow(ScreenContext& context, const QString& text, SearchSc
     text_->setText(text);
     text_->setFocus();
     pause_.setSingleShot(true);
-    pause_.setInterval(typingPause);
+    pause_.setInterval(searchPause);
     connect(text_, &QLineEdit::textChanged, &pause_, qOverload<>(&QTimer::start));
     connect(&pause_, &QTimer::timeout, this, [this] { search(); });
     connect(&next_, &QTimer::timeout, this, [this] { goOn(); });

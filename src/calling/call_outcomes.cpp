@@ -14,7 +14,7 @@ namespace {
 
 using data::resumeNext;
 
-constexpr std::int16_t contact = 6;     // from here on the call reached whom it was for
+constexpr std::int16_t reached = 6;     // from here on the call reached whom it was for
 constexpr std::int16_t otherReason = 5; // the operator says which
 constexpr int firstAnswered = 11;       // the code of the first of the other answers
 
@@ -47,7 +47,7 @@ bool lies(const screen::Element* element, const screen::Container& container)
 
 void CallOutcomes::Call_Connect(std::int16_t R) // continue-on-error
 {
-    if (R >= contact) {
+    if (R >= reached) {
         toSummary();
         return;
     }

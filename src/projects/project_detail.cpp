@@ -14,7 +14,6 @@ namespace {
 
 using data::resumeNext;
 
-constexpr screen::Colour white = 0xFFFFFF;
 constexpr int lastShown = 5; // activity, subject, goal, organisation and description
 
 } // namespace
@@ -31,7 +30,7 @@ void ProjectDetail::lvwProy_ItemClick(const std::optional<screen::ListItem>& row
 
 void ProjectDetail::showRow(const screen::ListItem& row)
 {
-    resumeNext([&] { top_.picColors.BackColor(row.ForeColor() == 0 ? white : row.ForeColor()); });
+    resumeNext([&] { top_.picColors.BackColor(row.ForeColor() == 0 ? screen::white : row.ForeColor()); });
     resumeNext([&] { detail_.txtInfo.Text(std::string(row.Text()).append(crlf)); });
     for (int index = 1; index <= lastShown; ++index)
         resumeNext([&] { appendLine(row.ListSubItems()(index).Text()); });

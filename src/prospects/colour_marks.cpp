@@ -12,8 +12,6 @@
 namespace dn::prospects {
 namespace {
 
-constexpr screen::Colour white = 0xFFFFFF;
-
 } // namespace
 
 struct ColourMarks::Target {
@@ -41,7 +39,7 @@ void ColourMarks::bColor_Click(std::int16_t index) // trap
                                " WHERE Sys_PK = " + desk::keyDigits(*row));
         const screen::Colour colour = desk::ColorProyecto(index);
         desk::PaintProyItem(*row, colour);
-        top_.picColors.BackColor(colour == 0 ? white : colour);
+        top_.picColors.BackColor(colour == 0 ? screen::white : colour);
     };
     data::trap(mark, [&](const std::string& failure) { dialogs_.say(failure); });
 }

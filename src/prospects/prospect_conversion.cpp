@@ -13,7 +13,7 @@
 namespace dn::prospects {
 namespace {
 
-constexpr std::string_view typedByHand = "Contacto"; // the origin that the list shows
+constexpr std::string_view handTypedOrigin = "Contacto"; // the origin that the list shows
 constexpr std::int32_t unknownCity = 1;
 constexpr std::string_view internalText = "Internal";
 
@@ -40,7 +40,7 @@ void ProspectConversion::cmdProsNewProj_Click() // no trap
 {
     const auto selected = prospects_.lvw.SelectedItem();
     if (!selected) return;
-    if (selected->Text() != typedByHand) {
+    if (selected->Text() != handTypedOrigin) {
         dialogs_.say("Seleccione un contacto para convertir en proyecto.");
         return;
     }

@@ -13,8 +13,6 @@ namespace {
 
 using data::resumeNext;
 
-constexpr screen::Colour white = 0xFFFFFF;
-
 // Key and next contact; origin and interest; name; e-mail; telephones; company; job title; comments and link.
 std::string summaryOf(const screen::ListItem& row)
 {
@@ -36,7 +34,7 @@ void ProspectDetail::lvw_ItemClick(const std::optional<screen::ListItem>& row) /
     resumeNext([&] { tabs_.GetActiveTab(tab); });
     if (tab == desk::proyectos) return;
     resumeNext([&] { detail_.txtInfo.Text(summaryOf(*row)); });
-    resumeNext([&] { top_.picColors.BackColor(row->ForeColor() == 0 ? white : row->ForeColor()); });
+    resumeNext([&] { top_.picColors.BackColor(row->ForeColor() == 0 ? screen::white : row->ForeColor()); });
     resumeNext([&] { HabilitaDetalle(); });
     resumeNext([&] { timeline_.LoadBitacora(false); });
 }

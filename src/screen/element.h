@@ -23,6 +23,7 @@ class ElementVisitor;
 
 /// A colour as the colour properties hold it, blue in the high byte: 0x0000FF is red.
 using Colour = std::uint32_t;
+inline constexpr Colour white = 0xFFFFFF;
 
 /// Lengths on the screen: 15 to a logical pixel.
 using Twips = int;

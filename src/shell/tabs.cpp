@@ -65,7 +65,7 @@ void Tabs::clearCommonArea()
 {
     for (screen::TextBox* box : {&elements_.detail.txtBit, &elements_.detail.txtInfo, &elements_.detail.txtText})
         resumeNext([&] { box->Text(""); });
-    resumeNext([&] { elements_.top.picColors.BackColor(0xFFFFFF); });
+    resumeNext([&] { elements_.top.picColors.BackColor(screen::white); });
 }
 
 void Tabs::hideAll()

@@ -24,14 +24,6 @@ constexpr const char* interests = "SELECT uf_Interes FROM ut_InteresContacto;";
 constexpr const char* origins = "SELECT uf_Origen FROM ut_OrigenContacto;";
 constexpr const char* referrals = "SELECT uf_Referencia FROM ut_ReferenciaContacto;";
 
-std::vector<std::string> entries(const screen::ItemList& list)
-{
-    std::vector<std::string> texts;
-    for (int i = 0; i < list.ListCount(); ++i)
-        texts.push_back(list.List(i));
-    return texts;
-}
-
 class NewProspect : public testing::Test {
 protected:
     NewProspect()
@@ -90,9 +82,9 @@ TEST_F(NewProspect, reads_the_lists_ahead_of_the_first_sight_and_preselects_none
     ports.events.expectModal("dlgNuevoPros", [&](screen::Form& form) {
         EXPECT_EQ(form.Caption(), "Nuevo prospecto");
         EXPECT_THAT(cnn.statements(), ElementsAre(interests, origins, referrals));
-        EXPECT_THAT(entries(dialog.cInteres), ElementsAre("Netoria", "Curso"));
-        EXPECT_THAT(entries(dialog.cObtencion), ElementsAre("Llamada"));
-        EXPECT_THAT(entries(dialog.cReferencia), ElementsAre("Un amigo"));
+        EXPECT_THAT(entriesOf(dialog.cInteres), ElementsAre("Netoria", "Curso"));
+        EXPECT_THAT(entriesOf(dialog.cObtencion), ElementsAre("Llamada"));
+        EXPECT_THAT(entriesOf(dialog.cReferencia), ElementsAre("Un amigo"));
         for (const screen::ComboBox* combo : {&dialog.cInteres, &dialog.cObtencion, &dialog.cReferencia}) {
             EXPECT_TRUE(combo->editable());
             EXPECT_EQ(combo->ListIndex(), -1);
@@ -128,7 +120,7 @@ TEST_F(NewProspect, has_each_field_beside_its_label_in_the_order_of_the_key_tab)
 TEST_F(NewProspect, offers_the_countries_with_mexico_twice_and_its_states)
 {
     show([&] {
-        EXPECT_THAT(entries(dialog.cPais),
+        EXPECT_THAT(entriesOf(dialog.cPais),
                     ElementsAre("México", "España", "Argentina", "Bolivia", "Brasil", "Chile", "Colombia",
                                 "Costa Rica", "Cuba", "República Dominicana", "Ecuador", "El Salvador",
                                 "Guadalupe", "Guatemala", "Guayana Francesa", "Haití", "Honduras", "Martinica",
@@ -138,10 +130,10 @@ TEST_F(NewProspect, offers_the_countries_with_mexico_twice_and_its_states)
         EXPECT_EQ(dialog.cPais.ListIndex(), 0);
         for (const int mexico : {0, 18}) {
             dialog.cPais.pick(1);
-            EXPECT_THAT(entries(dialog.cEdo), ElementsAre("<No aplica>"));
+            EXPECT_THAT(entriesOf(dialog.cEdo), ElementsAre("<No aplica>"));
             EXPECT_EQ(dialog.cEdo.ListIndex(), 0);
             dialog.cPais.pick(mexico);
-            EXPECT_THAT(entries(dialog.cEdo),
+            EXPECT_THAT(entriesOf(dialog.cEdo),
                         ElementsAre("Distrito federal", "Aguascalientes", "Baja California Norte",
                                     "Baja California Sur", "Campeche", "Chiapas", "Chihuahua", "Coahuila",
                                     "Colima", "Durango", "Guanajuato", "Guerrero", "Hidalgo", "Jalisco", "México",

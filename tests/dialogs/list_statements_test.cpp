@@ -15,14 +15,14 @@ using dialogs::projectListStatement;
 using dialogs::prospectListStatement;
 
 const std::string prospectHead = "Select uf_Email, uf_Nombre, uf_Telefono, uf_Empresa FROM ut_icontact";
-const std::string projectColumns =
+const std::string listedProjectColumns =
     "SELECT Proyecto.IEjecutivo, Proyecto.IMeta, Proyecto.IOrganizacion, Proyecto.uf_status1, Proyecto.uf_color, "
     "Proyecto.Icontacto, Organizacion.Tel1, Organizacion.Nombre as Empresa, Organizacion.Email as EmailOrg, "
     "Persona.eMail as EmailPersona, Persona.tel_trabajo as Tel2, ";
 const std::string projectTables =
     "FROM (Proyecto INNER JOIN Organizacion ON Proyecto.IOrganizacion=Organizacion.Sys_PK) INNER JOIN Persona ON "
     "Proyecto.IContacto = Persona.Sys_PK";
-const std::string projectHead = projectColumns +
+const std::string projectHead = listedProjectColumns +
                                 " CONCAT( IFNULL(Persona.Nombre, ''), ' ', IFNULL(Persona.Apellido1, ''), ' ', "
                                 "IFNULL(Persona.Apellido2, '')) as "
                                 "Nombre " +
@@ -45,7 +45,7 @@ TEST(ListStatements, without_a_filter_have_no_conditions)
 TEST(ListStatements, for_sql_server_keep_the_name_that_closes_one_parenthesis_too_many)
 {
     EXPECT_EQ(projectListStatement({}, false),
-              projectColumns +
+              listedProjectColumns +
                   " (ISNULL(Persona.Nombre, '') + ' ' + ISNULL(Persona.Apellido1, '') + ' ' + "
                   "ISNULL(Persona.Apellido2), ''))  as Nombre " +
                   projectTables);

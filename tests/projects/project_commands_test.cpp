@@ -158,17 +158,17 @@ TEST_F(ProjectCommands, a_row_whose_key_is_no_project_is_not_edited)
 
 // ---- The directory
 
-struct Search {
+struct SearchCase {
     const char* found;
     const char* opens;
 };
 
 TEST_F(ProjectCommands, a_search_opens_what_it_found)
 {
-    for (const Search& search : {Search{"O12", "EditarOrganizacion 12 0"},
-                                 {"P7", "EditarPersona 7 0"},
-                                 {"o12", "EditarPersona 12 0"},
-                                 {"Ñ5", "EditarPersona 5 0"}}) {
+    for (const SearchCase& search : {SearchCase{"O12", "EditarOrganizacion 12 0"},
+                                     {"P7", "EditarPersona 7 0"},
+                                     {"o12", "EditarPersona 12 0"},
+                                     {"Ñ5", "EditarPersona 5 0"}}) {
         host.log.calls.clear();
         host.screens->found = search.found;
         commands().cmdProjSeekProj.press();

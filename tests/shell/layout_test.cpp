@@ -22,7 +22,7 @@ void PrintTo(const Frame& frame, std::ostream* out)
     *out << frame.left << "," << frame.top << " " << frame.width << "x" << frame.height;
 }
 
-Frame frameOf(const screen::Element& element)
+Frame placeOf(const screen::Element& element)
 {
     return {element.Left(), element.Top(), element.Width(), element.Height()};
 }
@@ -33,22 +33,22 @@ TEST_F(Layout, at_the_designed_size)
 {
     control.root().resize(15720, 10155);
     desk::Elements& e = elements();
-    EXPECT_EQ(frameOf(e.top.picTop), (Frame{0, 0, 15720, 1230}));
-    EXPECT_EQ(frameOf(e.detail.picRight), (Frame{12090, 1230, 3630, 8925}));
+    EXPECT_EQ(placeOf(e.top.picTop), (Frame{0, 0, 15720, 1230}));
+    EXPECT_EQ(placeOf(e.detail.picRight), (Frame{12090, 1230, 3630, 8925}));
     for (const screen::ListView* list : {&e.prospects.lvw, &e.projects.lvwProy, &e.today.lvwHoy})
-        EXPECT_EQ(frameOf(*list), (Frame{0, 1230, 12090, 8925}));
+        EXPECT_EQ(placeOf(*list), (Frame{0, 1230, 12090, 8925}));
     for (const screen::ListView* list : {&e.persons.lvwContactos, &e.organisations.lvwOrganizaciones})
-        EXPECT_EQ(frameOf(*list), (Frame{0, 1230, 15720, 8925}));
-    EXPECT_EQ(frameOf(e.call.picLlamada), (Frame{2198, 4275, 7695, 3945}));
-    EXPECT_EQ(frameOf(e.detail.txtBit), (Frame{30, 3450, 3510, 5415}));
-    EXPECT_EQ(frameOf(e.top.picColors), (Frame{10260, -15, 5460, 315}));
-    EXPECT_EQ(frameOf(e.top.txtBuscar), (Frame{645, 810, 13680, 285}));
+        EXPECT_EQ(placeOf(*list), (Frame{0, 1230, 15720, 8925}));
+    EXPECT_EQ(placeOf(e.call.picLlamada), (Frame{2198, 4275, 7695, 3945}));
+    EXPECT_EQ(placeOf(e.detail.txtBit), (Frame{30, 3450, 3510, 5415}));
+    EXPECT_EQ(placeOf(e.top.picColors), (Frame{10260, -15, 5460, 315}));
+    EXPECT_EQ(placeOf(e.top.txtBuscar), (Frame{645, 810, 13680, 285}));
     EXPECT_EQ(e.top.cmdOkBuscar.Left(), 14385);
-    EXPECT_EQ(frameOf(e.today.picHoy), (Frame{30, 330, 15720, 810}));
-    EXPECT_EQ(frameOf(e.organisations.picOrganizacion), (Frame{30, 330, 15720, 810}));
-    EXPECT_EQ(frameOf(e.persons.picContactos), (Frame{30, 330, 15720, 840}));
+    EXPECT_EQ(placeOf(e.today.picHoy), (Frame{30, 330, 15720, 810}));
+    EXPECT_EQ(placeOf(e.organisations.picOrganizacion), (Frame{30, 330, 15720, 810}));
+    EXPECT_EQ(placeOf(e.persons.picContactos), (Frame{30, 330, 15720, 840}));
     for (const int strip : {0, 1})
-        EXPECT_EQ(frameOf(e.top.picItem(strip)), (Frame{-75, -30, 15720, 390}));
+        EXPECT_EQ(placeOf(e.top.picItem(strip)), (Frame{-75, -30, 15720, 390}));
 }
 
 /// A size in pixels, and what comes of it in twips, after the designed size: a negative one is refused, and the
@@ -77,14 +77,14 @@ TEST_P(LayoutAtSizes, fits_what_it_can)
     control.root().resize(fit.width * 15, fit.height * 15);
     desk::Elements& e = elements();
     for (const screen::ListView* list : {&e.prospects.lvw, &e.projects.lvwProy, &e.today.lvwHoy})
-        EXPECT_EQ(frameOf(*list), (Frame{0, 1230, fit.listWidth, fit.listHeight})) << list->name();
+        EXPECT_EQ(placeOf(*list), (Frame{0, 1230, fit.listWidth, fit.listHeight})) << list->name();
     for (const screen::ListView* list : {&e.persons.lvwContactos, &e.organisations.lvwOrganizaciones})
-        EXPECT_EQ(frameOf(*list), (Frame{0, 1230, fit.directoryWidth, fit.listHeight})) << list->name();
+        EXPECT_EQ(placeOf(*list), (Frame{0, 1230, fit.directoryWidth, fit.listHeight})) << list->name();
     for (const screen::Element* panel :
          std::initializer_list<const screen::Element*>{&e.today.picHoy, &e.top.picItem(0), &e.top.picItem(1),
                                                        &e.persons.picContactos, &e.organisations.picOrganizacion})
         EXPECT_EQ(panel->Width(), fit.width * 15) << panel->name();
-    EXPECT_EQ(frameOf(e.call.picLlamada), (Frame{fit.callLeft, 4275, 7695, 3945}));
+    EXPECT_EQ(placeOf(e.call.picLlamada), (Frame{fit.callLeft, 4275, 7695, 3945}));
     EXPECT_EQ(e.detail.txtBit.Height(), fit.timelineHeight);
     EXPECT_EQ(e.top.picColors.Width(), fit.coloursWidth);
     EXPECT_EQ(e.top.txtBuscar.Width(), fit.searchWidth);
@@ -111,11 +111,11 @@ TEST_F(Layout, leaves_alone_what_no_rule_names)
 {
     control.root().resize(28800, 16200);
     desk::Elements& e = elements();
-    EXPECT_EQ(frameOf(e.top.cbAgente), (Frame{30, 0, 2790, 315}));
-    EXPECT_EQ(frameOf(e.top.pictab), (Frame{0, 345, 14865, 450}));
-    EXPECT_EQ(frameOf(e.top.lblBuscar), (Frame{30, 810, 1080, 285}));
-    EXPECT_EQ(frameOf(e.detail.txtInfo), (Frame{30, 465, 3510, 2190}));
-    EXPECT_EQ(frameOf(e.detail.pic1), (Frame{30, 2715, 3525, 705}));
+    EXPECT_EQ(placeOf(e.top.cbAgente), (Frame{30, 0, 2790, 315}));
+    EXPECT_EQ(placeOf(e.top.pictab), (Frame{0, 345, 14865, 450}));
+    EXPECT_EQ(placeOf(e.top.lblBuscar), (Frame{30, 810, 1080, 285}));
+    EXPECT_EQ(placeOf(e.detail.txtInfo), (Frame{30, 465, 3510, 2190}));
+    EXPECT_EQ(placeOf(e.detail.pic1), (Frame{30, 2715, 3525, 705}));
     for (int tab = 0; tab < 5; ++tab)
         EXPECT_EQ(e.top.lblItem(tab).Top(), 0);
     EXPECT_EQ(e.top.lblItem(4).Left(), 8790);

@@ -4,6 +4,7 @@
 // How the control is created, bound to a connection, and shown for the first time.
 
 #include "tests/support/control_fixture.h"
+#include "tests/support/element_tree.h"
 
 namespace dn::tests {
 namespace {
@@ -13,23 +14,15 @@ using testing::IsEmpty;
 
 class StartUp : public ControlTest {};
 
-std::vector<std::string> entries(const screen::ItemList& list)
-{
-    std::vector<std::string> result;
-    for (int i = 0; i < list.ListCount(); ++i)
-        result.push_back(list.List(i));
-    return result;
-}
-
 TEST_F(StartUp, a_new_control_has_filled_its_combos_without_a_connection)
 {
-    EXPECT_THAT(entries(elements().prospects.cbStatus),
+    EXPECT_THAT(entriesOf(elements().prospects.cbStatus),
                 ElementsAre("Recibido", "Descartado", "Sin interés", "Oportunidad"));
     EXPECT_EQ(elements().prospects.cbStatus.ListIndex(), 0);
-    EXPECT_THAT(entries(elements().detail.Combo1),
+    EXPECT_THAT(entriesOf(elements().detail.Combo1),
                 ElementsAre("< Cambiar estado >", "Descartado", "Sin interés", "Oportunidad"));
     EXPECT_EQ(elements().detail.Combo1.ListIndex(), 0);
-    EXPECT_THAT(entries(elements().projects.cbProjStatusProj),
+    EXPECT_THAT(entriesOf(elements().projects.cbProjStatusProj),
                 ElementsAre("<Todos los proyectos>", "Congelados", "Fríos", "Tibios", "Calientes", "Perdidos"));
     EXPECT_EQ(elements().projects.cbProjStatusProj.ListIndex(), -1);
     EXPECT_EQ(control.MotorBD(), 0);
@@ -184,7 +177,7 @@ TEST_F(StartUp, RefreshData_may_be_repeated)
 {
     start(9, false);
     control.RefreshData();
-    EXPECT_THAT(entries(elements().top.cbAgente), ElementsAre("< Sin asignar >", "Ana", "Beto"));
+    EXPECT_THAT(entriesOf(elements().top.cbAgente), ElementsAre("< Sin asignar >", "Ana", "Beto"));
     EXPECT_EQ(elements().top.cbAgente.ListIndex(), 2);
 }
 

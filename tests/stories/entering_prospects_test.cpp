@@ -42,11 +42,7 @@ protected:
     }
     static std::vector<std::string> offered(screen::Form& form, const char* combo)
     {
-        const auto& list = elementNamed<screen::ComboBox>(form, combo);
-        std::vector<std::string> texts;
-        for (int i = 0; i < list.ListCount(); ++i)
-            texts.push_back(list.List(i));
-        return texts;
+        return entriesOf(elementNamed<screen::ComboBox>(form, combo));
     }
 
     static void fillIn(screen::Form& form)

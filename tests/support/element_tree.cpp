@@ -45,6 +45,14 @@ std::vector<std::string> inTabOrder(const screen::Container& container)
     return seen;
 }
 
+std::vector<std::string> entriesOf(const screen::ItemList& list)
+{
+    std::vector<std::string> texts;
+    for (int i = 0; i < list.ListCount(); ++i)
+        texts.push_back(list.List(i));
+    return texts;
+}
+
 screen::Element& elementNamed(screen::Container& container, std::string_view name)
 {
     screen::Element* const found = find(container, name);

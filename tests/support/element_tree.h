@@ -5,6 +5,7 @@
 #pragma once
 
 #include "screen/element.h"
+#include "screen/item_list.h"
 
 #include <stdexcept>
 #include <string>
@@ -18,6 +19,9 @@ std::vector<std::string> namesIn(const screen::Container& container);
 
 /// What lies directly in a container, in the order of the key Tab: a label by its caption, all else by its name.
 std::vector<std::string> inTabOrder(const screen::Container& container);
+
+/// The texts of a list box or combo box, in the order shown.
+std::vector<std::string> entriesOf(const screen::ItemList& list);
 
 /// The first element of that name in a container, at any depth. @throws std::out_of_range when there is none.
 screen::Element& elementNamed(screen::Container& container, std::string_view name);

@@ -24,9 +24,11 @@ namespace dn::host::tests {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 constexpr auto aWhile = std::chrono::seconds(20);
 
@@ -159,6 +161,19 @@ TEST(PrivateServer, the_server_of_a_killed_program_ends_and_its_data_are_whole)
     ::waitpid(program, nullptr, 0);
     EXPECT_TRUE(waitUntil(aWhile, [&] { return !dataHolder(folder.path() / "datos"); }));
     EXPECT_EQ(keptWord(PrivateServer(serverIn(folder.path()))), "guardado");
+}
+
+TEST(PrivateServer, a_failed_first_start_tells_what_the_installer_complained_of)
+{
+    const TemporaryFolder folder;
+    writeProgram(folder.path() / "bin" / "mariadb-install-db",
+                 "echo '[ERROR] InnoDB: lo que pasa'; for i in $(seq 20); do echo \"consejo $i\"; done; exit 1");
+    writeProgram(folder.path() / "bin" / "mariadbd", "exit 0");
+    ServerOptions broken = serverIn(folder.path() / "datos");
+    broken.searchPath = {folder.path() / "bin"};
+    EXPECT_THAT(failureOf([&] { PrivateServer server(broken); }),
+                AllOf(HasSubstr("No se pudo crear la base de datos"), HasSubstr("[ERROR] InnoDB: lo que pasa"),
+                      Not(HasSubstr("consejo"))));
 }
 
 TEST(PrivateServer, an_interrupted_first_start_leaves_nothing_behind)

@@ -22,8 +22,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr const char* keeps = "Guardar en la bandeja de salida";
-
 class Writing : public Mails {
 protected:
     MailServer& toAServer(std::vector<std::string> moods = {})

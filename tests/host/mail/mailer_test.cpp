@@ -22,8 +22,6 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr const char* keeps = "Guardar en la bandeja de salida";
-
 class Mailing : public Mails {
 protected:
     void aTemplate(const char* name, const char* content)

@@ -16,7 +16,8 @@ class Mails : public Screens {
 protected:
     static constexpr const char* maria = "CT.AAAA"; ///< a prospect with everything filled in
     static constexpr const char* silo = "PY.BBBB";  ///< a project of Acme's with Ana
-
+    /// The button of a mail without a server.
+    static constexpr const char* keeps = "Guardar en la bandeja de salida";
     void SetUp() override;
 
     /// A new mail object, bound as the control binds it.

@@ -46,7 +46,7 @@ TEST_F(PortsTest, a_box_has_an_accept_button_and_the_hosts_name)
         EXPECT_THAT(buttons(box), ElementsAre("Aceptar"));
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    EXPECT_EQ(dialogs.MsgBox({.prompt = "<b>Texto</b>"}), Answer::ok);
+    EXPECT_EQ(dialogs.MsgBox({.prompt = "<b>Texto</b>"}), screen::Answer::ok);
 }
 
 TEST_F(PortsTest, a_title_and_an_icon_show_when_they_are_given)
@@ -65,15 +65,15 @@ TEST_F(PortsTest, a_question_is_answered_by_button_key_and_frame)
     struct Case {
         int defaultButton;
         std::function<void(QWidget&)> act;
-        Answer answer;
+        screen::Answer answer;
     };
     const std::vector<Case> cases{
-        {1, [](QWidget& box) { pressButton(box, "Sí"); }, Answer::yes},
-        {1, [](QWidget& box) { pressButton(box, "No"); }, Answer::no},
-        {1, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }, Answer::yes},
-        {2, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }, Answer::no},
-        {1, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); }, Answer::no},
-        {1, [](QWidget& box) { box.close(); }, Answer::no},
+        {1, [](QWidget& box) { pressButton(box, "Sí"); }, screen::Answer::yes},
+        {1, [](QWidget& box) { pressButton(box, "No"); }, screen::Answer::no},
+        {1, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }, screen::Answer::yes},
+        {2, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }, screen::Answer::no},
+        {1, [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); }, screen::Answer::no},
+        {1, [](QWidget& box) { box.close(); }, screen::Answer::no},
     };
     for (const Case& one : cases) {
         driver.expect("MsgBox", [&](QWidget& box) {
