@@ -135,10 +135,13 @@ void benchDirectory(BenchDatabase& database, int rounds, Report& report)
     workbench.open(database);
     std::vector<Cost> ours;
     std::vector<Cost> bare;
+    std::vector<Cost> jumps;
     std::size_t cells = 0;
     for (int round = 0; round < rounds; ++round) {
         ours.push_back(workbench.load());
         bare.push_back(bareFetch(database, {database.personStatement()}, cells));
+        const int last = workbench.list().ListItems().Count();
+        jumps.push_back(workbench.select(std::string(workbench.list().ListItems()(last).Key())));
     }
     if (workbench.rows() != database.rows()) report.wrong("LoadContactos", "rows are missing in the list");
     const auto columns = database.connection().execute(database.personStatement())->names().size();
@@ -147,6 +150,7 @@ void benchDirectory(BenchDatabase& database, int rounds, Report& report)
     report.figure("LoadContactos to the first frame, client CPU", load, "ms");
     report.figure("LoadContactos to the first frame, wall", median(ours).wall, "ms");
     report.figure("bare libmariadb store_result of the persons, client CPU", median(bare).cpu, "ms");
+    report.figure("a jump from the first person to the last, painted", median(jumps).cpu, "ms");
     report.bar("LoadContactos against the bare fetch", load / median(bare).cpu, 3, "times");
 }
 

@@ -41,7 +41,10 @@ void MainWindow::start(std::optional<std::int16_t> tab)
         if (const auto templates = mailSettings_().templates; !templates.empty())
             control().TemplatePath(templates.string()); // the binding has set a folder that is not this program's
     control().RefreshData();
-    if (tab) control().elements().top.lblItem(*tab).click();
+    if (!tab) return;
+    // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
+    if (*tab == desk::hoy) control().elements().top.lblItem(desk::prospectos).click();
+    control().elements().top.lblItem(*tab).click();
 }
 
 void MainWindow::sendMails(const std::filesystem::path& dataFolder)

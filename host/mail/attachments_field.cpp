@@ -3,7 +3,6 @@
 
 #include "host/mail/attachments_field.h"
 
-#include "host/database/host_error.h"
 #include "host/mail/mail_history.h"
 #include "host/screens/boxes.h"
 
@@ -11,7 +10,6 @@
 #include <QFileInfo>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
-#include <QMimeDatabase>
 #include <QVBoxLayout>
 
 namespace dn::host {
@@ -22,18 +20,6 @@ constexpr int sizeRole = Qt::UserRole + 1;
 constexpr int rowsInSight = 3;
 
 QString sizeOf(qint64 bytes) { return QString::fromStdString(sizeText(static_cast<std::size_t>(bytes))); }
-
-Attachment readAttachment(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw HostError(("No se pudo leer el archivo «" + path + "»: " + file.errorString() + ".").toStdString());
-    const QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw HostError(("No se pudo leer el archivo «" + path + "»: " + file.errorString() + ".").toStdString());
-    return {QFileInfo(path).fileName().toStdString(), QMimeDatabase().mimeTypeForFile(path).name().toStdString(),
-            content.toStdString()};
-}
 
 } // namespace
 
@@ -85,13 +71,13 @@ void AttachmentsField::add(const QString& path)
     showTotal();
 }
 
-std::vector<Attachment> AttachmentsField::read() const
+std::vector<std::filesystem::path> AttachmentsField::files() const
 {
-    std::vector<Attachment> attachments;
-    attachments.reserve(static_cast<std::size_t>(list_->count()));
+    std::vector<std::filesystem::path> files;
+    files.reserve(static_cast<std::size_t>(list_->count()));
     for (int i = 0; i < list_->count(); ++i)
-        attachments.push_back(readAttachment(list_->item(i)->data(pathRole).toString()));
-    return attachments;
+        files.emplace_back(list_->item(i)->data(pathRole).toString().toStdString());
+    return files;
 }
 
 bool AttachmentsField::eventFilter(QObject* watched, QEvent* event)

@@ -4,11 +4,12 @@
 // The files that go with a mail: a list with their sizes, and the buttons to add and to take away.
 #pragma once
 
-#include "host/mail/message.h"
-
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+
+#include <filesystem>
+#include <vector>
 
 namespace dn::host {
 
@@ -20,8 +21,8 @@ public:
     /// Adds a file; one that cannot go with the mail is told. A file that is there already adds nothing.
     void add(const QString& path);
     bool isEmpty() const { return list_->count() == 0; }
-    /// @throws HostError when a file cannot be read any longer.
-    std::vector<Attachment> read() const;
+    /// The files, in the order of the list.
+    std::vector<std::filesystem::path> files() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

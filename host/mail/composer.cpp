@@ -4,6 +4,7 @@
 #include "host/mail/composer.h"
 
 #include "host/mail/addresses.h"
+#include "host/mail/attachments.h"
 #include "host/mail/delivery.h"
 #include "host/screens/boxes.h"
 
@@ -31,6 +32,14 @@ QString titleOf(const Letter& letter)
     const auto name = letter.fields.find("nombre");
     const bool known = name != letter.fields.end() && !name->second.empty();
     return known ? "Correo: " + QString::fromStdString(name->second) : QString("Correo");
+}
+
+// The style leaves a long caption no room at its sides.
+void caption(QPushButton& button, const QString& text)
+{
+    button.setText(text);
+    const QFontMetrics metrics = button.fontMetrics();
+    button.setMinimumWidth(metrics.size(Qt::TextShowMnemonic, text).width() + 4 * metrics.averageCharWidth());
 }
 
 QString nameOf(const Letter& letter)
@@ -88,14 +97,14 @@ void Composer::buildBelow()
     auto* const below = new QWidget(this);
     auto* const layout = new QVBoxLayout(below);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* const caption = new QLabel("&Texto:", below);
-    caption->setObjectName("lblTexto");
-    caption->setBuddy(body_);
+    auto* const label = new QLabel("&Texto:", below);
+    label->setObjectName("lblTexto");
+    label->setBuddy(body_);
     body_->setObjectName("Texto");
     body_->setAccessibleName("Texto");
     body_->setTabChangesFocus(true);
     body_->setMinimumHeight(fontMetrics().lineSpacing() * linesOfText);
-    layout->addWidget(caption);
+    layout->addWidget(label);
     layout->addWidget(body_, 1);
     layout->addWidget(attachments_);
     addBelow(below);
@@ -107,7 +116,7 @@ void Composer::buildButtons()
     progress_->setObjectName("Avance");
     progress_->setAccessibleName("Avance del envío");
     sends_->setObjectName("cmdEnviar");
-    sends_->setText(letter_.settings.toOutbox() ? "&Guardar en la bandeja de salida" : "&Enviar");
+    caption(*sends_, letter_.settings.toOutbox() ? "&Guardar en la bandeja de salida" : "&Enviar");
     sends_->setToolTip("Ctrl+Entrar");
     sends_->setAutoDefault(false); // Enter in a line must not send
     cancels_->setObjectName("cmdCancelar");
@@ -133,8 +142,8 @@ void Composer::showNotices()
 {
     QStringList notices = letter_.notices;
     if (letter_.settings.toOutbox())
-        notices.prepend("No hay servidor de correo configurado: el mensaje no sale, se guarda en la bandeja de "
-                        "salida, la carpeta " +
+        notices.prepend("No hay servidor de correo configurado: el mensaje no sale, se guarda como archivo .eml "
+                        "en la bandeja de salida, la carpeta " +
                         QString::fromStdString(letter_.settings.outbox.string()) +
                         ", para enviarlo con su programa de correo.");
     if (!letter_.settings.problem.empty())
@@ -230,15 +239,20 @@ Message Composer::compose() const
         message.recipients.push_back(wireAddress(address));
     message.subject = subject_->text().trimmed().toStdString();
     message.body = body_->toPlainText().toStdString();
-    message.attachments = attachments_->read();
     stamp(message);
     return message;
 }
 
+// The files are read and encoded on the thread that sends: the window goes on meanwhile.
 void Composer::store()
 {
-    message_ = compose();
-    sending_ = std::make_unique<Sending>(delivery(letter_.settings, message_));
+    message_ = std::make_shared<Message>(compose());
+    const auto sends = [message = message_, settings = letter_.settings,
+                        files = attachments_->files()](SendProgress& progress) {
+        message->attachments = readAttachments(files, settings.limit);
+        delivery(settings, *message)(progress);
+    };
+    sending_ = std::make_unique<Sending>(sends);
     showSending(true);
     looks_.start(looksEvery);
 }
@@ -267,10 +281,10 @@ void Composer::showSending(bool sends)
     for (QWidget* widget : std::initializer_list<QWidget*>{recipients_, templates_, subject_, body_, attachments_})
         widget->setEnabled(!sends);
     sends_->setEnabled(!sends);
-    state_->setText("Enviando…");
+    state_->setText(letter_.settings.toOutbox() ? "Guardando…" : "Enviando…");
     state_->setVisible(sends);
     progress_->setVisible(sends);
-    cancels_->setText(sends ? "&Cancelar el envío" : "&Cancelar");
+    caption(*cancels_, sends ? "&Cancelar el envío" : "&Cancelar");
     if (sends) cancels_->setFocus();
 }
 

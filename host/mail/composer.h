@@ -7,6 +7,7 @@
 
 #include "host/mail/attachments_field.h"
 #include "host/mail/mail_settings.h"
+#include "host/mail/message.h"
 #include "host/mail/party_fields.h"
 #include "host/mail/sending.h"
 #include "host/mail/templates.h"
@@ -42,7 +43,7 @@ public:
     void reject() override;
 
     /// The mail that was sent; of meaning once the window was accepted.
-    const Message& message() const { return message_; }
+    const Message& message() const { return *message_; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -65,7 +66,7 @@ private:
     void look();
 
     Letter letter_;
-    Message message_;
+    std::shared_ptr<Message> message_; // its files are the sending's until that is over
     QString shownSubject_, shownBody_; // as they were filled in, before the operator typed
     QLineEdit* recipients_ = new QLineEdit(this);
     QComboBox* templates_ = new QComboBox(this);

@@ -35,11 +35,11 @@ void ofProspect(OwnConnection& database, const std::string& identifier, PartyFie
 void ofProject(OwnConnection& database, const std::string& identifier, PartyFields& fields)
 {
     Statement statement(
-        "SELECT y.Descripcion, m.Descripcion, o.Nombre, p.Puesto, COALESCE(p.Tel_Trabajo, "
+        "SELECT y.Descripcion, m.Descripcion, o.Nombre, p.Puesto, COALESCE(NULLIF(p.Tel_Trabajo, ?), "
         "p.Tel_Movil), p.EMail, p.Nombre, p.Apellido1, p.Apellido2 FROM Proyecto y LEFT JOIN Meta m "
         "ON y.IMeta = m.Sys_PK LEFT JOIN Organizacion o ON y.IOrganizacion = o.Sys_PK LEFT JOIN "
         "Persona p ON y.IContacto = p.Sys_PK WHERE y.Sys_GUID = ?");
-    const auto row = database.run(statement.bind(identifier));
+    const auto row = database.run(statement.bind("").bind(identifier)); // an empty number is none
     if (row->Eof()) return;
     std::size_t column = 0;
     for (const char* field : {"proyecto", "meta", "empresa", "puesto", "telefono", "correo"})

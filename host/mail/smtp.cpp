@@ -6,6 +6,8 @@
 #include "host/mail/encoding.h"
 
 #include <curl/curl.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -18,10 +20,14 @@ namespace {
 struct HandleEnd {
     void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
 };
+struct MultiEnd {
+    void operator()(CURLM* handle) const { curl_multi_cleanup(handle); }
+};
 struct ListEnd {
     void operator()(curl_slist* list) const { curl_slist_free_all(list); }
 };
 using Handle = std::unique_ptr<CURL, HandleEnd>;
+using Multi = std::unique_ptr<CURLM, MultiEnd>;
 using List = std::unique_ptr<curl_slist, ListEnd>;
 
 // What one transfer reads and what it remembers for the case of a failure.
@@ -31,6 +37,7 @@ struct Transfer {
     std::size_t read = 0;
     std::string asked = {};   // the last command that names a recipient
     std::string replied = {}; // the last line of the server but for its farewell
+    curl_socket_t socket = CURL_SOCKET_BAD;
 };
 
 std::size_t giveText(char* buffer, std::size_t size, std::size_t count, void* context)
@@ -50,12 +57,28 @@ std::size_t takeReply(char* line, std::size_t size, std::size_t count, void* con
     return reply.size();
 }
 
+int keepSocket(void* context, curl_socket_t socket, curlsocktype)
+{
+    static_cast<Transfer*>(context)->socket = socket;
+    return CURL_SOCKOPT_OK;
+}
+
+int closeSocket(void* context, curl_socket_t socket)
+{
+    auto& transfer = *static_cast<Transfer*>(context);
+    if (transfer.socket == socket) transfer.socket = CURL_SOCKET_BAD;
+    return ::close(socket);
+}
+
 int showProgress(void* context, curl_off_t, curl_off_t, curl_off_t total, curl_off_t done)
 {
-    SendProgress& progress = static_cast<Transfer*>(context)->progress;
-    progress.total = total;
-    progress.done = done;
-    return progress.cancelled ? 1 : 0;
+    const auto& transfer = *static_cast<Transfer*>(context);
+    transfer.progress.total = total;
+    transfer.progress.done = done;
+    if (!transfer.progress.cancelled) return 0;
+    // Without this the library would say farewell, and wait for a server that may have stopped answering.
+    if (transfer.socket != CURL_SOCKET_BAD) ::shutdown(transfer.socket, SHUT_RDWR);
+    return 1;
 }
 
 // Of what goes to the server only the recipients are looked at: other commands hold the password.
@@ -143,6 +166,8 @@ void setServer(CURL* handle, const MailSettings& settings)
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "smtp,smtps");
     curl_easy_setopt(handle, CURLOPT_NOPROXY, "*");
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(handle, CURLOPT_QUICK_EXIT, 1L);   // or a cancel waits for a name server that is silent
+    curl_easy_setopt(handle, CURLOPT_FORBID_REUSE, 1L); // the farewell is said under the time-outs of this handle
     curl_easy_setopt(handle, CURLOPT_USE_SSL, long{settings.tls ? CURLUSESSL_ALL : CURLUSESSL_TRY});
     curl_easy_setopt(handle, CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});
     if (!settings.ca.empty()) curl_easy_setopt(handle, CURLOPT_CAINFO, settings.ca.c_str());
@@ -170,6 +195,10 @@ void setTransfer(CURL* handle, Transfer& transfer)
     curl_easy_setopt(handle, CURLOPT_NOPROGRESS, 0L);
     curl_easy_setopt(handle, CURLOPT_XFERINFOFUNCTION, &showProgress);
     curl_easy_setopt(handle, CURLOPT_XFERINFODATA, &transfer);
+    curl_easy_setopt(handle, CURLOPT_SOCKOPTFUNCTION, &keepSocket);
+    curl_easy_setopt(handle, CURLOPT_SOCKOPTDATA, &transfer);
+    curl_easy_setopt(handle, CURLOPT_CLOSESOCKETFUNCTION, &closeSocket);
+    curl_easy_setopt(handle, CURLOPT_CLOSESOCKETDATA, &transfer);
     curl_easy_setopt(handle, CURLOPT_VERBOSE, 1L); // only so that `watch` is called: nothing is written anywhere
     curl_easy_setopt(handle, CURLOPT_DEBUGFUNCTION, &watch);
     curl_easy_setopt(handle, CURLOPT_DEBUGDATA, &transfer);
@@ -187,21 +216,40 @@ List listOf(const std::vector<std::string>& texts)
     return list;
 }
 
+// The easy interface would look at a cancel once in a second only.
+CURLcode perform(CURL* handle)
+{
+    constexpr int looksEvery = 50; // milliseconds
+    const Multi multi(curl_multi_init());
+    if (!multi || curl_multi_add_handle(multi.get(), handle) != CURLM_OK) return CURLE_FAILED_INIT;
+    int running = 0;
+    CURLMcode code = curl_multi_perform(multi.get(), &running);
+    while (code == CURLM_OK && running > 0) {
+        code = curl_multi_poll(multi.get(), nullptr, 0, looksEvery, nullptr);
+        if (code == CURLM_OK) code = curl_multi_perform(multi.get(), &running);
+    }
+    int left = 0;
+    const CURLMsg* const end = curl_multi_info_read(multi.get(), &left);
+    const CURLcode result = end == nullptr ? CURLE_FAILED_INIT : end->data.result;
+    curl_multi_remove_handle(multi.get(), handle);
+    return result;
+}
+
 } // namespace
 
 void sendBySmtp(const MailSettings& settings, const Envelope& envelope, const std::string& text,
                 SendProgress& progress)
 {
     static const CURLcode begun = curl_global_init(CURL_GLOBAL_DEFAULT);
+    Transfer transfer{text, progress}; // ahead of the handle, which closes its socket
     const Handle handle(curl_easy_init());
     if (begun != CURLE_OK || !handle) throw HostError("No se pudo preparar el envío de correo.");
-    Transfer transfer{text, progress};
     const List recipients = listOf(envelope.recipients);
     setServer(handle.get(), settings);
     setTransfer(handle.get(), transfer);
     curl_easy_setopt(handle.get(), CURLOPT_MAIL_FROM, envelope.from.c_str());
     curl_easy_setopt(handle.get(), CURLOPT_MAIL_RCPT, recipients.get());
-    const CURLcode code = curl_easy_perform(handle.get());
+    const CURLcode code = perform(handle.get());
     if (code == CURLE_ABORTED_BY_CALLBACK) throw SendCancelled(lost("Se canceló el envío.", transfer));
     if (code != CURLE_OK) throw HostError(reason(code, settings, transfer));
 }

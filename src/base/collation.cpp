@@ -67,20 +67,30 @@ private:
     std::array<Weight, 0x180> latin_{};
 };
 
-Weight weightOf(char32_t c)
+const WeightTable& weights()
 {
     static const WeightTable table;
-    return table.of(c);
+    return table;
+}
+
+// Most characters are of ASCII and need no decoding.
+Weight takeWeight(const WeightTable& table, std::string_view& text)
+{
+    const auto first = static_cast<unsigned char>(text.front());
+    if (first >= 0x80) return table.of(takeCharacter(text));
+    text.remove_prefix(1);
+    return table.of(first);
 }
 
 } // namespace
 
 int compareSpanish(std::string_view left, std::string_view right)
 {
+    const WeightTable& table = weights();
     int accents = 0;
     while (!left.empty() && !right.empty()) {
-        const Weight l = weightOf(takeCharacter(left));
-        const Weight r = weightOf(takeCharacter(right));
+        const Weight l = takeWeight(table, left);
+        const Weight r = takeWeight(table, right);
         if (l.letter != r.letter) return l.letter < r.letter ? -1 : 1;
         if (accents == 0 && l.accent != r.accent) accents = l.accent < r.accent ? -1 : 1;
     }
@@ -88,14 +98,27 @@ int compareSpanish(std::string_view left, std::string_view right)
     return accents;
 }
 
-std::uint64_t collationPrefix(std::string_view text)
+// The letters, of one byte or, where they need more, of three; an end; then the accents as far as the last one.
+void appendCollationKey(std::string& keys, std::string_view text)
 {
-    std::uint64_t prefix = 0;
-    for (int shift = 48; shift >= 0; shift -= 16) {
-        prefix <<= 16U;
-        if (!text.empty()) prefix |= weightOf(takeCharacter(text)).letter;
+    constexpr char beyond = '\xFF'; // behind every letter of one byte
+    constexpr char end = '\0';      // ahead of every letter
+    const auto low = [](std::uint32_t number) { return static_cast<char>(number & 0xFFU); };
+    const WeightTable& table = weights();
+    std::size_t accented = 0; // bytes of the text up to its last accent
+    for (std::string_view rest = text; !rest.empty();) {
+        const Weight weight = takeWeight(table, rest);
+        if (weight.letter < firstBeyond)
+            keys += low(weight.letter);
+        else
+            keys.append({beyond, low(weight.letter >> 8U), low(weight.letter)});
+        if (weight.accent != 0) accented = text.size() - rest.size();
     }
-    return prefix;
+    keys += end;
+    for (std::string_view rest = text.substr(0, accented); !rest.empty();) {
+        const Weight weight = takeWeight(table, rest);
+        keys.append({low(weight.accent >> 8U), low(weight.accent)});
+    }
 }
 
 } // namespace dn

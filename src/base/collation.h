@@ -9,7 +9,7 @@
 // An empty text comes first. The standard library has no such order without an installed locale, hence this table.
 #pragma once
 
-#include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace dn {
@@ -17,8 +17,8 @@ namespace dn {
 /// Less than 0, 0 or more than 0, as `left` stands before, beside or behind `right`.
 int compareSpanish(std::string_view left, std::string_view right);
 
-/// A number that orders as the first letters do: where two differ, compareSpanish has the same sign; where they
-/// are equal, compareSpanish decides. Sorting by it first spares most comparisons.
-std::uint64_t collationPrefix(std::string_view text);
+/// Appends the key of a text: bytes whose plain order, the shorter ahead, is that of compareSpanish; texts that it
+/// finds equal have the same key. For sorting many texts, each of which is then taken apart once.
+void appendCollationKey(std::string& keys, std::string_view text);
 
 } // namespace dn

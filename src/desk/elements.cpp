@@ -56,7 +56,7 @@ void layOutMarks(ControlArray<Button>& bColor)
     int index = 0;
     for (const Mark& mark : marks) {
         Button& button = bColor(index);
-        button.Move(60 + index * 390, 30, 360, 255);
+        button.Move(30 + index * 340, 30, 310, 255); // all five within the strip of a window of 800 pixels
         button.BackColor(mark.colour);
         button.Picture("mark-" + std::to_string(index)); // a shape for whoever does not tell the colours apart
         button.ToolTipText(mark.name);
@@ -89,6 +89,7 @@ TopElements::TopElements(Container& control)
     layOutMarks(bColor);
     lblCuenta.Move(2025, 15, 45, 195);
     lblCuenta.AutoSize(true);
+    lblCuenta.BackColor(0xFFFFFF); // the strip takes the colour of a mark, on which not every ink can be read
     pictab.Move(0, 345, 14865, 450);
     for (int i = 0; i < picItem.Count(); ++i) {
         picItem(i).Move(-75, -30, 13305, 390);

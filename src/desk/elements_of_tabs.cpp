@@ -112,6 +112,7 @@ TodayElements::TodayElements(Container& control)
                     {&Command7, "Historial de correos", "history", 2250},
                     {&geProyFromContacto, "Crear proyecto", "project", 1800}},
                    30, 75);
+    cmdEditHoy.Shortcut("F2"); // as the command has that it stands in for
     layOutCounter(lblcuenta2, "info");
     layOutList(lvwHoy);
     lvwHoy.AddColumn("Tipo", 2000);
@@ -172,14 +173,14 @@ ProjectElements::ProjectElements(Container& control, TopElements& top)
       ImageList1("ImageList1", {"project-frozen", "project-cold", "project-warm", "project-hot", "project-lost"}),
       lvwProy(&control, "lvwProy")
 {
-    cbProjStatusProj.Move(stripLeft, stripTop, 2100, commandHeight);
-    layOutCommands({{&cmdProjNewProj, "Nuevo proyecto", "project", 1800},
-                    {&cmdNewProjEditProj, "Editar", "edit", 1200},
-                    {&cmdProjSeekProj, "Buscar", "search", 1200},
-                    {&cmdProjNewContact, "Nuevo contacto", "person", 1800},
+    cbProjStatusProj.Move(stripLeft, stripTop, 2190, commandHeight);
+    layOutCommands({{&cmdProjNewProj, "Nuevo proyecto", "project", 1740}, // all within 800 pixels
+                    {&cmdNewProjEditProj, "Editar", "edit", 1110},
+                    {&cmdProjSeekProj, "Buscar", "search", 1140},
+                    {&cmdProjNewContact, "Nuevo contacto", "person", 1740},
                     {&cmdProjNewOrg, "Nueva organización", "organisation", 2100},
-                    {&cmdNewProjTool, "Herramientas", "tools", 1650}},
-                   2265, stripTop);
+                    {&cmdNewProjTool, "Herramientas", "tools", 1560}},
+                   2355, stripTop);
 
     layOutList(lvwProy);
     lvwProy.SmallIcons(&ImageList1);

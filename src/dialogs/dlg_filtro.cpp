@@ -33,6 +33,13 @@ void selectFirst(screen::eOptionLstField& field) // continue-on-error
     });
 }
 
+bool isMarked(const screen::CheckBox& box) { return box.Value() == 1; }
+
+ListFilter::Choice choice(const screen::eOptionLstField& field, const screen::CheckBox& except)
+{
+    return {field.SelectedKey(), isMarked(except)};
+}
+
 } // namespace
 
 dlgFiltro::dlgFiltro(screen::Ports screenPorts)
@@ -134,33 +141,41 @@ void dlgFiltro::addRows(screen::eOptionLstField& field, const char* statement,
 
 void dlgFiltro::cmdExportar_Click() // no trap
 {
-    const bool prospects = chkContactos.Value() == 1;
-    const bool projects = chkProyectos.Value() == 1;
+    const bool prospects = isMarked(chkContactos);
+    const bool projects = isMarked(chkProyectos);
     if (!prospects && !projects) {
         ports.dialogs.say("Seleccion cuando menos un elemento a incluir");
         return;
     }
-    const ListFilter chosen = filter();
+    const std::string ofProspects = prospects ? prospectListStatement(prospectFilter()) : "";
+    const std::string ofProjects =
+        projects ? projectListStatement(projectFilter(), Motor == desk::Session::mySql) : "";
     std::unique_ptr<data::Recordset> contactos;
     std::unique_ptr<data::Recordset> proyectos;
-    if (prospects) contactos = cnn().execute(prospectListStatement(chosen));
-    if (projects) proyectos = cnn().execute(projectListStatement(chosen, Motor == desk::Session::mySql));
+    if (prospects) contactos = cnn().execute(ofProspects);
+    if (projects) proyectos = cnn().execute(ofProjects);
     ShowDlgExport(contactos.get(), proyectos.get());
 }
 
 void dlgFiltro::cmdCancel_Click() { Hide(); }
 
-ListFilter dlgFiltro::filter() const
+ListFilter dlgFiltro::prospectFilter() const
 {
-    const auto marked = [](const screen::CheckBox& box) { return box.Value() == 1; };
     ListFilter filter;
     filter.ejecutivo = dxEjecutivo.SelectedKey();
-    filter.status = {dxStatus.SelectedKey(), marked(chkStatus)};
-    filter.meta = {dxMeta.SelectedKey(), marked(chkMeta)};
-    filter.color = {dxColor.SelectedKey(), marked(chkColor)};
-    filter.estado = {dxEstado.SelectedKey(), marked(chkEstado)};
-    filter.exceptCerrados = marked(cCerrado);
-    filter.exceptPerdidos = marked(cPerdidos);
+    filter.status = choice(dxStatus, chkStatus);
+    return filter;
+}
+
+ListFilter dlgFiltro::projectFilter() const
+{
+    ListFilter filter;
+    filter.ejecutivo = dxEjecutivo.SelectedKey();
+    filter.meta = choice(dxMeta, chkMeta);
+    filter.color = choice(dxColor, chkColor);
+    filter.estado = choice(dxEstado, chkEstado);
+    filter.exceptCerrados = isMarked(cCerrado);
+    filter.exceptPerdidos = isMarked(cPerdidos);
     return filter;
 }
 

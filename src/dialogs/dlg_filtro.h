@@ -59,7 +59,8 @@ private:
     void caption();
     void layOut();
     void addRows(screen::eOptionLstField& field, const char* statement, const char* column);
-    ListFilter filter() const;
+    ListFilter prospectFilter() const;
+    ListFilter projectFilter() const;
     data::Connection& cnn() const;
     void ShowDlgExport(data::Recordset* contactos, data::Recordset* proyectos);
 

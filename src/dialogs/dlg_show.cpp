@@ -50,7 +50,7 @@ std::string textOf(const data::Recordset& row, const char* column)
 
 } // namespace
 
-dlgShow::dlgShow(screen::Ports screenPorts) : Dialog("dlgShow", "dlgCorreos", screenPorts), grid_(form, 0, 10'950)
+dlgShow::dlgShow(screen::Ports screenPorts) : Dialog("dlgShow", "dlgCorreos", screenPorts), grid_(form, 0, 11'550)
 {
     layOut();
     on(cmdExport.Click, *this, &dlgShow::cmdExport_Click);

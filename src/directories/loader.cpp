@@ -7,13 +7,15 @@
 #include "data/failure_modes.h"
 #include "directories/statement.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace dn::directories {
 namespace {
 
-// Builds the rows of one load. The columns are looked up once; the buffers are used again for every row.
+// Builds the rows of one load. The columns are looked up once; the buffers are used again for every row. A column
+// that is missing fails at its cell, as any other failure of a row does.
 class RowBuilder {
 public:
     RowBuilder(const Kind& kind, const data::Recordset& records) : records_(records), sysPk_(find("Sys_PK"))
@@ -24,7 +26,7 @@ public:
 
     void addTo(screen::ListView& list)
     {
-        key_.assign("PK").append(records_.value(sysPk_).toText());
+        key_.assign("PK").append(value(sysPk_).toText());
         const screen::ListItem row = list.ListItems().Add(key_, text(cells_.front()));
         screen::ListSubItems subItems = row.ListSubItems();
         for (std::size_t i = 1; i < cells_.size(); ++i)
@@ -32,23 +34,30 @@ public:
     }
 
 private:
-    std::size_t find(std::string_view name) const
+    struct Column {
+        const char* name;
+        std::optional<std::size_t> position;
+    };
+
+    Column find(const char* name) const { return {name, records_.Fields().find(name)}; }
+
+    data::Value value(const Column& column) const
     {
-        if (const auto column = records_.Fields().find(name)) return *column;
-        throw data::Error("42S22", 0, "No existe la columna " + std::string(name));
+        if (column.position) return records_.value(*column.position);
+        throw data::Error("42S22", 0, "No existe la columna " + std::string(column.name));
     }
 
     // Texts, which almost all cells are, go to the list without a copy on the way.
-    std::string_view text(std::size_t column)
+    std::string_view text(const Column& column)
     {
-        const data::Value value = records_.value(column);
-        if (value.kind() == data::Value::Kind::text) return value.raw();
-        return other_ = value.toText();
+        const data::Value cell = value(column);
+        if (cell.kind() == data::Value::Kind::text) return cell.raw();
+        return other_ = cell.toText();
     }
 
     const data::Recordset& records_;
-    std::size_t sysPk_;
-    std::vector<std::size_t> cells_; // the row's own text, then the sub-items
+    Column sysPk_;
+    std::vector<Column> cells_; // the row's own text, then the sub-items
     std::string key_;
     std::string other_;
 };

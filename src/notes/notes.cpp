@@ -10,7 +10,28 @@
 #include "desk/row_key.h"
 #include "desk/timeline.h"
 
+#include <array>
+#include <tuple>
+
 namespace dn::notes {
+namespace {
+
+// The only protection of the statement: apostrophes are lost, not doubled. Blanks that the removal brings to an
+// end of the text stay.
+constexpr std::array<std::string (*)(const std::string&), 3> cleaning{
+    [](const std::string& text) { return std::string(trimmed(text)); },
+    [](const std::string& text) { return without(text, crlf); },
+    [](const std::string& text) { return without(text, "'"); }};
+
+constexpr const char* nothingWritten = "Debe escribir un mensaje";
+
+std::string selectedKey(screen::ListView& list)
+{
+    const auto row = list.SelectedItem();
+    return row ? std::string(row->Key()) : std::string();
+}
+
+} // namespace
 
 void Notes::cmdIntro_Click() // trap
 {
@@ -19,7 +40,7 @@ void Notes::cmdIntro_Click() // trap
         if (target == nullptr) return;
         cleanText();
         if (elements_.detail.txtText.Text().empty()) {
-            ports_.dialogs.say("Debe escribir un mensaje");
+            ports_.dialogs.say(nothingWritten);
             elements_.detail.txtText.SetFocus();
             return;
         }
@@ -59,33 +80,62 @@ screen::ListView* Notes::targetList()
         return lvwProy.SelectedItem() ? &lvwProy : nullptr;
     case desk::hoy: {
         const auto row = elements_.today.lvwHoy.SelectedItem();
-        if (!row) return nullptr;
-        todayPanel_.lvwHoy_ItemClick(row); // selects the record that the row points to
-        return row->Text() == today::prospectType ? &lvw : &lvwProy;
+        return row ? listOfTheDay(*row) : nullptr;
     }
     default:
         return &lvw;
     }
 }
 
-// The only protection of the statement: apostrophes are lost, not doubled. Blanks that the removal brings to an
-// end of the text stay.
+// The click on the row yields, and by its end the operator may have another party before him. What he registered
+// is for the one at which he did so: it is stored here then, and nothing is left to do.
+screen::ListView* Notes::listOfTheDay(const screen::ListItem& row)
+{
+    const std::string typed = elements_.detail.txtText.Text();
+    screen::ListView& list = todayPanel_.selectRecord(row);
+    const auto inHand = [&] {
+        return std::tuple(tabs_.GetActiveTab(), selectedKey(elements_.today.lvwHoy), selectedKey(list));
+    };
+    const auto before = inHand();
+    todayPanel_.lvwHoy_ItemClick(row);
+    if (inHand() == before) return &list;
+    storeForThePartyLeft(list, std::get<2>(before), typed);
+    return nullptr;
+}
+
+// The timeline in sight is another party's by now, and so may be the text in the box.
+void Notes::storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed)
+{
+    std::string text = typed;
+    for (const auto step : cleaning)
+        text = step(text);
+    if (text.empty()) {
+        ports_.dialogs.say(nothingWritten);
+        return;
+    }
+    insert(list, rowKey.substr(1), text); // there is one: without a selected record nothing yields
+    if (elements_.detail.txtText.Text() == typed) elements_.detail.txtText.Text("");
+}
+
 void Notes::cleanText()
 {
     screen::TextBox& txtText = elements_.detail.txtText;
-    txtText.Text(std::string(trimmed(txtText.Text())));
-    txtText.Text(without(txtText.Text(), crlf));
-    txtText.Text(without(txtText.Text(), "'"));
+    for (const auto step : cleaning)
+        txtText.Text(step(txtText.Text()));
+}
+
+void Notes::insert(const screen::ListView& list, const std::string& key, const std::string& text)
+{
+    const bool ofProspect = &list == &elements_.prospects.lvw;
+    session_.cnn().execute(ofProspect ? data::bitacora::prospectRow(text, session_.Usuario, key)
+                                      : data::bitacora::projectRow(text, session_.Usuario, key));
 }
 
 void Notes::store(screen::ListView& target)
 {
     screen::TextBox& txtText = elements_.detail.txtText;
     screen::TextBox& txtBit = elements_.detail.txtBit;
-    const std::string key = desk::keyDigits(desk::selectedRow(target));
-    const bool ofProspect = &target == &elements_.prospects.lvw;
-    session_.cnn().execute(ofProspect ? data::bitacora::prospectRow(txtText.Text(), session_.Usuario, key)
-                                      : data::bitacora::projectRow(txtText.Text(), session_.Usuario, key));
+    insert(target, desk::keyDigits(desk::selectedRow(target)), txtText.Text());
     txtBit.Text(desk::timelineEntry(session_.Usuario, defaultText(ports_.clock.Now()), txtText.Text()) +
                 txtBit.Text());
     txtText.Text("");

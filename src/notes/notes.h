@@ -25,7 +25,8 @@ public:
     }
 
     /// Stores the text of `txtText` for the selected row of the tab in view, and empties the box. Without a
-    /// selected row it does nothing; a failure is told and leaves the cleaned text in the box.
+    /// selected row it does nothing; a failure is told and leaves the cleaned text in the box. On the tab "Hoy" it
+    /// yields; whoever goes on to another party meanwhile has the note stored for the former one all the same.
     void cmdIntro_Click();
 
     /// Asks for a note and stores it.
@@ -36,6 +37,9 @@ public:
 
 private:
     screen::ListView* targetList();
+    screen::ListView* listOfTheDay(const screen::ListItem& row);
+    void storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed);
+    void insert(const screen::ListView& list, const std::string& key, const std::string& text);
     void cleanText();
     void store(screen::ListView& target);
 

@@ -4,7 +4,9 @@
 #include "screen/data_grid.h"
 
 #include "base/runtime_error.h"
+#include "base/text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace dn::screen {
@@ -70,6 +72,31 @@ void MemoryDataset::requireOpenRow() const
 DataGrid::DataGrid(Container* parent, std::string name) : ListView(parent, std::move(name))
 {
     headerClicked_ = ColumnClick.connect([this](const ColumnHeader& header) { sortBy(header.Index - 1); });
+}
+
+void DataGrid::edit(std::size_t position, int column, std::string_view text)
+{
+    if (!usable() || readOnly_ || !has(position, column)) return;
+    const auto cell = static_cast<std::size_t>(column);
+    const ListItem row = ListItems()(static_cast<int>(position) + 1);
+    if (rows().cell(rows().rowAt(position), cell) == text) return;
+    Sorted(false);
+    row.cell(cell, text);
+}
+
+std::size_t DataGrid::room(std::size_t position, int column) const
+{
+    if (!has(position, column)) return 0;
+    const auto cell = static_cast<std::size_t>(column);
+    const auto field = static_cast<std::size_t>(dataset_.FieldSize(ColumnHeaders()[cell].Key));
+    return std::max(field, length(rows().cell(rows().rowAt(position), cell)));
+}
+
+bool DataGrid::has(std::size_t position, int column) const
+{
+    if (position >= rows().count() || column < 0 || column >= static_cast<int>(ColumnHeaders().size()))
+        return false;
+    return static_cast<std::size_t>(column) < rows().cellCount(rows().rowAt(position));
 }
 
 // The same header again turns the order round.

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A data grid: a list whose rows are the records of a table in memory. The operator sorts it by its headers.
+// A data grid: a list whose rows are the records of a table in memory. The operator sorts it by its headers,
+// changes the text of its cells and copies them. Nothing of that reaches a database.
 #pragma once
 
 #include "screen/list_view.h"
@@ -62,13 +63,31 @@ class DataGrid : public ListView {
 public:
     DataGrid(Container* parent, std::string name);
 
+    void accept(ElementVisitor& visitor) override { visitor.visit(*this); }
+
     MemoryDataset& Dataset() { return dataset_; }
 
+    /// Whether the operator may not change the cells.
+    bool ReadOnly() const { return readOnly_; }
+
+    void ReadOnly(bool readOnly) { set(readOnly_, readOnly); }
+
+    // What the operator can do. Rows count from 0 in the order shown, columns from 0.
+
+    /// Writes another text into a cell. A row that was sorted stays where it stands, and the grid counts as sorted
+    /// no longer. Does nothing for a cell that is not there.
+    void edit(std::size_t position, int column, std::string_view text);
+
+    /// The most characters that he may type into a cell: as many as the field is meant for, or as there are in it.
+    std::size_t room(std::size_t position, int column) const;
+
 private:
+    bool has(std::size_t position, int column) const;
     void sortBy(int column);
 
     MemoryDataset dataset_{*this};
     Subscription headerClicked_;
+    bool readOnly_ = false;
 };
 
 } // namespace dn::screen

@@ -73,6 +73,12 @@ std::string_view ListItem::Text() const { return list_->rows_.cell(row(), 0); }
 
 screen::ListSubItems ListItem::ListSubItems() const { return screen::ListSubItems(*this); }
 
+void ListItem::cell(std::size_t index, std::string_view text) const
+{
+    list_->rows_.edit(row(), [&](RowDraft& draft) { draft.replace(index, text); });
+    textChanged();
+}
+
 std::string_view ListItem::ToolTipText() const { return list_->rows_.toolTip(row()); }
 
 void ListItem::ToolTipText(std::string_view text)

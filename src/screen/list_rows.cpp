@@ -3,11 +3,10 @@
 
 #include "screen/list_rows.h"
 
-#include "base/collation.h"
 #include "base/runtime_error.h"
+#include "screen/row_order.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace dn::screen {
@@ -109,33 +108,15 @@ void ListRows::smallIcon(RowNumber row, int icon)
 void ListRows::sort(std::size_t sortCell, bool descending)
 {
     close();
-
-    struct Sortable {
-        std::uint64_t prefix;
-        RowNumber row;
-    };
-
-    std::vector<Sortable> sortables(rows_.size());
+    RowOrder order(rows_.size());
     for (std::size_t position = 0; position < rows_.size(); ++position) {
         const RowNumber row = rowAt(position);
-        sortables[position] = {collationPrefix(cell(row, sortCell)), row};
+        order.add(row, cell(row, sortCell));
     }
-    const auto ahead = [&](const Sortable& left, const Sortable& right) {
-        if (left.prefix != right.prefix) return left.prefix < right.prefix;
-        return compareSpanish(cell(left.row, sortCell), cell(right.row, sortCell)) < 0;
-    };
-    if (descending)
-        std::stable_sort(sortables.begin(), sortables.end(),
-                         [&](const Sortable& first, const Sortable& second) { return ahead(second, first); });
-    else
-        std::stable_sort(sortables.begin(), sortables.end(), ahead);
-
-    order_.resize(rows_.size());
-    positions_.resize(rows_.size());
-    for (std::size_t position = 0; position < sortables.size(); ++position) {
-        order_[position] = sortables[position].row;
-        positions_[sortables[position].row] = static_cast<std::uint32_t>(position);
-    }
+    order_ = order.sorted(descending);
+    positions_.resize(order_.size());
+    for (std::size_t position = 0; position < order_.size(); ++position)
+        positions_[order_[position]] = static_cast<std::uint32_t>(position);
 }
 
 std::size_t ListRows::overhead() const

@@ -42,6 +42,8 @@ public:
     std::string_view Key() const;
     std::string_view Text() const;
     screen::ListSubItems ListSubItems() const;
+    /// Writes the text of a cell that the row has, counted from 0; cell 0 is the row's own text.
+    void cell(std::size_t index, std::string_view text) const;
     std::string_view ToolTipText() const;
     void ToolTipText(std::string_view text);
     int SmallIcon() const; ///< a number of the list's images, 0 for none

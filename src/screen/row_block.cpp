@@ -41,6 +41,16 @@ void RowDraft::add(std::string_view cellText)
     ends.push_back(static_cast<std::uint32_t>(cells.size()));
 }
 
+void RowDraft::replace(std::size_t index, std::string_view cellText)
+{
+    const std::string text(cellText); // it may be one of these cells
+    const std::size_t begin = index == 0 ? 0 : ends[index - 1];
+    const std::size_t before = ends[index] - begin;
+    cells.replace(begin, before, text);
+    for (std::size_t i = index; i < ends.size(); ++i)
+        ends[i] = static_cast<std::uint32_t>(ends[i] + text.size() - before);
+}
+
 std::string_view RowDraft::cell(std::size_t index) const
 {
     const std::size_t begin = index == 0 ? 0 : ends[index - 1];

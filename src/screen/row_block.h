@@ -52,6 +52,8 @@ struct RowDraft {
 
     void clear();
     void add(std::string_view cellText);
+    /// @param index of a cell that is there.
+    void replace(std::size_t index, std::string_view cellText);
     std::string_view cell(std::size_t index) const;
     /// The style of a cell, made when it has none yet.
     CellStyle& style(std::size_t cell);

@@ -11,6 +11,7 @@ class Button;
 class CheckBox;
 class ComboBox;
 class DTPicker;
+class DataGrid;
 class Form;
 class Label;
 class Line;
@@ -32,6 +33,7 @@ public:
     virtual void visit(CheckBox& element) = 0;
     virtual void visit(ComboBox& element) = 0;
     virtual void visit(DTPicker& element) = 0;
+    virtual void visit(DataGrid& element) = 0;
     virtual void visit(Form& element) = 0;
     virtual void visit(Label& element) = 0;
     virtual void visit(Line& element) = 0;

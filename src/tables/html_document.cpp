@@ -51,19 +51,23 @@ std::string_view entity(char byte)
     }
 }
 
+bool standsForItself(char byte) { return isPlain(byte) && entity(byte).empty(); }
+
 void appendEscaped(std::string& out, std::string_view text)
 {
     while (!text.empty()) {
-        if (!isPlain(text.front())) {
+        std::size_t plain = 0;
+        while (plain < text.size() && standsForItself(text[plain]))
+            ++plain;
+        out += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) return;
+        if (isPlain(text.front())) {
+            out += entity(text.front());
+            text.remove_prefix(1);
+        } else {
             appendCharacter(out, takeStorable(text));
-            continue;
         }
-        const std::string_view escaped = entity(text.front());
-        if (escaped.empty())
-            out += text.front();
-        else
-            out += escaped;
-        text.remove_prefix(1);
     }
 }
 

@@ -41,11 +41,13 @@ private:
     };
 
     void open();
+    void flush();
     [[noreturn]] void fail() const;
 
     std::filesystem::path path_;    ///< where it will be
     std::filesystem::path partial_; ///< where it is written; empty once it is kept
     std::unique_ptr<std::FILE, Close> file_;
+    std::string buffer_; ///< written, but not to the file yet
     std::uint64_t size_ = 0;
 };
 

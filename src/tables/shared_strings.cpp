@@ -23,40 +23,63 @@ SharedStrings::SharedStrings(Records& records) : records_(records)
 
 void SharedStrings::add(std::string_view text)
 {
+    if (text.size() <= longestCell && plainBytes(text) == text.size()) {
+        addPlain(text);
+        return;
+    }
     convert(text);
-    constexpr std::size_t head = 3; // it must not be torn from its first character
-    if (records_.room() < head + (wide_ ? 4 : 1)) goOn();
-    records_.u16(static_cast<std::uint32_t>(units_.size())).u8(wide_ ? 1 : 0);
+    begin(units_.size(), wide_);
     writeUnits();
+}
+
+void SharedStrings::begin(std::size_t units, bool wide)
+{
+    constexpr std::size_t head = 3; // it must not be torn from its first character
+    if (records_.room() < head + (wide ? 4 : 1)) goOn();
+    records_.u16(static_cast<std::uint32_t>(units)).u8(wide ? 1 : 0);
     ++count_;
 }
 
-void SharedStrings::convert(std::string_view text)
+// The bytes of a plain text are its units.
+void SharedStrings::addPlain(std::string_view text)
 {
-    units_.clear();
-    wide_ = false;
-    while (!text.empty() && units_.size() < longestCell) {
-        if (isPlain(text.front())) {
-            units_ += static_cast<char16_t>(text.front());
-            text.remove_prefix(1);
-        } else {
-            append(takeStorable(text));
-        }
+    begin(text.size(), false);
+    for (;;) {
+        const std::string_view part = text.substr(0, records_.room());
+        records_.bytes(part);
+        text.remove_prefix(part.size());
+        if (text.empty()) return;
+        goOn();
+        records_.u8(0);
     }
 }
 
-void SharedStrings::append(char32_t character)
+// A text has at least as many bytes in UTF-8 as units in UTF-16.
+void SharedStrings::convert(std::string_view text)
 {
+    units_.resize(std::min(text.size(), longestCell));
+    wide_ = false;
+    std::size_t count = 0;
+    while (!text.empty() && count < longestCell) {
+        const std::size_t plain = std::min(plainBytes(text), longestCell - count);
+        std::copy_n(text.begin(), plain, units_.begin() + static_cast<std::ptrdiff_t>(count));
+        text.remove_prefix(plain);
+        count += plain;
+        if (!text.empty() && count < longestCell) put(takeStorable(text), count);
+    }
+    units_.resize(count);
+}
+
+void SharedStrings::put(char32_t character, std::size_t& count)
+{
+    wide_ = wide_ || character > 0xFF;
     if (character < 0x10000) {
-        units_ += static_cast<char16_t>(character);
-        wide_ = wide_ || character > 0xFF;
-    } else if (units_.size() + 2 <= longestCell) {
-        units_ += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U));
-        units_ += static_cast<char16_t>(0xDC00 + (character & 0x3FFU));
-        wide_ = true;
+        units_[count++] = static_cast<char16_t>(character);
+    } else if (count + 2 <= longestCell) {
+        units_[count++] = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10U));
+        units_[count++] = static_cast<char16_t>(0xDC00 + (character & 0x3FFU));
     } else {
-        units_.resize(longestCell - 1);
-        units_ += u' '; // half a character would be none
+        units_[count++] = u' '; // half a character would be none
     }
 }
 

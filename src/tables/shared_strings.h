@@ -29,8 +29,10 @@ public:
     void end() { records_.end(); }
 
 private:
+    void begin(std::size_t units, bool wide);
+    void addPlain(std::string_view text);
     void convert(std::string_view text);
-    void append(char32_t character);
+    void put(char32_t character, std::size_t& count);
     void writeUnits();
     void goOn();
 

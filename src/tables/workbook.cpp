@@ -9,6 +9,7 @@
 #include "tables/shared_strings.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -221,9 +222,20 @@ void Workbook::writeWindow(std::size_t sheet)
     records_.begin(kindPane).u16(0).u16(1).u16(1).u16(0).u8(2).u8(0).end();
 }
 
+// Made in place, for a list has hundreds of thousands of them.
 void Workbook::writeCell(std::uint32_t row, std::size_t column, std::uint32_t format, std::uint32_t text)
 {
-    records_.begin(kindLabelSst).u16(row).u16(static_cast<std::uint32_t>(column)).u16(format).u32(text).end();
+    std::array<char, 14> record{};
+    std::size_t at = 0;
+    const auto put16 = [&](std::uint32_t number) {
+        record[at++] = static_cast<char>(number & 0xFFU);
+        record[at++] = static_cast<char>(number >> 8U & 0xFFU);
+    };
+    constexpr std::uint32_t contents = 10; // bytes
+    for (const std::uint32_t number : {std::uint32_t{kindLabelSst}, contents, row,
+                                       static_cast<std::uint32_t>(column), format, text, text >> 16U})
+        put16(number);
+    file_.write({record.data(), record.size()});
 }
 
 } // namespace

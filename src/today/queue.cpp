@@ -27,8 +27,7 @@ void Queue::RefreshRobot() // continue-on-error
     resumeNext([&] { agente = elements_.top.cbAgente.selectedData(); });
     readView("qhoy", agente);
     readView("qatascados", agente); // a party of both views keeps its row of the first
-    // While a list was loaded the operator may have gone to another tab, whose detail is not the queue's to fill.
-    if (!selectedKey.empty() && tab == tabs_.GetActiveTab()) selectAgain(selectedKey);
+    if (!selectedKey.empty()) selectAgain(selectedKey, tab);
     resumeNext([&] { counters_.UpdateCounters(); });
     enableCommands();
 }
@@ -57,11 +56,12 @@ void Queue::readView(const char* view, std::int32_t agente)
     });
 }
 
-void Queue::selectAgain(const std::string& key)
+void Queue::selectAgain(const std::string& key, std::int16_t tab)
 {
     screen::ListView& lvwHoy = elements_.today.lvwHoy;
     resumeNext([&] { lvwHoy.ListItems()(key).Selected(true); });
-    resumeNext([&] { panel_.lvwHoy_ItemClick(lvwHoy.SelectedItem()); });
+    // While a list was loaded the operator may have gone to another tab, whose detail is not the queue's to fill.
+    if (tab == tabs_.GetActiveTab()) resumeNext([&] { panel_.lvwHoy_ItemClick(lvwHoy.SelectedItem()); });
 }
 
 void Queue::enableCommands()

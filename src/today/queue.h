@@ -34,7 +34,7 @@ public:
 private:
     void widenLists();
     void readView(const char* view, std::int32_t agente);
-    void selectAgain(const std::string& key);
+    void selectAgain(const std::string& key, std::int16_t tab);
     void enableCommands();
 
     desk::Session& session_;

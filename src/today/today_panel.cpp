@@ -15,18 +15,24 @@ using data::resumeNext;
 void TodayPanel::lvwHoy_ItemClick(const std::optional<screen::ListItem>& row) // continue-on-error
 {
     if (!row) return;
-    std::string key;
-    bool prospect = false;
-    resumeNext([&] { key = desk::keyDigits(*row); });
-    resumeNext([&] { prospect = row->Text() == prospectType; });
-    screen::ListView& target = prospect ? elements_.prospects.lvw : elements_.projects.lvwProy;
-    resumeNext([&] { target.ListItems()("K" + key).Selected(true); });
+    screen::ListView& target = selectRecord(*row);
     resumeNext([&] {
-        if (prospect)
+        if (&target == &elements_.prospects.lvw)
             prospectDetail_.lvw_ItemClick(target.SelectedItem());
         else
             projectDetail_.lvwProy_ItemClick(target.SelectedItem());
     });
+}
+
+screen::ListView& TodayPanel::selectRecord(const screen::ListItem& row) // continue-on-error
+{
+    std::string key;
+    bool prospect = false;
+    resumeNext([&] { key = desk::keyDigits(row); });
+    resumeNext([&] { prospect = row.Text() == prospectType; });
+    screen::ListView& target = prospect ? elements_.prospects.lvw : elements_.projects.lvwProy;
+    resumeNext([&] { target.ListItems()("K" + key).Selected(true); });
+    return target;
 }
 
 void TodayPanel::Command7_Click() // continue-on-error

@@ -32,6 +32,9 @@ public:
     /// without a row.
     void lvwHoy_ItemClick(const std::optional<screen::ListItem>& row);
 
+    /// The first half of the click: selects the row's record in its own list and gives that list. Runs no events.
+    screen::ListView& selectRecord(const screen::ListItem& row);
+
     /// Shows the mails of the party that the click selected.
     void Command7_Click();
 

@@ -75,20 +75,35 @@ TEST(SpanishOrder, TellsInvalidBytesAndEmojiApart)
     EXPECT_NE(compareSpanish("😀", "😁"), 0);
 }
 
-TEST(CollationPrefix, HasTheSignOfTheComparisonWhereItDiffers)
+int sign(int number) { return (number > 0) - (number < 0); }
+
+/// How two keys stand to each other, byte by byte.
+int compareKeys(const std::string& left, const std::string& right)
 {
-    const std::vector<std::string> texts{"",    "a",    "á",  "ab", "abcd", "abcde", "ABCDZ", "ñ",     "n",
-                                         "o",   "1",    "12", " ",  "~",    "\x7F",  "😀",     "\xFF",  "más",
-                                         "mas", "masa", "z",  "я",  "caña", "cana",  "cañón", "Ángel", "angel"};
-    for (const std::string& left : texts) {
-        for (const std::string& right : texts) {
-            const std::uint64_t l = collationPrefix(left);
-            const std::uint64_t r = collationPrefix(right);
-            EXPECT_TRUE(l == r || (l < r) == (compareSpanish(left, right) < 0)) << left << " and " << right;
-        }
-    }
-    EXPECT_LT(collationPrefix("nz"), collationPrefix("ña"));
-    EXPECT_EQ(collationPrefix("abcdX"), collationPrefix("ABCDy"));
+    std::string l;
+    std::string r;
+    appendCollationKey(l, left);
+    appendCollationKey(r, right);
+    return sign(l.compare(r));
+}
+
+TEST(CollationKey, HasTheSignOfTheComparison)
+{
+    const std::vector<std::string> texts{
+        "",  "a",    "á",  "ab", "áb",   "abcd", "abcde", "ABCDZ", "ñ",     "n",     "o",     "1",    "12",   " ",
+        "~", "\x7F", "😀",  "😁",  "\xFF", "\xFE", "más",   "mas",   "masa",  "mása",  "masá",  "z",    "я",    "яя",
+        "Ω", "ā",    "aā", "日", "日本", "caña", "cana",  "cañón", "Ángel", "angel", "ángel", "\x01", "a\x01"};
+    for (const std::string& left : texts)
+        for (const std::string& right : texts)
+            EXPECT_EQ(compareKeys(left, right), sign(compareSpanish(left, right))) << left << " and " << right;
+}
+
+TEST(CollationKey, OfAPlainTextIsNoLongerThanTheTextAndItsEnd)
+{
+    std::string key = "there already ";
+    appendCollationKey(key, "ABC xyz 123");
+    EXPECT_EQ(key.size(), std::string("there already ABC xyz 123").size() + 1);
+    EXPECT_EQ(key.substr(0, 14), "there already ");
 }
 
 // Ahead and behind each other in one order whichever three are taken: else a sort may not end.

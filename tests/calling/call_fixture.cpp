@@ -3,6 +3,8 @@
 
 #include "tests/calling/call_fixture.h"
 
+#include "tests/support/log_rows.h"
+
 #include <ostream>
 
 namespace dn::tests {
@@ -93,11 +95,38 @@ void CallTest::closesTheQuestion()
     });
 }
 
-std::string CallTest::noteOf(const std::string& text)
+std::string CallTest::noteOf(const std::string& text) { return prospectNote(text, "12"); }
+
+void CallAnyoneTest::SetUp()
 {
-    return "INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, uf_Iicontact) VALUES "
-           "(CURRENT_TIMESTAMP, '" +
-           text + "','ana',12)";
+    start(7, false);
+    prospects({prospect(12, {{"uf_Telefono", text("111")}}), prospect(13, {{"uf_Telefono", text("222")}})});
+    activities({activity(12), activity(88)});
+    contactData({{"Tel1", text("961")}});
+    openProspects();
+    openProjects();
+    due({queuedProspect(13), queuedProject(88), queuedProject(12)});
+}
+
+void CallAnyoneTest::closesTheQuestion()
+{
+    ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
+}
+
+std::vector<std::string> CallAnyoneTest::changes() const
+{
+    std::vector<std::string> result;
+    for (const std::string& statement : cnn.statements())
+        if (statement.rfind("UPDATE", 0) == 0 || statement.rfind("INSERT", 0) == 0) result.push_back(statement);
+    return result;
+}
+
+void CallAnyoneTest::expectIdle()
+{
+    EXPECT_FALSE(control.Call_Progress());
+    EXPECT_FALSE(call().picLlamada.Visible());
+    EXPECT_TRUE(lvwProy().Enabled() && lvwHoy().Enabled() && lvw().Enabled());
+    EXPECT_TRUE(cmdCall().Enabled());
 }
 
 } // namespace dn::tests

@@ -7,6 +7,7 @@
 
 #include "tests/support/control_fixture.h"
 #include "tests/support/element_tree.h"
+#include "tests/today/fixture.h"
 
 #include <string>
 #include <vector>
@@ -48,6 +49,22 @@ protected:
     static std::string noteOf(const std::string& text);
 
     std::vector<std::string> steps; ///< since the last start
+};
+
+/// A control with the prospects 12 and 13 and the projects 12 and 88, the prospect 13 and both projects in the
+/// queue of the day. The prospects have the numbers 111 and 222, the projects 961; the queue shows others.
+class CallAnyoneTest : public TodayTest {
+protected:
+    void SetUp() override;
+
+    desk::CallElements& call() { return elements().call; }
+    desk::Button& cmdCall() { return elements().detail.cmdCall; }
+
+    /// The question what happens next will come and is closed.
+    void closesTheQuestion();
+    /// The statements sent that change something.
+    std::vector<std::string> changes() const;
+    void expectIdle();
 };
 
 } // namespace dn::tests

@@ -4,8 +4,8 @@
 // Calls to projects and to parties of the day's queue: the tab in view tells whom a call is about, at its start
 // and again at its end.
 
-#include "tests/support/element_tree.h"
-#include "tests/today/fixture.h"
+#include "tests/calling/call_fixture.h"
+#include "tests/support/log_rows.h"
 
 #include <functional>
 
@@ -16,50 +16,13 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class CallToOthers : public TodayTest {
+class CallToOthers : public CallAnyoneTest {
 protected:
-    void SetUp() override
-    {
-        start(7, false);
-        prospects({prospect(12, {{"uf_Telefono", text("111")}}), prospect(13, {{"uf_Telefono", text("222")}})});
-        activities({activity(12), activity(88)});
-        contactData({{"Tel1", text("961")}});
-        openProspects();
-        openProjects();
-        due({queuedProspect(13), queuedProject(88), queuedProject(12)});
-    }
-
-    desk::CallElements& call() { return elements().call; }
     void rings()
     {
-        elements().detail.cmdCall.press();
+        cmdCall().press();
         cnn.forgetStatements();
         host.log.calls.clear();
-    }
-    void closesTheQuestion()
-    {
-        ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
-    }
-    std::vector<std::string> changes()
-    {
-        std::vector<std::string> result;
-        for (const std::string& statement : cnn.statements())
-            if (statement.rfind("UPDATE", 0) == 0 || statement.rfind("INSERT", 0) == 0)
-                result.push_back(statement);
-        return result;
-    }
-    static std::string projectNote(const std::string& message, int key)
-    {
-        return "INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, uf_Iicontact, uf_IProy) VALUES "
-               "(CURRENT_TIMESTAMP, '" +
-               message + "','ana',0," + std::to_string(key) + ")";
-    }
-    void expectIdle()
-    {
-        EXPECT_FALSE(control.Call_Progress());
-        EXPECT_FALSE(call().picLlamada.Visible());
-        EXPECT_TRUE(lvwProy().Enabled() && lvwHoy().Enabled() && lvw().Enabled());
-        EXPECT_TRUE(elements().detail.cmdCall.Enabled());
     }
 };
 
@@ -96,7 +59,7 @@ TEST_F(CallToOthers, without_a_project_is_refused)
 {
     lvwProy().ListItems().Clear();
     ports.dialogs.expectBox("Seleccione un proyecto");
-    elements().detail.cmdCall.press();
+    cmdCall().press();
     expectIdle();
 }
 
@@ -110,7 +73,7 @@ TEST_F(CallToOthers, the_end_writes_to_the_project_and_opens_it_without_a_questi
     EXPECT_THAT(changes(),
                 ElementsAre(projectNote("Se estableció llamada al: 961 pero no se pudo contactar al prospecto. "
                                         "<Número equivocado>",
-                                        88),
+                                        "88"),
                             "UPDATE Proyecto SET uf_ultimointento= CURRENT_TIMESTAMP, uf_res_ultimointento =  13 "
                             "Where Sys_PK = 88"));
     EXPECT_EQ(elements().top.lblCuenta.Caption(), "2");
@@ -134,12 +97,13 @@ TEST_F(CallToOthers, a_summary_counts_as_the_projects_first_contact)
     rings();
     control.Call_Connect(6);
     control.Call_Resumen("quedamos el lunes");
-    EXPECT_THAT(changes(),
-                ElementsAre(projectNote("Se estableció llamada al 961 Con éxito. Resumen: quedamos el lunes", 88),
-                            "UPDATE Proyecto SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where "
-                            "Sys_PK=88 and isnull(uf_contactado)",
-                            "UPDATE Proyecto SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, "
-                            "uf_ultimocontac = CURRENT_TIMESTAMP Where Sys_PK = 88"));
+    EXPECT_THAT(
+        changes(),
+        ElementsAre(projectNote("Se estableció llamada al 961 Con éxito. Resumen: quedamos el lunes", "88"),
+                    "UPDATE Proyecto SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where "
+                    "Sys_PK=88 and isnull(uf_contactado)",
+                    "UPDATE Proyecto SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, "
+                    "uf_ultimocontac = CURRENT_TIMESTAMP Where Sys_PK = 88"));
 }
 
 TEST_F(CallToOthers, a_project_screen_that_fails_leaves_no_call)
@@ -169,7 +133,9 @@ TEST_F(CallToOthers, of_the_day_call_the_prospect_behind_the_row)
     rings();
     EXPECT_EQ(control.Call_Tabla(), "ut_icontact");
     EXPECT_EQ(control.Call_PK(), 13);
+    EXPECT_EQ(lvwHoy().ListItems()("K13").ListSubItems()(4).Text(), "96113") << "which is for reading only";
     EXPECT_EQ(control.Call_Tel(), "222");
+    EXPECT_EQ(call().lbltel.Caption(), "---2-22");
     EXPECT_FALSE(lvwHoy().usable());
     closesTheQuestion();
     call().cmdNoContestan.press();
@@ -209,7 +175,7 @@ TEST_F(CallToOthers, the_end_goes_by_the_tab_shown_at_that_moment)
     EXPECT_THAT(changes(), Contains("UPDATE ut_icontact SET uf_ultimointento=CURRENT_TIMESTAMP, "
                                     "uf_res_ultimointento=1 Where Sys_PK=12"));
     // The note goes to the row selected in the tab in view, with the number that its click has found meanwhile.
-    EXPECT_THAT(changes(), Contains(projectNote("No se pudo establecer llamada al: 961 Línea ocupada", 12)));
+    EXPECT_THAT(changes(), Contains(projectNote("No se pudo establecer llamada al: 961 Línea ocupada", "12")));
     expectIdle();
 }
 

@@ -123,6 +123,13 @@ TEST_F(CallStart, gives_each_command_a_key_that_no_other_has_at_the_same_time)
     };
     EXPECT_THAT(keys(), IsSupersetOf({"F8", "F6", "F7", "F2", "F9"}));
     EXPECT_TRUE(alone(keys()));
+    for (const int tab : {1, 2, 3, 4, 0}) {
+        elements().top.lblItem(tab).click();
+        elements().today.cmdEditHoy.Enabled(true); // as a queue with rows has it
+        EXPECT_TRUE(alone(keys())) << tab;
+        const auto now = keys();
+        EXPECT_EQ(std::count(now.begin(), now.end(), "F2"), tab == 0 || tab == 2 ? 1 : 0) << tab;
+    }
     const std::vector<std::string> ringing{"Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4", "Esc"};
     rings();
     EXPECT_THAT(keys(), IsSupersetOf(ringing));

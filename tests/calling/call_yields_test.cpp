@@ -4,8 +4,8 @@
 // What the operator presses while the control yields in the middle of a call, and what the host begins at its end:
 // each outcome is written once and to its own party.
 
-#include "tests/support/element_tree.h"
-#include "tests/today/fixture.h"
+#include "tests/calling/call_fixture.h"
+#include "tests/support/log_rows.h"
 
 #include <stdexcept>
 #include <utility>
@@ -16,22 +16,8 @@ namespace {
 using testing::ElementsAre;
 using testing::SizeIs;
 
-class CallYields : public TodayTest {
+class CallYields : public CallAnyoneTest {
 protected:
-    void SetUp() override
-    {
-        start(7, false);
-        prospects({prospect(12, {{"uf_Telefono", text("111")}}), prospect(13, {{"uf_Telefono", text("222")}})});
-        activities({activity(88)});
-        contactData({{"Tel1", text("961")}});
-        openProspects();
-        openProjects();
-        due({queuedProspect(13), queuedProject(88), queuedProspect(12)});
-    }
-
-    desk::CallElements& call() { return elements().call; }
-    screen::Button& cmdCall() { return elements().detail.cmdCall; }
-
     /// Rings for the prospect 13, or another party of the day.
     void ringsOfTheDay(const char* key = "K13")
     {
@@ -57,29 +43,6 @@ protected:
             within = false;
         };
     }
-    void closesTheQuestion()
-    {
-        ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
-    }
-    std::vector<std::string> changes()
-    {
-        std::vector<std::string> result;
-        for (const std::string& statement : cnn.statements())
-            if (statement.rfind("UPDATE", 0) == 0 || statement.rfind("INSERT", 0) == 0)
-                result.push_back(statement);
-        return result;
-    }
-    static std::string note(const std::string& message, int key)
-    {
-        return "INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, uf_Iicontact) VALUES "
-               "(CURRENT_TIMESTAMP, '" +
-               message + "','ana'," + std::to_string(key) + ")";
-    }
-    void expectIdle()
-    {
-        EXPECT_FALSE(control.Call_Progress());
-        EXPECT_FALSE(call().picLlamada.Visible());
-    }
 };
 
 TEST_F(CallYields, an_answer_that_is_pressed_twice_counts_once)
@@ -90,9 +53,9 @@ TEST_F(CallYields, an_answer_that_is_pressed_twice_counts_once)
     closesTheQuestion();
     call().cmdCallCon(0).press();
     EXPECT_THAT(changes(),
-                ElementsAre(note("Se estableció llamada al: 222 pero no se pudo contactar al prospecto. "
-                                 "<No se encuentra>",
-                                 13),
+                ElementsAre(prospectNote("Se estableció llamada al: 222 pero no se pudo contactar al prospecto. "
+                                         "<No se encuentra>",
+                                         "13"),
                             "UPDATE ut_icontact SET uf_ultimointento= CURRENT_TIMESTAMP, uf_res_ultimointento =  "
                             "11 Where Sys_PK = 13"));
     expectIdle();
@@ -171,6 +134,29 @@ TEST_F(CallYields, whoever_is_clicked_before_the_attempt_is_stored_does_not_get_
                                 "=  13 Where Sys_PK = 12");
     EXPECT_EQ(control.Call_PK(), 12);
     expectIdle();
+}
+
+// The lists are free again when the note of an unanswered call is written.
+TEST_F(CallYields, whoever_is_clicked_while_the_note_is_written_does_not_get_it)
+{
+    due({queuedProspect(13), queuedProject(88), queuedProspect(12)});
+    for (const char* other : {"P88", "K12"}) {
+        ringsOfTheDay();
+        bool once = true;
+        atEachYield([&] {
+            if (std::exchange(once, false)) click(other);
+        });
+        if (other[0] == 'K') closesTheQuestion(); // it is for the party in hand by then
+        call().cmdOcupado.press();
+        EXPECT_FALSE(once);
+        EXPECT_THAT(
+            changes(),
+            ElementsAre("UPDATE ut_icontact SET uf_ultimointento=CURRENT_TIMESTAMP, uf_res_ultimointento=1 "
+                        "Where Sys_PK=13",
+                        prospectNote("No se pudo establecer llamada al: 222 Línea ocupada", "13")));
+        expectIdle();
+        ports.events.onYield = nullptr;
+    }
 }
 
 TEST_F(CallYields, another_party_of_the_day_waits_until_the_question_has_been_put)

@@ -194,6 +194,40 @@ TEST_F(ExportFilter, takes_any_other_engine_for_sql_server)
     }
 }
 
+// A list is filtered by its own filters alone: one of the other's without a selection does not keep it back.
+TEST_F(ExportFilter, asks_only_the_filters_of_the_lists_that_are_marked)
+{
+    show([&](screen::Form&) {
+        for (screen::eOptionLstField* field : {&dialog.dxMeta, &dialog.dxColor, &dialog.dxEstado})
+            field->InnerList().ListIndex(-1);
+        dialog.chkContactos.toggle();
+        EXPECT_EQ(exported(), "Total de Registros: 1");
+        dialog.chkProyectos.toggle();
+        cnn.forgetStatements();
+        EXPECT_THROW(dialog.cmdExportar.press(), RuntimeError);
+        EXPECT_THAT(cnn.statements(), IsEmpty()) << "both statements are built ahead of the first one's run";
+        for (screen::eOptionLstField* field : {&dialog.dxMeta, &dialog.dxColor, &dialog.dxEstado})
+            field->InnerList().ListIndex(0);
+        dialog.dxStatus.InnerList().ListIndex(-1);
+        dialog.chkContactos.toggle();
+        EXPECT_EQ(exported(), "Total de Registros: 1");
+    });
+}
+
+TEST_F(ExportFilter, on_sql_server_reads_the_prospects_ahead_of_the_list_that_fails)
+{
+    dialog.Motor = 2;
+    cnn.onContaining("FROM (Proyecto").fails("Incorrect syntax near ')'.");
+    show([&](screen::Form&) {
+        dialog.chkContactos.toggle();
+        dialog.chkProyectos.toggle();
+        EXPECT_THROW(dialog.cmdExportar.press(), data::Error);
+        EXPECT_THAT(cnn.statements(), ElementsAre(barePros, StartsWith("SELECT Proyecto")));
+        dialog.chkProyectos.toggle();
+        EXPECT_EQ(exported(), "Total de Registros: 1");
+    });
+}
+
 TEST_F(ExportFilter, hands_a_failed_list_on_and_shows_none)
 {
     show([&](screen::Form& form) {

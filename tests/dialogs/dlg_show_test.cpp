@@ -183,6 +183,14 @@ TEST_F(ExportView, leaves_a_cell_empty_that_cannot_be_read)
     EXPECT_THAT(row(2), ElementsAre("Rosa Paz ", "Sol", "rosa@x", "55"));
 }
 
+TEST_F(ExportView, joins_nothing_to_the_first_where_the_second_cannot_be_read)
+{
+    projects({project(text("sol@x"), failing("no"), text("55"), failing("no"))});
+    show();
+    EXPECT_THAT(row(1), ElementsAre("Rosa Paz ", "Sol", "sol@x", "55"));
+    EXPECT_EQ(dialog.lblTotal.Caption(), "Total de Registros: 1");
+}
+
 TEST_F(ExportView, leaves_a_column_empty_that_is_not_there)
 {
     prospects(Rows{{"uf_Nombre"}, {{text("Luz")}}});
@@ -249,6 +257,21 @@ TEST_F(ExportView, writes_the_columns_in_their_order_and_the_rows_in_the_order_s
                   "<th scope=\"col\">Telefonos</th></tr>\n</thead>\n<tbody>\n"
                   "<tr><td>Ana</td><td>de Ana</td><td>Ana@x</td><td>961 Ana</td></tr>\n"
                   "<tr><td>Luz</td><td>de Luz</td><td>Luz@x</td><td>961 Luz</td></tr>\n</tbody>"));
+}
+
+TEST_F(ExportView, lets_the_cells_be_changed_and_writes_what_they_then_say)
+{
+    prospects({prospect("Luz"), prospect("Ana")});
+    show([&](screen::Form&) {
+        EXPECT_FALSE(dialog.dxGrid.ReadOnly());
+        dialog.dxGrid.edit(0, 2, "otra@x");
+        ports.dialogs.expectSave(screen::SaveChoice{folder.file("a.html"), 2});
+        dialog.cmdExport.press();
+    });
+    EXPECT_THAT(contentsOf(folder.file("a.html")),
+                HasSubstr("<tr><td>Luz</td><td>de Luz</td><td>otra@x</td><td>961 Luz</td></tr>\n"
+                          "<tr><td>Ana</td>"));
+    EXPECT_EQ(dialog.lblTotal.Caption(), "Total de Registros: 2");
 }
 
 TEST_F(ExportView, says_nothing_of_a_file_that_cannot_be_written_and_leaves_none)

@@ -162,6 +162,37 @@ TEST_F(GroupTool, asks_for_a_receiver_and_stays)
     });
 }
 
+TEST_F(GroupTool, without_agents_has_nobody_to_receive)
+{
+    cnn.on(agentsStatement).givesNothing();
+    show([&](screen::Form&) {
+        ports.dialogs.expectBox("Debe seleccionar el ejecutivo que recibirá los proyectos");
+        dialog.cmdCambiar.press();
+        EXPECT_THAT(cnn.statements(), IsEmpty());
+    });
+}
+
+// The group is put together ahead of the look at the receiver.
+TEST_F(GroupTool, tells_of_the_present_executive_ahead_of_the_receiver)
+{
+    show([&](screen::Form&) {
+        dialog.cmdEjecutivo.ListIndex(-1);
+        ports.dialogs.expectBox("No hay ningún elemento seleccionado en la lista.");
+        dialog.cmdCambiar.press();
+    });
+}
+
+TEST_F(GroupTool, without_a_selection_has_no_colour_and_no_state_that_a_project_could_have)
+{
+    show([&](screen::Form&) {
+        dialog.cmdDestino.pick("Beto");
+        dialog.cmdColor.ListIndex(-1);
+        EXPECT_EQ(changed(), "UPDATE Proyecto SET IEjecutivo = 9 ");
+        dialog.cmdEstado.ListIndex(-1);
+        EXPECT_EQ(changed(), "UPDATE Proyecto SET IEjecutivo = 9  WHERE uf_Status1 = -1");
+    });
+}
+
 TEST_F(GroupTool, asks_first_with_no_as_the_default)
 {
     show([&](screen::Form& form) {
@@ -179,10 +210,13 @@ TEST_F(GroupTool, shows_the_hourglass_while_the_statement_runs)
 {
     show([&](screen::Form&) {
         dialog.cmdDestino.pick("Ana");
-        int during = 0;
-        cnn.beforeExecute([&](std::string_view) { during = ports.pointer.MousePointer(); });
+        std::vector<int> pointer;
+        cnn.beforeExecute([&](std::string_view) { pointer.push_back(ports.pointer.MousePointer()); });
+        ports.dialogs.onBox = [&] { pointer.push_back(ports.pointer.MousePointer()); };
         changed();
-        EXPECT_EQ(during, screen::Pointer::hourglass);
+        EXPECT_THAT(pointer,
+                    ElementsAre(screen::Pointer::standard, screen::Pointer::hourglass, screen::Pointer::standard))
+            << "question, statement, message";
         EXPECT_THAT(ports.pointer.shapes, ElementsAre(screen::Pointer::hourglass, screen::Pointer::standard));
     });
 }
@@ -267,6 +301,16 @@ TEST_F(GroupTool, opens_the_export_with_its_own_connection_and_engine)
         form.closeWindow();
     });
     dialog.ShowExportFiltro();
+}
+
+TEST_F(GroupTool, has_no_button_for_the_export)
+{
+    show([&](screen::Form& form) {
+        std::vector<std::string> buttons;
+        for (const screen::Element* child : form.children())
+            if (dynamic_cast<const screen::Button*>(child) != nullptr) buttons.push_back(child->name());
+        EXPECT_THAT(buttons, ElementsAre("cmdCambiar", "cmdCerrar"));
+    });
 }
 
 TEST_F(GroupTool, passes_over_an_export_that_cannot_be_opened)

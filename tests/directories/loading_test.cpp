@@ -30,6 +30,23 @@ protected:
         return {e.addOrganization.Enabled(), e.editOrganization.Enabled(), e.deleteOrganization.Enabled(),
                 e.showOrganizationRelations.Enabled(), e.genProyectFromOrganization.Enabled()};
     }
+
+    /// Puts buttons and counters in a state that no load leaves behind, and tells whether it still stands.
+    void leaveMarks()
+    {
+        elements().persons.editContact.Enabled(false);
+        elements().persons.lblInfoContacto.Caption("como estaba");
+        elements().organisations.editOrganization.Enabled(false);
+        elements().organisations.lblinfoOrganizacion.Caption("como estaba");
+    }
+    bool marksStand()
+    {
+        using testing::Matches;
+        return Matches(ElementsAre(true, false, true, true, true))(personButtons()) &&
+               Matches(ElementsAre(true, false, true, true, true))(organisationButtons()) &&
+               elements().persons.lblInfoContacto.Caption() == "como estaba" &&
+               elements().organisations.lblinfoOrganizacion.Caption() == "como estaba";
+    }
 };
 
 TEST_F(DirectoryLoading, shows_every_field_of_a_person_under_its_header)
@@ -142,12 +159,11 @@ TEST_F(DirectoryLoading, a_failed_statement_is_told_and_leaves_rows_buttons_and_
     start(7, false);
     persons({person(1), person(2)});
     organisations({organisation(3)});
-    for (const int tab : {desk::contactos, desk::organizaciones}) {
+    for (const int tab : {desk::organizaciones, desk::contactos}) {
         open(tab);
         screen::ListView& list = tab == desk::contactos ? lvwContactos() : lvwOrganizaciones();
         const auto before = keys(list);
-        elements().persons.editContact.Enabled(false);
-        elements().persons.lblInfoContacto.Caption("como estaba");
+        leaveMarks();
         failAt(1);
         ports.dialogs.expectBox("se perdió la conexión");
         elements().top.lblItem(tab).click();
@@ -155,9 +171,9 @@ TEST_F(DirectoryLoading, a_failed_statement_is_told_and_leaves_rows_buttons_and_
         EXPECT_EQ(box.buttons, screen::MessageBox::Buttons::ok);
         EXPECT_EQ(box.icon, screen::MessageBox::Icon::none);
         EXPECT_EQ(box.title, "");
+        EXPECT_EQ(ports.dialogs.boxes().size(), tab == desk::contactos ? 2U : 1U);
         EXPECT_EQ(keys(list), before);
-        EXPECT_FALSE(elements().persons.editContact.Enabled());
-        EXPECT_EQ(elements().persons.lblInfoContacto.Caption(), "como estaba");
+        EXPECT_TRUE(marksStand());
         EXPECT_TRUE(list.Visible()) << "the tab was shown all the same";
     }
 }
@@ -176,11 +192,26 @@ TEST_F(DirectoryLoading, rows_read_ahead_of_a_failure_stay)
     persons({person(8), person(9)});
     open(desk::contactos);
     cnn.onContaining("FROM Persona").gives(Rows{personColumns(), {person(1), person(2), person(3)}, 2});
-    elements().persons.lblInfoContacto.Caption("como estaba");
+    leaveMarks();
     ports.dialogs.expectBox("Lost connection to server during query");
     elements().top.lblItem(desk::contactos).click();
     EXPECT_THAT(keys(lvwContactos()), ElementsAre("PK1", "PK2"));
-    EXPECT_EQ(elements().persons.lblInfoContacto.Caption(), "como estaba");
+    EXPECT_EQ(selectedKeyOf(lvwContactos()), "PK1");
+    EXPECT_TRUE(marksStand());
+}
+
+TEST_F(DirectoryLoading, rows_of_organisations_read_ahead_of_a_failure_stay)
+{
+    start(7, false);
+    organisations({organisation(8)});
+    open(desk::organizaciones);
+    cnn.onContaining("FROM Organizacion")
+        .gives(Rows{organisationColumns(), {organisation(1), organisation(2), organisation(3)}, 2});
+    leaveMarks();
+    ports.dialogs.expectBox("Lost connection to server during query");
+    elements().top.lblItem(desk::organizaciones).click();
+    EXPECT_THAT(keys(lvwOrganizaciones()), ElementsAre("PK1", "PK2"));
+    EXPECT_TRUE(marksStand());
 }
 
 TEST_F(DirectoryLoading, a_cell_that_cannot_be_read_ends_the_load_there)
@@ -215,13 +246,18 @@ TEST_F(DirectoryLoading, a_repeated_key_ends_the_load_there)
     EXPECT_THAT(keys(lvwContactos()), ElementsAre("PK1"));
 }
 
-TEST_F(DirectoryLoading, a_column_that_does_not_come_is_told)
+TEST_F(DirectoryLoading, a_column_that_does_not_come_ends_the_load_at_its_cell)
 {
     start(7, false);
-    cnn.onContaining("FROM Persona").gives({"Sys_PK", "Codigo"}, {{whole(1), text("A")}});
-    ports.dialogs.expectBox("No existe la columna Nombre");
+    cnn.onContaining("FROM Persona").gives({"sys_pk", "CODIGO", "nombre"}, {{whole(1), text("A"), text("Ana")}});
+    ports.dialogs.expectBox("No existe la columna Apellido1");
     elements().top.lblItem(desk::contactos).click();
-    EXPECT_EQ(lvwContactos().ListItems().Count(), 0);
+    EXPECT_THAT(keys(lvwContactos()), ElementsAre("PK1"));
+    EXPECT_THAT(cells(lvwContactos().ListItems()(1)), ElementsAre("A", "Ana"));
+    cnn.onContaining("FROM Organizacion").gives({"Codigo"}, {{text("A")}});
+    ports.dialogs.expectBox("No existe la columna Sys_PK");
+    elements().top.lblItem(desk::organizaciones).click();
+    EXPECT_EQ(lvwOrganizaciones().ListItems().Count(), 0);
 }
 
 TEST_F(DirectoryLoading, a_header_sorts_nothing)

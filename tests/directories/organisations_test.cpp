@@ -51,7 +51,9 @@ TEST_F(Organisations, edited_one_is_opened_for_nobody_without_an_agent)
     elements().top.cbAgente.pick(0);
     host.log.calls.clear();
     e().editOrganization.press();
-    EXPECT_THAT(host.log.calls, ElementsAre("EditarOrganizacion 30 0"));
+    elements().top.cbAgente.ListIndex(-1);
+    e().editOrganization.press();
+    EXPECT_THAT(host.log.calls, ElementsAre("EditarOrganizacion 30 0", "EditarOrganizacion 30 0"));
 }
 
 TEST_F(Organisations, deleted_one_leaves_the_list)
@@ -68,6 +70,13 @@ TEST_F(Organisations, a_delete_that_the_operator_refuses_loads_nothing)
     e().deleteOrganization.press();
     EXPECT_THAT(host.log.calls, ElementsAre("BorrarOrganizacion 30 confirm"));
     EXPECT_THAT(cnn.statements(), IsEmpty());
+}
+
+TEST_F(Organisations, any_result_of_a_delete_but_0_means_that_it_was_done)
+{
+    host.screens->deleted = -1;
+    e().deleteOrganization.press();
+    EXPECT_THAT(cnn.statements(), reloaded());
 }
 
 TEST_F(Organisations, relations_show_under_the_name_without_a_stop)

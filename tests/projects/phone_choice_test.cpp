@@ -134,6 +134,9 @@ TEST_F(PhoneChoice, passes_over_a_field_that_cannot_be_read)
 {
     EXPECT_EQ(data({{"Tel1", failing("x")}, {"Tel2", text("2")}}), "Tel2: 2\r\n");
     EXPECT_EQ(session.Call_Tel, "2");
+    EXPECT_EQ(data({{"PN_Nombre", failing("x")}, {"PN_Apellido1", text("Luz")}, {"Fax", failing("x")}}),
+              "\r\nLuz ");
+    EXPECT_EQ(session.Call_Tel, "Tel. Proyecto");
 }
 
 } // namespace

@@ -76,6 +76,20 @@ TEST_F(ProjectCommands, a_new_project_that_the_list_does_not_show_is_not_selecte
     EXPECT_EQ(selectedKey(), "K13");
 }
 
+TEST_F(ProjectCommands, a_new_project_is_found_by_its_whole_key_in_a_sorted_list)
+{
+    activities({activity(12, {{"Asunto", text("a")}}), activity(1, {{"Asunto", text("b")}}),
+                activity(112, {{"Asunto", text("c")}})});
+    projects({});
+    lvwProy().SortKey(2);
+    lvwProy().SortOrder(screen::ListView::descending);
+    lvwProy().Sorted(true);
+    host.projects->newProject = 1;
+    commands().cmdProjNewProj.press();
+    EXPECT_THAT(keys(lvwProy()), ElementsAre("K112", "K1", "K12"));
+    EXPECT_EQ(selectedKey(), "K1");
+}
+
 // ---- Editing
 
 TEST_F(ProjectCommands, editing_needs_a_row)
@@ -186,17 +200,24 @@ TEST_F(ProjectCommands, a_search_given_up_opens_nothing)
 TEST_F(ProjectCommands, a_search_passes_over_every_failure)
 {
     host.screens->found = "O12";
-    for (const char* operation : {"BuscarEntidad", "EditarOrganizacion"}) {
-        host.log.failing = {operation};
-        commands().cmdProjSeekProj.press();
-    }
+    const char* const searches = "BuscarEntidad '' persons organisations";
+    host.log.failing = {"BuscarEntidad"};
+    commands().cmdProjSeekProj.press();
+    EXPECT_THAT(host.log.calls, ElementsAre(searches));
+    host.log.failing = {"EditarOrganizacion"};
+    commands().cmdProjSeekProj.press();
+    EXPECT_THAT(host.log.calls, ElementsAre(searches, searches, "EditarOrganizacion 12 0"));
     host.log.failing.clear();
     host.log.calls.clear();
-    host.screens->found = "O";
-    commands().cmdProjSeekProj.press();
-    EXPECT_THAT(host.log.calls, ElementsAre("BuscarEntidad '' persons organisations"));
+    for (const char* noKey : {"O", "O12x", "P99999999999", "7"}) {
+        host.screens->found = noKey;
+        commands().cmdProjSeekProj.press();
+    }
+    EXPECT_THAT(host.log.calls, ElementsAre(searches, searches, searches, searches));
     control.oUICRM(nullptr);
     commands().cmdProjSeekProj.press();
+    EXPECT_THAT(host.log.calls, testing::SizeIs(4));
+    EXPECT_THAT(cnn.statements(), IsEmpty());
 }
 
 TEST_F(ProjectCommands, a_new_person_belongs_to_the_agent_in_view)
@@ -230,6 +251,32 @@ TEST_F(ProjectCommands, a_new_organisation_passes_over_every_failure)
     elements().top.cbAgente.Clear();
     commands().cmdProjNewOrg.press();
     EXPECT_THAT(host.log.calls, ElementsAre("NuevaOrganizacion 7"));
+}
+
+// ---- Without a host
+
+class ProjectCommandsWithoutHost : public ProjectTest {
+protected:
+    ProjectCommandsWithoutHost()
+    {
+        control.SetObjects(&cnn, 7, true, "ana");
+        control.RefreshData();
+        activities({activity(12)});
+        openProjects();
+    }
+};
+
+TEST_F(ProjectCommandsWithoutHost, load_the_list_where_they_would_and_open_nothing)
+{
+    elements().projects.cmdNewProjEditProj.press();
+    EXPECT_THAT(cnn.statements()[0], HasSubstr(readsActivities));
+    cnn.forgetStatements();
+    elements().projects.cmdProjNewProj.press();
+    elements().projects.cmdProjSeekProj.press();
+    elements().projects.cmdProjNewOrg.press();
+    EXPECT_THROW(elements().projects.cmdProjNewContact.press(), RuntimeError);
+    EXPECT_THAT(cnn.statements(), IsEmpty());
+    EXPECT_TRUE(ports.dialogs.boxes().empty());
 }
 
 } // namespace

@@ -61,6 +61,25 @@ TEST_F(ProjectDesk, a_click_asks_for_the_contact_data_and_then_for_the_timeline)
                             "SELECT * FROM xt_biticontact WHERE uf_IProy = 12 ORDER BY uf_Tiempo"));
 }
 
+TEST_F(ProjectDesk, a_click_goes_step_by_step)
+{
+    show({activity(1), activity(12, {{"Asunto", text("Enseñar")}, {"UF_Color", whole(1)}})});
+    elements().detail.cmdIntro.Enabled(false);
+    std::vector<std::string> steps;
+    cnn.beforeExecute([&](std::string_view statement) {
+        steps.push_back(
+            std::string(statement.find("xt_biticontact") == std::string_view::npos ? "contact" : "timeline") +
+            (swatch() == 0x0000FFU ? " swatch" : "") +
+            (txtInfo() == "\r\n\r\nEnseñar\r\n\r\n\r\n\r\n" ? " row" : "") +
+            (txtInfo().ends_with("María \r\n") ? " contact" : "") +
+            (elements().detail.cmdIntro.Enabled() ? " unlocked" : "") +
+            (control.Call_Tel() == "55 1" ? " number" : ""));
+    });
+    control.Call_Tel("");
+    lvwProy().clickRow(1);
+    EXPECT_THAT(steps, ElementsAre("contact swatch row", "timeline swatch contact unlocked number"));
+}
+
 TEST_F(ProjectDesk, a_click_shows_the_timeline)
 {
     cnn.onContaining("uf_IProy = 12")

@@ -49,6 +49,17 @@ TEST_F(ProjectList, picks_the_first_entry_of_the_filter_where_none_is_picked_and
     EXPECT_THAT(cnn.statements(), ElementsAre(HasSubstr(readsActivities), HasSubstr(readsProjects)));
 }
 
+TEST_F(ProjectList, keeps_the_row_where_the_load_itself_picks_the_entry_of_the_filter)
+{
+    start(7, false);
+    activities({activity(1), activity(2)});
+    openProjects();
+    lvwProy().clickRow(1);
+    filter().ListIndex(-1); // the click that this raises loads the list
+    EXPECT_EQ(filter().ListIndex(), 0);
+    EXPECT_EQ(selectedKey(), "K2");
+}
+
 TEST_F(ProjectList, sends_the_two_statements_for_the_agent_and_the_status_picked)
 {
     const char* const conditions[]{"",
@@ -152,6 +163,31 @@ TEST_F(ProjectList, is_empty_and_silent_on_a_lost_connection)
     reload();
     EXPECT_EQ(lvwProy().ListItems().Count(), 0);
     EXPECT_EQ(elements().top.lblCuenta.Caption(), "Hoy: 0 actividades | Proyectos: 0 Contactos: 0");
+}
+
+TEST_F(ProjectList, ends_in_peace_whenever_the_connection_dies)
+{
+    const std::vector<std::vector<std::string>> left{{}, {"K1"}, {"K1", "K2"}, {"K1", "K2"}};
+    start(7, false);
+    for (std::size_t dying = 1; dying <= left.size(); ++dying) {
+        activities({activity(1)});
+        projects({project(2)});
+        openProjects();
+        std::size_t sent = 0;
+        cnn.beforeExecute([&](std::string_view) {
+            if (++sent >= dying) cnn.setState(data::Connection::closed);
+        });
+        reload();
+        EXPECT_EQ(sent, left[dying - 1].empty() ? 2U : 4U)
+            << "each statement is tried, of a row where there is one";
+        EXPECT_EQ(keys(lvwProy()), left[dying - 1]) << dying;
+        EXPECT_EQ(elements().top.lblCuenta.Caption(),
+                  "Hoy: 0 actividades | Proyectos: " + std::to_string(left[dying - 1].size()) + " Contactos: 0");
+        EXPECT_EQ(ports.pointer.MousePointer(), screen::Pointer::standard);
+        cnn.beforeExecute(nullptr);
+        cnn.setState(data::Connection::open);
+    }
+    EXPECT_TRUE(ports.dialogs.boxes().empty());
 }
 
 TEST_F(ProjectList, keeps_the_rows_read_so_far_when_the_server_fails_in_the_middle)

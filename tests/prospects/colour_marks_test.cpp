@@ -102,12 +102,32 @@ TEST_F(ColourMarks, by_code_on_another_tab_go_to_the_selected_project)
     for (const int tab : {2, 3, 4}) {
         elements().top.lblItem(tab).click();
         cnn.forgetStatements();
-        elements().top.bColor(2).Click.emit(); // the strip is hidden there: no operator presses it
+        elements().top.bColor(2).Click.emit();
         EXPECT_THAT(cnn.statements(), ElementsAre("UPDATE Proyecto SET UF_Color = 2 WHERE Sys_PK = 21"));
         expectPainted(lvwProy().ListItems()("K21"), 0x004000);
-        mark(1);
+        mark(1); // the operator's press: the strip is hidden
         EXPECT_THAT(cnn.statements(), testing::SizeIs(1));
     }
+}
+
+TEST_F(ColourMarks, by_code_ahead_of_any_tab_go_to_the_selected_project)
+{
+    start(7, false); // an agent's first screen is a queue without a tab
+    openProjects();
+    elements().top.lblItem(1).BackColor(desk::TabStrip::inactiveColour);
+    elements().top.bColor(4).Click.emit();
+    EXPECT_THAT(cnn.statements(), ElementsAre("UPDATE Proyecto SET UF_Color = 4 WHERE Sys_PK = 21"));
+    expectPainted(lvwProy().ListItems()("K21"), 0x800080);
+}
+
+TEST_F(ColourMarks, are_painted_only_once_they_are_stored)
+{
+    openProjects();
+    screen::Colour then = 1;
+    cnn.beforeExecute([&](std::string_view) { then = lvwProy().ListItems()("K21").ForeColor(); });
+    mark(3);
+    EXPECT_EQ(then, 0U);
+    expectPainted(lvwProy().ListItems()("K21"), 0xFF0000);
 }
 
 TEST_F(ColourMarks, stay_where_the_row_goes_in_the_next_load)

@@ -109,6 +109,8 @@ TEST_F(ProspectConversion, asks_by_the_sql_server_forms_for_every_other_engine)
               "SELECT ISNULL(uf_Nombre, 'Nombre') AS uf_Nombre, ISNULL(uf_telefono, 'Teléfono') AS uf_telefono, "
               "ISNULL(uf_EMail, 'EMail') AS uf_EMail, ISNULL(uf_ciudad, 'Tuxtla') AS uf_ciudad, "
               "ISNULL(UF_IEjecutivo, 1) AS UF_IEjecutivo FROM UT_IContact WHERE Sys_PK = 12;");
+    EXPECT_THAT(sent(4), ElementsAre(testing::_, cityLikeMerida, closesTwelve, logsTwelve));
+    EXPECT_THAT(host.log.calls, testing::SizeIs(2));
 }
 
 TEST_F(ProspectConversion, takes_the_first_city_that_is_alike_and_else_the_first_of_all)
@@ -125,6 +127,10 @@ TEST_F(ProspectConversion, joins_the_city_as_it_stands)
     contact({text("María"), text("1"), text("2"), text("San Juan d'Arc"), whole(7)});
     button().press();
     EXPECT_EQ(cnn.statements()[1], "SELECT Sys_PK FROM Ciudad WHERE Nombre LIKE '%San Juan d'Arc%';");
+    contact({text("María"), text("1"), text("2"), text(""), whole(7)});
+    cnn.forgetStatements();
+    button().press();
+    EXPECT_EQ(cnn.statements()[1], "SELECT Sys_PK FROM Ciudad WHERE Nombre LIKE '%%';") << "the first city of all";
 }
 
 TEST_F(ProspectConversion, ends_where_the_host_makes_no_person)

@@ -20,9 +20,6 @@ using testing::IsEmpty;
 
 const std::string read12 =
     "Select Sys_PK, uf_Nombre, uf_EMail, uf_Telefono, uf_Empresa, uf_Puesto FROM ut_icontact Where Sys_PK = 12";
-const std::vector<std::string> columns{"Sys_PK",      "uf_Nombre",  "uf_EMail",
-                                       "uf_Telefono", "uf_Empresa", "uf_Puesto"};
-
 class ProspectEditing : public ControlTest {
 protected:
     void SetUp() override
@@ -31,8 +28,8 @@ protected:
         prospects({prospect(11), prospect(12, {{"uf_Nombre", text("María")}})});
         openProspects();
         lvw().clickRow(1);
-        cnn.on(read12).gives(
-            columns, {{whole(12), text("María"), text("m@x.mx"), text("961"), text("Acme"), text("Compras")}});
+        cnn.on(read12).gives(correctionColumns(), {{whole(12), text("María"), text("m@x.mx"), text("961"),
+                                                    text("Acme"), text("Compras")}});
         cnn.forgetStatements();
     }
 
@@ -106,6 +103,22 @@ TEST_F(ProspectEditing, a_new_prospect_without_an_agent_is_nobodys)
     });
     newProspect().press();
     EXPECT_THAT(cnn.statements(), Contains(HasSubstr("DATE(NOW()), NULL, 0, 1, 0, ")));
+}
+
+TEST_F(ProspectEditing, a_new_prospect_whose_list_cannot_be_read_is_stored_all_the_same)
+{
+    ports.events.expectModal("dlgNuevoPros", [&](screen::Form& form) {
+        fillIn(form);
+        press(form, "cmdOk");
+        cnn.failAt(1, "se perdió la conexión");
+    });
+    newProspect().press();
+    EXPECT_THAT(cnn.statements(), Contains(HasSubstr("INSERT INTO ut_icontact")));
+    EXPECT_THAT(cnn.statements().back(), HasSubstr("FROM ut_icontact WHERE"));
+    EXPECT_EQ(lvw().ListItems().Count(), 0) << "and no word";
+    EXPECT_EQ(ports.pointer.MousePointer(), screen::Pointer::standard);
+    openProspects();
+    EXPECT_EQ(lvw().ListItems().Count(), 2);
 }
 
 TEST_F(ProspectEditing, a_new_prospect_that_is_given_up_reloads_nothing)
@@ -208,7 +221,7 @@ TEST_F(ProspectEditing, a_null_leaves_its_box_empty)
     for (std::size_t column = 1; column <= 5; ++column) {
         std::vector<Cell> row{whole(12), text("n"), text("c"), text("t"), text("e"), text("p")};
         row[column] = null;
-        cnn.on(read12).gives(columns, {row});
+        cnn.on(read12).gives(correctionColumns(), {row});
         ports.events.expectModal("dlgCorregir", [&](screen::Form& form) {
             std::vector<std::string> expected{"n", "c", "t", "e", "p"};
             expected[column - 1] = "";
@@ -223,7 +236,7 @@ TEST_F(ProspectEditing, a_null_keeps_nothing_of_the_correction_before)
 {
     ports.events.expectModal("dlgCorregir", [](screen::Form& form) { press(form, "cmdCancel"); });
     correct().press();
-    cnn.on(read12).gives(columns, {{whole(12), null, null, null, null, null}});
+    cnn.on(read12).gives(correctionColumns(), {{whole(12), null, null, null, null, null}});
     ports.events.expectModal("dlgCorregir", [](screen::Form& form) {
         EXPECT_THAT(textsOf(form), ElementsAre("", "", "", "", ""));
         press(form, "cmdCancel");
@@ -251,7 +264,7 @@ TEST_F(ProspectEditing, a_row_that_cannot_be_read_shows_empty_boxes_and_updates_
         if (nothing)
             answer.givesNothing();
         else
-            answer.gives(columns, {});
+            answer.gives(correctionColumns(), {});
         cnn.forgetStatements();
         ports.events.expectModal("dlgCorregir", accepts);
         correct().press();
@@ -341,10 +354,10 @@ TEST_F(CorrectingForAnotherRoom, a_null_in_any_column_and_a_failed_statement_rea
     for (std::size_t column = 0; column <= 5; ++column) {
         std::vector<Cell> row{whole(12), text("n"), text("c"), text("t"), text("e"), text("p")};
         row[column] = null;
-        cnn.on(read12).gives(columns, {row});
+        cnn.on(read12).gives(correctionColumns(), {row});
         EXPECT_THROW(run(), RuntimeError) << column;
     }
-    cnn.on(read12).gives(columns, {});
+    cnn.on(read12).gives(correctionColumns(), {});
     EXPECT_THROW(run(), data::Error);
     cnn.on(read12).givesNothing();
     EXPECT_THROW(run(), RuntimeError);

@@ -110,6 +110,94 @@ TEST_F(DataGridTest, is_sorted_by_a_header_and_the_other_way_round_by_the_same_a
     EXPECT_EQ(grid.SortOrder(), screen::ListView::ascending);
 }
 
+// ---- What the operator changes
+
+struct CellEditing : DataGridTest {
+    CellEditing()
+    {
+        row("b", "b@x");
+        row("a", "a@x");
+    }
+
+    std::string cell(int row, int column)
+    {
+        const screen::ListItem item = grid.ListItems()(row);
+        return std::string(column == 0 ? item.Text() : item.ListSubItems()(column).Text());
+    }
+};
+
+TEST_F(CellEditing, changes_the_cell_and_nothing_else)
+{
+    EXPECT_FALSE(grid.ReadOnly());
+    grid.edit(0, 1, "otro@x");
+    grid.edit(1, 0, "Ñu");
+    EXPECT_EQ(cell(1, 0), "b");
+    EXPECT_EQ(cell(1, 1), "otro@x");
+    EXPECT_EQ(cell(2, 0), "Ñu");
+    EXPECT_EQ(cell(2, 1), "a@x");
+    grid.edit(0, 0, "");
+    EXPECT_EQ(cell(1, 0), "");
+    EXPECT_EQ(cell(1, 1), "otro@x");
+    EXPECT_EQ(dataset.RecordCount(), 2);
+}
+
+TEST_F(CellEditing, tells_the_view_which_row_looks_different)
+{
+    grid.takeChanges();
+    grid.edit(1, 1, "otro@x");
+    const screen::ListChanges changes = grid.takeChanges();
+    EXPECT_FALSE(changes.order);
+    EXPECT_EQ(changes.firstChanged, 1U);
+    EXPECT_EQ(changes.behindLastChanged, 2U);
+}
+
+TEST_F(CellEditing, is_refused_where_there_is_nothing_to_change)
+{
+    grid.edit(2, 0, "x");
+    grid.edit(0, 2, "x");
+    grid.edit(0, -1, "x");
+    grid.ReadOnly(true);
+    grid.edit(0, 0, "x");
+    grid.ReadOnly(false);
+    grid.Enabled(false);
+    grid.edit(0, 0, "x");
+    grid.Enabled(true);
+    form.Visible(false);
+    grid.edit(0, 0, "x");
+    EXPECT_THAT(names(), ElementsAre("b", "a"));
+    EXPECT_EQ(cell(1, 1), "b@x");
+}
+
+// The row would jump away under the operator's hands.
+TEST_F(CellEditing, leaves_a_sorted_row_where_it_stands_until_a_header_is_clicked)
+{
+    grid.clickHeader(0);
+    EXPECT_THAT(names(), ElementsAre("a", "b"));
+    grid.edit(0, 0, "z");
+    EXPECT_THAT(names(), ElementsAre("z", "b"));
+    EXPECT_FALSE(grid.Sorted());
+    grid.clickHeader(0);
+    EXPECT_THAT(names(), ElementsAre("b", "z"));
+    EXPECT_EQ(grid.SortOrder(), screen::ListView::ascending);
+}
+
+TEST_F(CellEditing, that_changes_nothing_keeps_the_sort)
+{
+    grid.clickHeader(0);
+    grid.edit(0, 0, "a");
+    EXPECT_TRUE(grid.Sorted());
+}
+
+TEST_F(CellEditing, takes_as_many_characters_as_the_field_or_the_text_there)
+{
+    EXPECT_EQ(grid.room(0, 0), 150U);
+    row(std::string(200, 'x') + "ñ", "");
+    EXPECT_EQ(grid.room(2, 0), 201U);
+    EXPECT_EQ(grid.room(2, 1), 150U);
+    EXPECT_EQ(grid.room(3, 0), 0U);
+    EXPECT_EQ(grid.room(0, 2), 0U);
+}
+
 TEST_F(DataGridTest, without_fields_has_no_rows)
 {
     screen::DataGrid empty(&form, "otro");

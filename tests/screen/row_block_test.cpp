@@ -259,5 +259,24 @@ TEST(iconNumber, is_0_for_what_no_image_list_has)
     EXPECT_EQ(iconNumber(-1), 0);
 }
 
+TEST(RowDraft, replaces_one_cell_and_leaves_the_others)
+{
+    RowDraft draft = draftOf("K1", {"uno", "", "tres"}, "pista");
+    const auto cells = [&draft] {
+        std::vector<std::string> texts;
+        for (std::size_t i = 0; i < draft.ends.size(); ++i)
+            texts.emplace_back(draft.cell(i));
+        return texts;
+    };
+    draft.replace(1, "dos y más");
+    EXPECT_THAT(cells(), ElementsAre("uno", "dos y más", "tres"));
+    draft.replace(0, "");
+    EXPECT_THAT(cells(), ElementsAre("", "dos y más", "tres"));
+    draft.replace(2, draft.cell(1)); // one of its own
+    EXPECT_THAT(cells(), ElementsAre("", "dos y más", "dos y más"));
+    EXPECT_EQ(draft.key, "K1");
+    EXPECT_EQ(draft.toolTip, "pista");
+}
+
 } // namespace
 } // namespace dn::screen

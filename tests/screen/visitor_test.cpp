@@ -6,6 +6,7 @@
 #include "screen/button.h"
 #include "screen/calendars.h"
 #include "screen/combo_box.h"
+#include "screen/data_grid.h"
 #include "screen/label.h"
 #include "screen/list_box.h"
 #include "screen/list_view.h"
@@ -33,6 +34,7 @@ private:
     void visit(CheckBox&) override { kind_ = "CheckBox"; }
     void visit(ComboBox&) override { kind_ = "ComboBox"; }
     void visit(DTPicker&) override { kind_ = "DTPicker"; }
+    void visit(DataGrid&) override { kind_ = "DataGrid"; }
     void visit(Form&) override { kind_ = "Form"; }
     void visit(Label&) override { kind_ = "Label"; }
     void visit(Line&) override { kind_ = "Line"; }
@@ -62,6 +64,7 @@ TEST(ElementVisitor, meets_each_kind_as_what_it_is)
     EXPECT_EQ(kindOfNew<CheckBox>(), "CheckBox");
     EXPECT_EQ(kindOfNew<ComboBox>(), "ComboBox");
     EXPECT_EQ(kindOfNew<DTPicker>(), "DTPicker");
+    EXPECT_EQ(kindOfNew<DataGrid>(), "DataGrid");
     EXPECT_EQ(kindOfNew<Label>(), "Label");
     EXPECT_EQ(kindOfNew<Line>(), "Line");
     EXPECT_EQ(kindOfNew<ListBox>(), "ListBox");

@@ -5,6 +5,8 @@
 
 #include "tests/support/control_fixture.h"
 
+#include <algorithm>
+
 namespace dn::tests {
 namespace {
 
@@ -27,7 +29,22 @@ Frame placeOf(const screen::Element& element)
     return {element.Left(), element.Top(), element.Width(), element.Height()};
 }
 
-class Layout : public ControlTest {};
+class Layout : public ControlTest {
+protected:
+    /// What no rule names keeps its design at every size.
+    void expectUntouched()
+    {
+        desk::Elements& e = elements();
+        EXPECT_EQ(placeOf(e.top.cbAgente), (Frame{30, 0, 2790, 315}));
+        EXPECT_EQ(placeOf(e.top.pictab), (Frame{0, 345, 14865, 450}));
+        EXPECT_EQ(placeOf(e.top.lblBuscar), (Frame{30, 810, 1080, 285}));
+        EXPECT_EQ(placeOf(e.detail.txtInfo), (Frame{30, 465, 3510, 2190}));
+        EXPECT_EQ(placeOf(e.detail.pic1), (Frame{30, 2715, 3525, 705}));
+        const std::vector<int> lefts{2805, 4305, 5790, 7290, 8790};
+        for (int tab = 0; tab < 5; ++tab)
+            EXPECT_EQ(placeOf(e.top.lblItem(tab)), (Frame{lefts[static_cast<std::size_t>(tab)], 0, 1500, 315}));
+    }
+};
 
 TEST_F(Layout, at_the_designed_size)
 {
@@ -80,15 +97,20 @@ TEST_P(LayoutAtSizes, fits_what_it_can)
         EXPECT_EQ(placeOf(*list), (Frame{0, 1230, fit.listWidth, fit.listHeight})) << list->name();
     for (const screen::ListView* list : {&e.persons.lvwContactos, &e.organisations.lvwOrganizaciones})
         EXPECT_EQ(placeOf(*list), (Frame{0, 1230, fit.directoryWidth, fit.listHeight})) << list->name();
-    for (const screen::Element* panel :
-         std::initializer_list<const screen::Element*>{&e.today.picHoy, &e.top.picItem(0), &e.top.picItem(1),
-                                                       &e.persons.picContactos, &e.organisations.picOrganizacion})
-        EXPECT_EQ(panel->Width(), fit.width * 15) << panel->name();
+    const int width = fit.width * 15;
+    EXPECT_EQ(placeOf(e.top.picTop), (Frame{0, 0, width, 1230}));
+    EXPECT_EQ(placeOf(e.detail.picRight), (Frame{width - 3630, 1230, 3630, std::max(0, fit.height * 15 - 1230)}));
+    for (const int strip : {0, 1})
+        EXPECT_EQ(placeOf(e.top.picItem(strip)), (Frame{-75, -30, width, 390}));
+    EXPECT_EQ(placeOf(e.today.picHoy), (Frame{30, 330, width, 810}));
+    EXPECT_EQ(placeOf(e.organisations.picOrganizacion), (Frame{30, 330, width, 810}));
+    EXPECT_EQ(placeOf(e.persons.picContactos), (Frame{30, 330, width, 840}));
     EXPECT_EQ(placeOf(e.call.picLlamada), (Frame{fit.callLeft, 4275, 7695, 3945}));
-    EXPECT_EQ(e.detail.txtBit.Height(), fit.timelineHeight);
-    EXPECT_EQ(e.top.picColors.Width(), fit.coloursWidth);
-    EXPECT_EQ(e.top.txtBuscar.Width(), fit.searchWidth);
-    EXPECT_EQ(e.top.cmdOkBuscar.Left(), fit.searchButtonLeft);
+    EXPECT_EQ(placeOf(e.detail.txtBit), (Frame{30, 3450, 3510, fit.timelineHeight}));
+    EXPECT_EQ(placeOf(e.top.picColors), (Frame{10260, -15, fit.coloursWidth, 315}));
+    EXPECT_EQ(placeOf(e.top.txtBuscar), (Frame{645, 810, fit.searchWidth, 285}));
+    EXPECT_EQ(placeOf(e.top.cmdOkBuscar), (Frame{fit.searchButtonLeft, 810, 1275, 285}));
+    expectUntouched();
 }
 
 INSTANTIATE_TEST_SUITE_P(FromNothingToFourThousandPixels, LayoutAtSizes,
@@ -107,35 +129,63 @@ INSTANTIATE_TEST_SUITE_P(FromNothingToFourThousandPixels, LayoutAtSizes,
                                          Fit{3840, 2160, 53970, 31170, 57600, 23138, 27660, 47340, 55560, 56265},
                                          Fit{4000, 4000, 56370, 58770, 60000, 24338, 55260, 49740, 57960, 58665}));
 
-TEST_F(Layout, leaves_alone_what_no_rule_names)
+// What a size refuses stays as it was, not as it was designed.
+TEST_F(Layout, keeps_the_former_size_of_what_would_be_negative)
 {
-    control.root().resize(28800, 16200);
+    control.root().resize(12000, 9000);
+    control.root().resize(3000, 1200);
     desk::Elements& e = elements();
-    EXPECT_EQ(placeOf(e.top.cbAgente), (Frame{30, 0, 2790, 315}));
-    EXPECT_EQ(placeOf(e.top.pictab), (Frame{0, 345, 14865, 450}));
-    EXPECT_EQ(placeOf(e.top.lblBuscar), (Frame{30, 810, 1080, 285}));
-    EXPECT_EQ(placeOf(e.detail.txtInfo), (Frame{30, 465, 3510, 2190}));
-    EXPECT_EQ(placeOf(e.detail.pic1), (Frame{30, 2715, 3525, 705}));
-    for (int tab = 0; tab < 5; ++tab)
-        EXPECT_EQ(e.top.lblItem(tab).Top(), 0);
-    EXPECT_EQ(e.top.lblItem(4).Left(), 8790);
+    for (const screen::ListView* list : {&e.prospects.lvw, &e.projects.lvwProy, &e.today.lvwHoy})
+        EXPECT_EQ(placeOf(*list), (Frame{0, 1230, 8370, 7770})) << list->name();
+    for (const screen::ListView* list : {&e.persons.lvwContactos, &e.organisations.lvwOrganizaciones})
+        EXPECT_EQ(placeOf(*list), (Frame{0, 1230, 3000, 7770})) << list->name();
+    EXPECT_EQ(e.detail.txtBit.Height(), 4260);
+    EXPECT_EQ(e.top.picColors.Width(), 1740);
+    EXPECT_EQ(e.top.txtBuscar.Width(), 960);
+    control.root().resize(6000, 1200);
+    EXPECT_EQ(placeOf(e.prospects.lvw), (Frame{0, 1230, 2370, 7770})) << "the width is taken, the height refused";
+    EXPECT_EQ(placeOf(e.projects.lvwProy), placeOf(e.prospects.lvw));
+    control.root().resize(1200, 6000);
+    EXPECT_EQ(placeOf(e.prospects.lvw), (Frame{0, 1230, 2370, 4770})) << "the other way round";
 }
 
 TEST_F(Layout, takes_a_call_to_the_middle_of_the_list_and_not_higher)
 {
-    elements().call.picLlamada.Visible(true);
-    elements().call.picLlamada.Top(4000);
+    start(7, true);
+    control.IniciarLlamada("ut_icontact", 1, "961");
+    ASSERT_TRUE(elements().call.picLlamada.Visible());
     control.root().resize(20490, 11520);
-    EXPECT_EQ(elements().call.picLlamada.Left(), 4583);
-    EXPECT_EQ(elements().call.picLlamada.Top(), 4000);
+    EXPECT_EQ(placeOf(elements().call.picLlamada), (Frame{4583, 4275, 7695, 3945}));
+    elements().call.picLlamada.Top(4000);
+    control.root().resize(12000, 9000);
+    EXPECT_EQ(placeOf(elements().call.picLlamada), (Frame{338, 4000, 7695, 3945}));
+    EXPECT_TRUE(elements().call.picLlamada.Visible());
 }
 
 TEST_F(Layout, keeps_the_colour_strip_wide_when_the_tabs_are_narrowed)
 {
     start(0, true); // "< Sin asignar >": the strip is narrowed
-    control.root().resize(18000, 10155);
-    EXPECT_EQ(elements().top.picColors.Left(), 7260);
-    EXPECT_EQ(elements().top.picColors.Width(), 18000 - 7260);
+    for (const auto& [width, colours] : {std::pair(18000, 10740), std::pair(12000, 4740), std::pair(7260, 0),
+                                         std::pair(7245, 0), std::pair(15720, 8460)}) {
+        control.root().resize(width, 10155);
+        EXPECT_EQ(placeOf(elements().top.picColors), (Frame{7260, -15, colours, 315})) << width;
+    }
+    control.SelAgente(7);
+    EXPECT_EQ(placeOf(elements().top.picColors), (Frame{10260, -15, 5460, 315}));
+}
+
+// A window of 800 pixels is the smallest one in use.
+TEST_F(Layout, shows_every_colour_at_800_pixels)
+{
+    control.root().resize(12000, 9000);
+    desk::TopElements& top = elements().top;
+    screen::Twips behind = 0;
+    for (int mark = 0; mark < top.bColor.Count(); ++mark) {
+        EXPECT_GT(top.bColor(mark).Left(), behind) << mark;
+        behind = top.bColor(mark).Left() + top.bColor(mark).Width();
+    }
+    EXPECT_LE(behind, top.picColors.Width());
+    EXPECT_LT(behind, top.lblCuenta.Left());
 }
 
 } // namespace

@@ -4,15 +4,13 @@
 #include "tests/stories/day.h"
 
 #include "base/date_time.h"
+#include "tests/stories/queued_projects.h"
 
 namespace dn::tests {
 
 Day::Day()
 {
-    for (const char* table : {"Meta", "mdtpactividad"})
-        database(std::string("DELETE FROM ") + table);
-    database("INSERT INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
-    database("INSERT INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
+    fillCatalogues(*beside);
     itIs("2026-03-14 09:30:00");
 }
 
@@ -24,22 +22,29 @@ void Day::itIs(const std::string& moment)
     cnn->statements.resize(sent); // not the control's
 }
 
+// The server has no zones of its own; one year of one zone is enough here.
+void Day::livesInMadrid()
+{
+    database("SET time_zone = '+00:00'");
+    database("REPLACE INTO mysql.time_zone (Time_zone_id, Use_leap_seconds) VALUES (1, 'N')");
+    database("REPLACE INTO mysql.time_zone_name (Name, Time_zone_id) VALUES ('Europe/Madrid', 1)");
+    database(
+        "REPLACE INTO mysql.time_zone_transition_type VALUES (1, 0, 3600, 0, 'CET'), (1, 1, 7200, 1, 'CEST')");
+    database("REPLACE INTO mysql.time_zone_transition VALUES (1, UNIX_TIMESTAMP('2026-03-29 01:00:00'), 1), (1, "
+             "UNIX_TIMESTAMP('2026-10-25 01:00:00'), 0)");
+    database("SET time_zone = 'Europe/Madrid'");
+    cnn->execute("SET time_zone = 'Europe/Madrid'");
+    cnn->statements.pop_back(); // not the control's
+}
+
 std::int64_t Day::project(const std::string& name, std::int32_t agent)
 {
-    database("INSERT INTO Organizacion (Nombre, Tel1) VALUES ('Org. " + name + "', '961 111')");
-    const std::string organisation = std::to_string(lastKey());
-    database("INSERT INTO Persona (Nombre, IOrganizacion) VALUES ('" + name + "', " + organisation + ")");
-    database("INSERT INTO Proyecto (Descripcion, IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) VALUES "
-             "('Proyecto de " +
-             name + "', " + std::to_string(agent) + ", 1, " + organisation + ", " + std::to_string(lastKey()) +
-             ", 1)");
-    return lastKey();
+    return openProject(*beside, name, agent);
 }
 
 void Day::activity(std::int64_t project, const std::string& due)
 {
-    database("INSERT INTO actividad (IProyecto, ITpActividad, Asunto, FInicio) VALUES (" +
-             std::to_string(project) + ", 1, 'Llamar', '" + due + "')");
+    pendingActivity(*beside, project, "'" + due + "'");
 }
 
 void Day::whileTheHost(const std::string& call, const std::vector<std::string>& statements)

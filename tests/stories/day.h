@@ -20,6 +20,9 @@ protected:
     /// Sets both clocks: "2026-03-14 09:30:00".
     void itIs(const std::string& moment);
 
+    /// From here on the server counts the hours of Madrid, whose clocks change on 29 March and 25 October 2026.
+    void livesInMadrid();
+
     /// An open project with its organisation and contact, of one name; its key.
     std::int64_t project(const std::string& name, std::int32_t agent = ana);
     /// A pending activity of a project.

@@ -4,6 +4,7 @@
 // Somebody calls who is in no list yet: the operator types him in, and later corrects what he misheard.
 
 #include "screen/list_box.h"
+#include "tests/stories/missing_table.h"
 #include "tests/stories/operator.h"
 #include "tests/support/element_tree.h"
 
@@ -251,9 +252,10 @@ TEST_F(EnteringProspects, a_text_too_long_for_its_column_is_told_and_every_field
 TEST_F(EnteringProspects, without_the_procedures_the_prospect_stands_and_each_failure_is_told)
 {
     enters(ana);
-    database(storyServer().renaming("ut_InteresContacto", "ut_fuera"));
-    presses("cmdProsNewPros"); // the list cannot be read: no dialog, no word
-    database(storyServer().renaming("ut_fuera", "ut_InteresContacto"));
+    {
+        const MissingTable noInterests(*beside, "ut_InteresContacto");
+        presses("cmdProsNewPros"); // the list cannot be read: no dialog, no word
+    }
     cnn->refuses = [](std::string_view statement) {
         return statement.starts_with("CALL") || statement.starts_with("EXEC");
     };

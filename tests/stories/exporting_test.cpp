@@ -127,6 +127,42 @@ TEST_F(Exporting, the_filters_say_who_is_in_the_list)
     });
 }
 
+TEST_F(Exporting, a_cell_is_put_right_for_the_file_and_for_nothing_else)
+{
+    prospect("Luz", {{"uf_Email", "'luz@example,com'"}});
+    entersAsAdministrator();
+    filters([&](screen::Form& form) {
+        marks(form, "chkContactos");
+        exports(form, [&](screen::Form& shown) {
+            elementNamed<screen::DataGrid>(shown, "dxGrid").edit(0, 2, "luz@example.com");
+            ports.dialogs.expectSave(screen::SaveChoice{folder.file("correos.html"), 2});
+            elementNamed<screen::Button>(shown, "cmdExport").press();
+        });
+        EXPECT_THAT(exports(form), ElementsAre("Luz||luz@example,com|", "Total de Registros: 1"))
+            << "a further export reads the database anew";
+    });
+    EXPECT_THAT(contentsOf(folder.file("correos.html")), HasSubstr("<td>luz@example.com</td>"));
+    EXPECT_THAT(changesSent(), IsEmpty());
+}
+
+TEST_F(Exporting, a_list_that_the_server_refuses_is_an_error_and_opens_no_view)
+{
+    prospect("Luz");
+    entersAsAdministrator();
+    filters([&](screen::Form& form) {
+        marks(form, "chkContactos");
+        marks(form, "chkProyectos");
+        cnn->refuses = [](std::string_view statement) {
+            return statement.find("FROM (Proyecto") != statement.npos;
+        };
+        EXPECT_THROW(elementNamed<screen::Button>(form, "cmdExportar").press(), data::Error);
+        cnn->refuses = {};
+        EXPECT_TRUE(form.Visible());
+        marks(form, "chkProyectos");
+        EXPECT_THAT(exports(form), ElementsAre("Luz|||", "Total de Registros: 1"));
+    });
+}
+
 TEST_F(Exporting, projects_are_chosen_by_goal_colour_and_state)
 {
     project(1, 1, 5, 1);
@@ -182,6 +218,29 @@ TEST_F(Exporting, a_group_of_projects_changes_hands_in_one_statement)
                 ElementsAre("UPDATE Proyecto SET IEjecutivo = 9  WHERE  uf_Color= 1  AND uf_Status1 = 3 "
                             "AND IEjecutivo = 7 "));
     EXPECT_THAT(inTheDatabase("SELECT IEjecutivo FROM Proyecto ORDER BY Sys_PK"), ElementsAre("9", "7", "7"));
+}
+
+TEST_F(Exporting, a_change_that_the_server_refuses_is_told_and_may_be_tried_again)
+{
+    project(1, 1);
+    entersAsAdministrator(ana);
+    opensTab(desk::proyectos);
+    ports.events.expectModal("dlgTools", [&](screen::Form& form) {
+        elementNamed<screen::ComboBox>(form, "cmdDestino").pick("Beto");
+        cnn->refuses = [](std::string_view statement) { return statement.starts_with("UPDATE Proyecto"); };
+        agreesTo("¿Seguro desea ejecutar este proceso (es irreversible)?");
+        isTold("Lock wait timeout exceeded");
+        elementNamed<screen::Button>(form, "cmdCambiar").press();
+        cnn->refuses = {};
+        EXPECT_EQ(ports.pointer.MousePointer(), screen::Pointer::hourglass);
+        agreesTo("¿Seguro desea ejecutar este proceso (es irreversible)?");
+        isTold("Proceso completado.");
+        elementNamed<screen::Button>(form, "cmdCambiar").press();
+        EXPECT_EQ(ports.pointer.MousePointer(), screen::Pointer::standard);
+        form.closeWindow();
+    });
+    presses("cmdNewProjTool");
+    EXPECT_THAT(inTheDatabase("SELECT IEjecutivo FROM Proyecto"), ElementsAre("9"));
 }
 
 TEST_F(Exporting, a_refused_change_leaves_every_project_where_it_was)

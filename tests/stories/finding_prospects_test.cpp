@@ -3,6 +3,7 @@
 
 // The operator opens the workbench and looks for his prospects.
 
+#include "tests/stories/missing_table.h"
 #include "tests/stories/operator.h"
 
 namespace dn::tests {
@@ -93,11 +94,12 @@ TEST_F(FindingProspects, a_table_that_is_gone_shows_an_empty_list_and_no_message
 {
     prospect("María");
     enters(ana);
-    database(storyServer().renaming("ut_icontact", "ut_icontact_fuera"));
-    opensTab(0);
-    EXPECT_THAT(seesProspects(), IsEmpty());
-    EXPECT_EQ(sees("lblCuenta"), "Hoy: 1 actividades | Proyectos: 0 Contactos: 0");
-    database(storyServer().renaming("ut_icontact_fuera", "ut_icontact"));
+    {
+        const MissingTable noProspects(*beside, "ut_icontact");
+        opensTab(0);
+        EXPECT_THAT(seesProspects(), IsEmpty());
+        EXPECT_EQ(sees("lblCuenta"), "Hoy: 1 actividades | Proyectos: 0 Contactos: 0");
+    }
     opensTab(0);
     EXPECT_THAT(seesProspects(), ElementsAre("María"));
 }

@@ -26,6 +26,8 @@ std::string tableOfKeys(const std::string& statement)
 
 } // namespace
 
+std::unique_ptr<data::Connection> Operator::connect() { return storyServer().connect("prueba"); }
+
 void Operator::SetUpTestSuite()
 {
     static const bool made = [] {
@@ -36,8 +38,7 @@ void Operator::SetUpTestSuite()
 }
 
 Operator::Operator()
-    : beside(storyServer().connect("prueba")),
-      cnn(std::make_unique<RecordingConnection>(storyServer().connect("control")))
+    : beside(connect()), cnn(std::make_unique<RecordingConnection>(storyServer().connect("control")))
 {
     storyServer().setClock("", {});
     for (const char* table :

@@ -37,6 +37,8 @@ protected:
 
     static void SetUpTestSuite();
     Operator();
+    /// A further connection to the database.
+    static std::unique_ptr<data::Connection> connect();
 
     // ---- What the web site and others left in the database
 

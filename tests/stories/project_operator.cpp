@@ -43,6 +43,13 @@ void ProjectOperator::activity(std::int64_t project, const std::string& subject,
     insert("actividad", columns);
 }
 
+std::int64_t ProjectOperator::due(const std::string& description, int day, const Columns& columns)
+{
+    const std::int64_t key = project(description, columns);
+    activity(key, "cita", {{"FInicio", "'2026-03-" + std::to_string(day) + " 09:00:00'"}});
+    return key;
+}
+
 void ProjectOperator::insert(const std::string& table, const Columns& columns)
 {
     std::string names;

@@ -24,6 +24,10 @@ protected:
     /// A pending activity, a visit; `columns` as literals.
     void activity(std::int64_t project, const std::string& subject, Columns columns = {});
 
+    /// A project with a visit at nine on a day of March 2026; its key.
+    std::int64_t due(const std::string& description, int day, const Columns& columns = {});
+
+    void opensProjects() { opensTab(desk::proyectos); }
     void clicksProject(const std::string& description);
     /// The descriptions in the list of the projects, in the order shown.
     std::vector<std::string> seesProjects();

@@ -3,6 +3,7 @@
 
 // The operator looks after his projects: what is due next, and what nobody has planned anything for.
 
+#include "tests/stories/missing_table.h"
 #include "tests/stories/project_operator.h"
 
 namespace dn::tests {
@@ -13,17 +14,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-class WatchingProjects : public ProjectOperator {
-protected:
-    void opensProjects() { opensTab(desk::proyectos); }
-    /// A project with an activity on a day of March.
-    std::int64_t due(const std::string& description, int day, const Columns& columns = {})
-    {
-        const std::int64_t key = project(description, columns);
-        activity(key, "cita", {{"FInicio", "'2026-03-" + std::to_string(day) + " 09:00:00'"}});
-        return key;
-    }
-};
+class WatchingProjects : public ProjectOperator {};
 
 TEST_F(WatchingProjects, each_stands_once_by_its_next_activity_and_those_without_come_last)
 {
@@ -56,63 +47,6 @@ TEST_F(WatchingProjects, each_stands_once_by_its_next_activity_and_those_without
     EXPECT_THAT(sees("lblCuenta"), HasSubstr(" | Proyectos: 6 Contactos: 0"));
 }
 
-TEST_F(WatchingProjects, a_contact_who_is_not_in_the_directory_takes_the_activities_out_of_sight)
-{
-    due("Sin persona", 1, {{"IContacto", "999"}, {"UF_monto", "500"}});
-    due("Con persona", 2);
-    due("Sin organización", 3, {{"IOrganizacion", "999"}});
-    due("Sin meta", 4, {{"IMeta", "NULL"}});
-    enters(ana);
-    opensProjects();
-    EXPECT_THAT(seesProjects(), ElementsAre("Con persona", "Sin persona"));
-    EXPECT_EQ(seesProjectCell("Sin persona", "Actividad"), "< Ninguna >");
-    EXPECT_EQ(seesProjectCell("Sin persona", "Monto"), "<Definir>") << "even though it has one";
-}
-
-TEST_F(WatchingProjects, the_filter_shows_one_status_or_what_is_open)
-{
-    for (const int status : {1, 2, 3, 4, 5, 6})
-        for (const bool planned : {true, false}) {
-            const std::string name = std::to_string(status) + (planned ? " con cita" : " sin cita");
-            const Columns columns{{"UF_Status1", std::to_string(status)},
-                                  {"FInicio", "'2026-01-0" + std::to_string(status) + "'"}};
-            if (planned)
-                due(name, status, columns);
-            else
-                project(name, columns);
-        }
-    due("Nulo", 9, {{"UF_Status1", "NULL"}});
-    project("Nulo sin cita", {{"UF_Status1", "NULL"}});
-    enters(ana);
-    opensProjects();
-    EXPECT_EQ(sees("cbProjStatusProj"), "<Todos los proyectos>");
-    EXPECT_THAT(seesProjects(), ElementsAre("1 con cita", "2 con cita", "3 con cita", "4 con cita", "5 con cita",
-                                            "6 con cita", "1 sin cita", "2 sin cita", "3 sin cita", "4 sin cita"))
-        << "a closed one shows as long as something is planned for it";
-    const std::pair<const char*, const char*> entries[]{
-        {"Congelados", "1"}, {"Fríos", "2"}, {"Tibios", "3"}, {"Calientes", "4"}, {"Perdidos", "6"}};
-    for (const auto& [entry, status] : entries) {
-        picks("cbProjStatusProj", entry);
-        EXPECT_THAT(seesProjects(),
-                    ElementsAre(std::string(status) + " con cita", std::string(status) + " sin cita"));
-    }
-    EXPECT_EQ(projectRow("6 con cita").SmallIcon(), 5);
-}
-
-TEST_F(WatchingProjects, the_amount_has_thousands_and_cents)
-{
-    due("Nada", 1, {{"UF_monto", "0"}});
-    due("Nulo", 2, {{"UF_monto", "NULL"}});
-    due("Mucho", 3, {{"UF_monto", "1234567.8"}});
-    due("Centavos", 4, {{"UF_monto", "0.05"}});
-    enters(ana);
-    opensProjects();
-    EXPECT_EQ(seesProjectCell("Nada", "Monto"), ".00");
-    EXPECT_EQ(seesProjectCell("Nulo", "Monto"), "<Definir>");
-    EXPECT_EQ(seesProjectCell("Mucho", "Monto"), "1,234,567.80");
-    EXPECT_EQ(seesProjectCell("Centavos", "Monto"), ".05");
-}
-
 TEST_F(WatchingProjects, the_days_are_counted_by_the_database)
 {
     due("Antiguo", 1,
@@ -128,18 +62,6 @@ TEST_F(WatchingProjects, the_days_are_counted_by_the_database)
     EXPECT_EQ(seesProjectCell("De hoy", "Días"), "0");
     EXPECT_EQ(seesProjectCell("De hoy", "Últ. Contacto"), "");
     EXPECT_EQ(seesProjectCell("De hoy", "D.U.C."), "");
-}
-
-TEST_F(WatchingProjects, a_mark_beyond_the_table_is_no_mark)
-{
-    due("Siete", 1, {{"UF_Color", "7"}});
-    due("Rojo", 2, {{"UF_Color", "1"}});
-    enters(ana);
-    opensProjects();
-    EXPECT_EQ(projectRow("Siete").ForeColor(), 0U);
-    EXPECT_FALSE(projectRow("Siete").Bold());
-    EXPECT_EQ(projectRow("Rojo").ForeColor(), 0x0000FFU);
-    EXPECT_TRUE(projectRow("Rojo").Bold());
 }
 
 TEST_F(WatchingProjects, an_agent_sees_his_own_and_an_agent_without_any_sees_none)
@@ -212,15 +134,15 @@ TEST_F(WatchingProjects, a_table_that_is_gone_leaves_the_other_half_and_no_messa
     due("Con cita", 1);
     project("Sin cita");
     enters(ana);
-    database(storyServer().renaming("actividad", "actividad_fuera"));
-    opensProjects();
-    EXPECT_THAT(seesProjects(), testing::UnorderedElementsAre("Con cita", "Sin cita"));
-    EXPECT_EQ(seesProjectCell("Con cita", "Actividad"), "< Ninguna >");
-    database(storyServer().renaming("Meta", "Meta_fuera"));
-    opensProjects();
-    EXPECT_THAT(seesProjects(), IsEmpty());
-    database(storyServer().renaming("Meta_fuera", "Meta"));
-    database(storyServer().renaming("actividad_fuera", "actividad"));
+    {
+        const MissingTable noActivities(*beside, "actividad");
+        opensProjects();
+        EXPECT_THAT(seesProjects(), testing::UnorderedElementsAre("Con cita", "Sin cita"));
+        EXPECT_EQ(seesProjectCell("Con cita", "Actividad"), "< Ninguna >");
+        const MissingTable noGoals(*beside, "Meta");
+        opensProjects();
+        EXPECT_THAT(seesProjects(), IsEmpty());
+    }
     opensProjects();
     EXPECT_THAT(seesProjects(), ElementsAre("Con cita", "Sin cita"));
 }

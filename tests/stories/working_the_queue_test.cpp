@@ -34,33 +34,6 @@ TEST_F(WorkingTheQueue, what_is_due_comes_first_and_then_what_got_stuck)
     EXPECT_EQ(sees("lblcuenta2"), "Hoy: 5 actividades | Proyectos: 2 Contactos: 4");
 }
 
-TEST_F(WorkingTheQueue, midnight_brings_the_next_day)
-{
-    prospect("Anoche", {{"uf_proxcontac", "'2026-12-31 23:59:59'"}});
-    prospect("Año nuevo", {{"uf_proxcontac", "'2027-01-01 00:00:00'"}});
-    itIs("2026-12-31 23:59:59");
-    enters(ana);
-    opensTab(desk::hoy);
-    EXPECT_THAT(seesQueue(), ElementsAre("Contacto 23:59:59 Anoche"));
-    itIs("2027-01-01 00:00:00");
-    opensTab(desk::hoy);
-    EXPECT_THAT(seesQueue(), ElementsAre("Contacto 31/12/2026 23:59:59 Anoche", "Contacto 00:00:00 Año nuevo"));
-}
-
-TEST_F(WorkingTheQueue, a_leap_year_has_its_29th_of_february)
-{
-    prospect("Bisiesta", {{"uf_proxcontac", "'2028-02-29 10:00:00'"}});
-    for (const auto& [moment, shown] : std::map<std::string, std::vector<std::string>>{
-             {"2028-02-28 23:59:59", {}},
-             {"2028-02-29 00:00:00", {"Contacto 10:00:00 Bisiesta"}},
-             {"2028-03-01 00:00:00", {"Contacto 29/02/2028 10:00:00 Bisiesta"}}}) {
-        itIs(moment);
-        enters(ana);
-        opensTab(desk::hoy);
-        EXPECT_EQ(seesQueue(), shown) << moment;
-    }
-}
-
 TEST_F(WorkingTheQueue, a_click_shows_the_party_and_a_note_goes_to_it)
 {
     const auto maria = prospect("María", {{"uf_proxcontac", "'2026-03-14 12:00:00'"}, {"uf_Empresa", "'Acme'"}});

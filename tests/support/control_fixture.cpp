@@ -77,4 +77,11 @@ const std::vector<std::string>& prospectColumns()
     return columns;
 }
 
+const std::vector<std::string>& correctionColumns()
+{
+    static const std::vector<std::string> columns{"Sys_PK",      "uf_Nombre",  "uf_EMail",
+                                                  "uf_Telefono", "uf_Empresa", "uf_Puesto"};
+    return columns;
+}
+
 } // namespace dn::tests

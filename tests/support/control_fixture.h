@@ -52,5 +52,7 @@ protected:
 
 /// The columns that the statements of the prospects give.
 const std::vector<std::string>& prospectColumns();
+/// The columns that the statement ahead of a correction gives: the key, and what the dialog shows.
+const std::vector<std::string>& correctionColumns();
 
 } // namespace dn::tests

@@ -46,6 +46,7 @@ std::optional<Step> FakeDialogs::next(const std::string& question)
 screen::Answer FakeDialogs::MsgBox(const screen::MessageBox& box)
 {
     boxes_.push_back(box);
+    if (onBox) onBox();
     const auto step = next<BoxStep>(box.prompt);
     if (!step) return screen::Answer::no;
     if (step->prompt.has_value()) {

@@ -43,6 +43,8 @@ public:
     /// The filter of every save dialog that was shown, in order.
     const std::vector<std::string>& filters() const { return filters_; }
 
+    std::function<void()> onBox; ///< what is looked at while a message box shows
+
     screen::Answer MsgBox(const screen::MessageBox& box) override;
     std::string InputBox(const std::string& prompt) override;
     std::optional<screen::SaveChoice> ShowSave(const std::string& filter) override;

@@ -41,5 +41,20 @@ TEST(StorableText, has_a_mark_for_whatever_is_no_character)
                                             "b");
 }
 
+TEST(StorableText, is_plain_up_to_the_first_byte_that_is_not)
+{
+    for (std::size_t length = 0; length < 20; ++length) {
+        const std::string plain(length, '~');
+        EXPECT_EQ(tables::plainBytes(plain), length);
+        for (std::size_t place = 0; place < length; ++place)
+            for (int byte = 0; byte < 256; ++byte) {
+                std::string text = plain;
+                text[place] = static_cast<char>(byte);
+                const bool isPlain = byte >= 0x20 && byte < 0x7F;
+                EXPECT_EQ(tables::plainBytes(text), isPlain ? length : place) << byte << " at " << place;
+            }
+    }
+}
+
 } // namespace
 } // namespace dn::tests

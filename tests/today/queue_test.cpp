@@ -91,22 +91,48 @@ TEST_F(Queue, of_another_agent_comes_with_him)
 TEST_F(Queue, of_nobody_stays_as_it_was_after_the_filters_went_back)
 {
     start(7, true);
-    due({queuedProspect(1)});
+    due({queuedProspect(1), queuedProspect(2)});
     openToday();
-    elements().prospects.cbStatus.ListIndex(2);
-    elements().projects.cbProjStatusProj.ListIndex(3);
+    click("K2");
     for (const int agent : {0, -1}) {
-        elements().top.cbAgente.ListIndex(agent);
-        elements().today.lblcuenta2.Caption("como estaba");
+        elements().top.cbAgente.ListIndex(agent); // which loads the tab in view by itself
+        elements().prospects.cbStatus.ListIndex(2);
+        elements().projects.cbProjStatusProj.ListIndex(3);
         elements().today.cmdEditHoy.Enabled(false);
         cnn.forgetStatements();
         control.RefreshRobot();
-        EXPECT_THAT(keys(lvwHoy()), ElementsAre("K1"));
-        EXPECT_FALSE(canEdit());
+        EXPECT_EQ(elements().prospects.cbStatus.ListIndex(), 0) << agent;
+        EXPECT_EQ(elements().projects.cbProjStatusProj.ListIndex(), 0) << agent;
         EXPECT_THAT(cnn.statements(), testing::Not(testing::Contains(HasSubstr("ejecutivo="))));
-        EXPECT_EQ(elements().prospects.cbStatus.ListIndex(), 0);
-        EXPECT_EQ(elements().projects.cbProjStatusProj.ListIndex(), 0);
+        EXPECT_THAT(keys(lvwHoy()), ElementsAre("K1", "K2"));
+        EXPECT_EQ(selectedKeyOf(lvwHoy()), "K2");
+        EXPECT_FALSE(canEdit()) << "not even what follows the list";
+        elements().today.lblcuenta2.Caption("como estaba");
+        cnn.forgetStatements();
+        control.RefreshRobot();
+        EXPECT_THAT(cnn.statements(), IsEmpty()) << "no filter stands elsewhere";
+        EXPECT_EQ(elements().today.lblcuenta2.Caption(), "como estaba");
     }
+}
+
+TEST_F(Queue, may_be_asked_for_before_there_is_anything)
+{
+    control.RefreshRobot(); // the host has handed over nothing yet
+    EXPECT_EQ(elements().projects.cbProjStatusProj.ListIndex(), 0);
+    connect(7, false);
+    control.RefreshRobot();
+    EXPECT_THAT(cnn.statements(), IsEmpty()) << "the agents are not there yet";
+    EXPECT_EQ(lvwHoy().ListItems().Count(), 0);
+}
+
+TEST_F(Queue, takes_a_filter_without_an_entry_to_the_first_one_too)
+{
+    start(7, false);
+    elements().prospects.cbStatus.ListIndex(-1);
+    elements().projects.cbProjStatusProj.ListIndex(-1);
+    control.RefreshRobot();
+    EXPECT_EQ(elements().prospects.cbStatus.ListIndex(), 0);
+    EXPECT_EQ(elements().projects.cbProjStatusProj.ListIndex(), 0);
 }
 
 TEST_F(Queue, takes_the_filters_of_the_other_lists_back_and_reloads_them_first)
@@ -144,11 +170,45 @@ TEST_F(Queue, selects_and_clicks_the_same_row_again)
     openToday();
     click("K2");
     elements().detail.txtInfo.Text("");
-    due({queuedProspect(2), queuedProspect(1)});
+    elements().today.cmdEditHoy.Enabled(false);
+    due({queuedProspect(2), queuedProspect(1), queuedProspect(3)});
+    std::string counted;
+    bool enabled = true;
+    ports.events.onYield = [&] { // the click reads the timeline
+        counted = elements().today.lblcuenta2.Caption();
+        enabled = canEdit();
+    };
+    cnn.forgetStatements();
     control.RefreshRobot();
     EXPECT_EQ(selectedKeyOf(lvwHoy()), "K2");
     EXPECT_EQ(selectedKeyOf(lvw()), "K2");
     EXPECT_THAT(info(), testing::StartsWith("K2 | "));
+    EXPECT_THAT(cnn.statements(), ElementsAre(dueStatement, stuckStatement, HasSubstr("uf_Iicontact = 2")));
+    EXPECT_THAT(counted, testing::StartsWith("Hoy: 2 ")) << "counted after the click";
+    EXPECT_FALSE(enabled) << "and enabled last";
+    EXPECT_THAT(elements().today.lblcuenta2.Caption(), testing::StartsWith("Hoy: 3 "));
+    EXPECT_TRUE(canEdit());
+}
+
+TEST_F(Queue, that_the_host_loads_selects_and_clicks_whatever_tab_is_in_view)
+{
+    start(7, false);
+    prospects({prospect(1), prospect(2)});
+    activities({activity(5)});
+    openProspects();
+    openProjects();
+    due({queuedProspect(1), queuedProspect(2)});
+    openToday();
+    click("K2");
+    openProspects();
+    lvw().clickRow(0);
+    control.RefreshRobot();
+    EXPECT_EQ(selectedKeyOf(lvw()), "K2");
+    EXPECT_THAT(info(), testing::StartsWith("K2 | ")) << "the row of the queue is what stands in the detail";
+    openProjects();
+    const std::string project = info();
+    control.RefreshRobot();
+    EXPECT_EQ(info(), project) << "but there no prospect shows";
 }
 
 TEST_F(Queue, clicks_the_first_row_when_the_selected_one_is_gone)
@@ -194,14 +254,28 @@ TEST_F(Queue, any_statement_may_fail_and_the_others_run)
     EXPECT_TRUE(canEdit());
     elements().prospects.cbStatus.ListIndex(2);
     elements().projects.cbProjStatusProj.ListIndex(3);
-    for (std::size_t failing = 1; failing <= 5; ++failing) {
+    prospects({prospect(1), prospect(2)});
+    activities({activity(5)});
+    projects({project(6)});
+    struct Lost {
+        const char* statement;
+        std::vector<std::string> prospects, projects, queue;
+    };
+    const std::vector<std::string> both{"K1", "K2"};
+    const std::vector<std::string> all{"K5", "K6"};
+    for (const Lost& lost : {Lost{"uf_Status = 0", {}, all, both},
+                             {readsActivities, both, {"K6"}, both},
+                             {readsProjects, both, {"K5"}, both},
+                             {"from qhoy", both, all, {"K2"}},
+                             {"from qatascados", both, all, {"K1"}}}) {
         elements().prospects.cbStatus.ListIndex(2);
         elements().projects.cbProjStatusProj.ListIndex(3);
-        failAt(failing);
+        cnn.onContaining(lost.statement).fails("se perdió la conexión").once();
         control.RefreshRobot();
-        EXPECT_GE(cnn.statements().size(), 5U) << failing;
-        EXPECT_EQ(lvwHoy().ListItems().Count(), failing >= 4 ? 1 : 2) << failing;
-        EXPECT_TRUE(canEdit()) << failing;
+        EXPECT_EQ(keys(lvw()), lost.prospects) << lost.statement;
+        EXPECT_EQ(keys(lvwProy()), lost.projects) << lost.statement;
+        EXPECT_EQ(keys(lvwHoy()), lost.queue) << lost.statement;
+        EXPECT_TRUE(canEdit()) << lost.statement;
     }
 }
 
@@ -231,7 +305,7 @@ TEST_F(Queue, does_not_fill_the_detail_of_a_tab_that_the_operator_went_to_meanwh
     start(7, false);
     prospects({prospect(1), prospect(2)});
     openProspects();
-    due({queuedProspect(2)});
+    due({queuedProspect(1), queuedProspect(2)});
     openToday();
     click("K2");
     elements().prospects.cbStatus.ListIndex(1);
@@ -242,9 +316,12 @@ TEST_F(Queue, does_not_fill_the_detail_of_a_tab_that_the_operator_went_to_meanwh
         elements().top.lblItem(desk::organizaciones).click();
     };
     control.RefreshRobot();
+    EXPECT_TRUE(went);
     EXPECT_EQ(info(), "");
     EXPECT_FALSE(elements().detail.cmdIntro.Enabled());
-    EXPECT_THAT(keys(lvwHoy()), ElementsAre("K2"));
+    EXPECT_THAT(keys(lvwHoy()), ElementsAre("K1", "K2"));
+    EXPECT_EQ(selectedKeyOf(lvwHoy()), "K2") << "he finds his row again when he comes back";
+    EXPECT_TRUE(canEdit());
 }
 
 TEST_F(Queue, stands_a_refresh_inside_its_own_yield)

@@ -136,6 +136,69 @@ TEST_F(Search, scrolls_to_the_row)
     EXPECT_THAT(revealed, ElementsAre(1U));
 }
 
+TEST_F(Search, selects_takes_the_focus_scrolls_and_clicks_in_this_order)
+{
+    std::vector<std::string> steps;
+    const auto selecting = lvw().changed.connect([&] {
+        if (steps.empty() && selectedKeyOf(lvw()) == "K2") steps.emplace_back("selects");
+    });
+    const auto focusing = top().txtBuscar.focusGiven.connect([&] { steps.emplace_back("focus"); });
+    const auto scrolling = lvw().revealed.connect([&](std::size_t) { steps.emplace_back("scrolls"); });
+    const auto showing = elements().detail.txtInfo.changed.connect([&] {
+        if (steps.empty() || steps.back() != "clicks") steps.emplace_back("clicks");
+    });
+    search("norte");
+    EXPECT_THAT(steps, ElementsAre("selects", "focus", "scrolls", "clicks"));
+}
+
+TEST_F(Search, looks_at_the_cells_that_a_row_has)
+{
+    lvw().ListItems().Clear();
+    lvw().ListItems().Add("K8", "sin celdas");
+    expectMiss("celdas");
+    lvw().ListItems().Add("K9", "una").ListSubItems().Add("celda única");
+    search("ÚNICA");
+    EXPECT_EQ(selectedKeyOf(lvw()), "K9");
+}
+
+TEST_F(Search, finds_no_text_that_begins_in_one_cell_and_ends_in_the_next)
+{
+    lvw().ListItems().Clear();
+    screen::ListItem row = lvw().ListItems().Add("K9", "una");
+    row.ListSubItems().Add("dos");
+    row.ListSubItems().Add("tres");
+    expectMiss("dostres");
+    expectMiss("dos tres");
+}
+
+TEST_F(Search, of_the_day_shows_a_project_and_leaves_the_queue_with_its_row)
+{
+    due({queuedProspect(1), queuedProspect(2)});
+    top().lblItem(desk::hoy).click();
+    click("K2");
+    search("molino");
+    EXPECT_THAT(info(), HasSubstr("Molino"));
+    EXPECT_EQ(selectedKeyOf(lvwHoy()), "K2");
+    EXPECT_EQ(selectedKeyOf(lvwProy()), "K5");
+    EXPECT_FALSE(lvwProy().Visible());
+    elements().detail.txtText.Text("para la fila");
+    cnn.forgetStatements();
+    elements().detail.cmdIntro.press(); // a note is for the row of the queue, whose party shows again
+    EXPECT_THAT(cnn.statements().back(), testing::EndsWith("'para la fila','ana',2)"));
+    EXPECT_THAT(info(), StartsWith("K2 | "));
+}
+
+TEST_F(Search, before_any_tab_was_opened_looks_through_the_projects)
+{
+    ctrDnContacts fresh(ports.ports());
+    fresh.SetObjects(&cnn, 7, false, "ana");
+    fresh.RefreshData();
+    fresh.elements().top.txtBuscar.Text("molino");
+    fresh.elements().top.cmdOkBuscar.press();
+    EXPECT_EQ(selectedKeyOf(fresh.elements().projects.lvwProy), "K5");
+    EXPECT_THAT(fresh.elements().detail.txtInfo.Text(), HasSubstr("Molino"));
+}
+
 TEST_F(Search, looks_through_the_projects_on_every_other_tab)
 {
     for (const int tab : {1, 2, 3, 4}) {

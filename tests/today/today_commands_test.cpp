@@ -18,8 +18,6 @@ using testing::Not;
 
 const std::string read2 =
     "Select Sys_PK, uf_Nombre, uf_EMail, uf_Telefono, uf_Empresa, uf_Puesto FROM ut_icontact Where Sys_PK=2";
-const std::vector<std::string> readColumns{"Sys_PK",      "uf_Nombre",  "uf_EMail",
-                                           "uf_Telefono", "uf_Empresa", "uf_Puesto"};
 
 class TodayCommands : public TodayTest {
 protected:
@@ -27,8 +25,8 @@ protected:
     {
         start(7, false);
         due({queuedProspect(1), queuedProspect(2), queuedProject(5), queued("Visita", 6)});
-        cnn.on(read2).gives(
-            readColumns, {{whole(2), text("María"), text("m@x.mx"), text("961"), text("Acme"), text("Compras")}});
+        cnn.on(read2).gives(correctionColumns(), {{whole(2), text("María"), text("m@x.mx"), text("961"),
+                                                   text("Acme"), text("Compras")}});
         openToday();
     }
 
@@ -82,6 +80,56 @@ TEST_F(TodayCommands, a_corrected_prospect_loads_the_prospects_too)
     EXPECT_EQ(cnn.statements()[4], stuckStatement);
 }
 
+TEST_F(TodayCommands, a_corrected_prospect_that_left_the_queue_gives_way_to_the_first_row)
+{
+    prospects({prospect(1), prospect(2)});
+    openProspects();
+    openToday();
+    choose("K2");
+    ports.events.expectModal("dlgCorregir", [&](screen::Form& form) {
+        due({queuedProspect(1)});
+        elementNamed<screen::Button>(form, "cmdCancel").press();
+    });
+    edit().press();
+    EXPECT_EQ(selectedKeyOf(lvwHoy()), "K1");
+    EXPECT_EQ(selectedKeyOf(lvw()), "K1");
+    EXPECT_THAT(info(), testing::StartsWith("K1 | "));
+}
+
+TEST_F(TodayCommands, a_corrected_prospect_whose_list_fails_leaves_the_queue_loaded)
+{
+    prospects({prospect(1), prospect(2)});
+    openProspects();
+    openToday();
+    choose("K2");
+    ASSERT_EQ(lvw().ListItems().Count(), 2);
+    ports.events.expectModal("dlgCorregir", [&](screen::Form& form) {
+        elementNamed<screen::Button>(form, "cmdOk").press();
+        cnn.failAt(1, "se perdió la conexión");
+    });
+    edit().press();
+    EXPECT_EQ(lvw().ListItems().Count(), 0);
+    EXPECT_THAT(cnn.statements(), testing::IsSupersetOf({dueStatement, stuckStatement}));
+    EXPECT_EQ(selectedKeyOf(lvwHoy()), "K2");
+}
+
+TEST_F(TodayCommands, a_correction_that_is_refused_stays_open_and_the_queue_is_loaded_in_the_end)
+{
+    choose("K2");
+    ports.events.expectModal("dlgCorregir", [&](screen::Form& form) {
+        failAt(1);
+        ports.dialogs.expectBox("se perdió la conexión");
+        elementNamed<screen::Button>(form, "cmdOk").press();
+        EXPECT_TRUE(form.Visible());
+        form.closeWindow();
+    });
+    edit().press();
+    ASSERT_EQ(cnn.statements().size(), 3U) << "no load of the prospects";
+    EXPECT_THAT(cnn.statements()[0], testing::StartsWith("UPDATE ut_icontact set "));
+    EXPECT_EQ(cnn.statements()[1], dueStatement);
+    EXPECT_EQ(cnn.statements()[2], stuckStatement);
+}
+
 TEST_F(TodayCommands, a_project_is_opened_by_the_host_and_the_queue_loaded_anew)
 {
     choose("P5");
@@ -114,19 +162,19 @@ TEST_F(TodayCommands, nothing_is_edited_without_a_row)
 
 TEST_F(TodayCommands, a_null_in_any_column_ends_in_an_error_ahead_of_the_dialog)
 {
-    for (std::size_t column = 0; column < readColumns.size(); ++column) {
+    for (std::size_t column = 0; column < correctionColumns().size(); ++column) {
         std::vector<Cell> row{whole(2), text("María"), text("m"), text("9"), text("A"), text("C")};
         row[column] = null;
-        cnn.on(read2).gives(readColumns, {row});
+        cnn.on(read2).gives(correctionColumns(), {row});
         choose("K2");
-        EXPECT_THROW(edit().press(), RuntimeError) << readColumns[column];
+        EXPECT_THROW(edit().press(), RuntimeError) << correctionColumns()[column];
         EXPECT_THAT(cnn.statements(), ElementsAre(read2)) << "no reload";
     }
 }
 
 TEST_F(TodayCommands, a_prospect_that_is_gone_ends_in_an_error)
 {
-    cnn.on(read2).gives(readColumns, {});
+    cnn.on(read2).gives(correctionColumns(), {});
     choose("K2");
     EXPECT_THROW(edit().press(), data::Error);
     cnn.on(read2).givesNothing();

@@ -75,7 +75,27 @@ TEST_F(TodayHistory, needs_a_row_in_the_queue_and_one_in_the_records_list)
     elements.prospects.lvw.ListItems().Clear();
     click("K2");
     panel.Command7_Click();
+    elements.projects.lvwProy.ListItems().Clear();
+    click("P5");
+    panel.Command7_Click();
     elements.today.lvwHoy.ListItems().Clear();
+    panel.Command7_Click();
+    EXPECT_THAT(control.calls, IsEmpty());
+}
+
+TEST_F(TodayHistory, is_of_the_list_that_the_rows_text_names)
+{
+    tests::addRow(elements.today.lvwHoy, "P1", {"contacto"}); // not exactly a prospect's
+    click("P1");
+    panel.Command7_Click();
+    EXPECT_THAT(control.calls, ElementsAre("Historial 1 1"));
+}
+
+TEST_F(TodayHistory, of_a_key_that_is_no_number_is_not_asked_for)
+{
+    tests::addRow(elements.prospects.lvw, "Kx", {"Contacto"});
+    tests::addRow(elements.today.lvwHoy, "Kx", {"Contacto"});
+    click("Kx");
     panel.Command7_Click();
     EXPECT_THAT(control.calls, IsEmpty());
 }

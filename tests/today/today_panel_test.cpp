@@ -87,6 +87,57 @@ TEST_F(TodayPanel, a_click_for_an_empty_list_shows_nobody)
     EXPECT_THAT(cnn.statements(), IsEmpty());
 }
 
+TEST_F(TodayPanel, a_click_for_an_empty_list_leaves_the_party_that_was_shown)
+{
+    click("P5");
+    const std::string before = info();
+    lvw().ListItems().Clear();
+    click("K1");
+    EXPECT_EQ(info(), before) << "as if nobody had been clicked";
+    lvwProy().ListItems().Clear();
+    elements().detail.txtBit.Text("la bitácora de otro");
+    click("P1");
+    EXPECT_EQ(info(), before);
+    EXPECT_EQ(elements().detail.txtBit.Text(), "") << "of a project the timeline goes at least";
+}
+
+// The first screen has no tab in front, and its prospects have not been loaded.
+TEST_F(TodayPanel, a_click_on_the_first_screen_finds_projects_and_no_prospects)
+{
+    ctrDnContacts fresh(ports.ports());
+    fresh.SetObjects(&cnn, 7, false, "ana");
+    fresh.RefreshData();
+    desk::Elements& first = fresh.elements();
+    EXPECT_EQ(first.prospects.lvw.ListItems().Count(), 0);
+    first.today.lvwHoy.clickRow(3);
+    EXPECT_EQ(selectedKeyOf(first.projects.lvwProy), "K5");
+    const std::string project = first.detail.txtInfo.Text();
+    EXPECT_NE(project, "");
+    first.today.lvwHoy.clickRow(1);
+    EXPECT_EQ(first.detail.txtInfo.Text(), project) << "another party, then";
+    first.top.lblItem(desk::prospectos).click();
+    first.top.lblItem(desk::hoy).click();
+    first.today.lvwHoy.clickRow(1);
+    EXPECT_THAT(first.detail.txtInfo.Text(), StartsWith("K2 | "));
+}
+
+TEST_F(TodayPanel, a_prospect_in_another_status_is_called_and_corrected_by_two_different_keys)
+{
+    due({queuedProspect(99)});
+    lvw().ListItems()("K2").Selected(true);
+    openToday();
+    click("K99");
+    cnn.forgetStatements();
+    elements().detail.cmdCall.press();
+    EXPECT_EQ(control.Call_PK(), 2) << "a call is for whoever is selected behind the queue";
+    ports.events.expectModal("dlgQueH", [](screen::Form& form) { form.closeWindow(); });
+    control.Call_NoConnect(0);
+    cnn.forgetStatements();
+    EXPECT_THROW(elements().today.cmdEditHoy.press(), std::exception); // the database has no such row here
+    EXPECT_THAT(cnn.statements(), ElementsAre(testing::EndsWith("FROM ut_icontact Where Sys_PK=99")))
+        << "a correction is for the row of the queue";
+}
+
 TEST_F(TodayPanel, a_timeline_that_cannot_be_read_leaves_the_summary)
 {
     failAt(1);

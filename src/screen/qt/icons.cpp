@@ -6,6 +6,7 @@
 #include "screen/qt/text.h"
 
 #include <QFile>
+#include <QPixmap>
 
 #include <map>
 #include <string>
@@ -19,6 +20,16 @@ const QIcon& drawing(std::string_view name)
     if (known != cache.end()) return known->second;
     const QString file = QStringLiteral(":/dn/icons/%1.svg").arg(fromUtf8(name));
     return cache.emplace(name, QFile::exists(file) ? QIcon(file) : QIcon()).first->second;
+}
+
+const QIcon& blank()
+{
+    static const QIcon icon = [] {
+        QPixmap nothing(16, 16);
+        nothing.fill(Qt::transparent);
+        return QIcon(nothing);
+    }();
+    return icon;
 }
 
 } // namespace dn::screen::qt

@@ -13,4 +13,7 @@ namespace dn::screen::qt {
 /// The picture of that name; a null icon for an empty name and for a name that nobody drew.
 const QIcon& drawing(std::string_view name);
 
+/// Nothing to see, as large as a drawing in a list.
+const QIcon& blank();
+
 } // namespace dn::screen::qt

@@ -4,6 +4,7 @@
 #include "screen/qt/label_view.h"
 
 #include "screen/qt/colours.h"
+#include "screen/qt/list_view_view.h"
 #include "screen/qt/text.h"
 
 #include <QKeyEvent>
@@ -137,6 +138,9 @@ void ClickLabelView::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Right:
         moveFocus(1);
         break;
+    case Qt::Key_Down:
+        goToList();
+        break;
     default:
         QAbstractButton::keyPressEvent(event);
     }
@@ -160,6 +164,17 @@ void ClickLabelView::moveFocus(int step)
         if (distance > 0 && (nearest == nullptr || distance < (nearest->x() - x()) * step)) nearest = other;
     }
     if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
+}
+
+// The list of a tab is the one that shows; it lies in the nearest container around both.
+void ClickLabelView::goToList()
+{
+    for (const QWidget* around = parentWidget(); around != nullptr; around = around->parentWidget())
+        for (auto* list : around->findChildren<ListViewView*>())
+            if (list->isVisible() && list->isEnabled()) {
+                list->setFocus(Qt::TabFocusReason);
+                return;
+            }
 }
 
 } // namespace dn::screen::qt

@@ -44,6 +44,7 @@ protected:
 private:
     void mirror(const screen::Label& label);
     void moveFocus(int step);
+    void goToList();
 
     QColor back_;
     bool raised_ = false;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Paints the cells of a list view: one selected row instead of a focused cell, and colours that stay legible on
-// the present palette.
+// Paints the cells of a list view: one selected row instead of a focused cell, colours that stay legible on the
+// present palette, and figures that are a little too wide for their column in full.
 #pragma once
 
 #include <QStyledItemDelegate>

@@ -3,6 +3,7 @@
 
 // What the operator does on a list view: clicks, keys, and the pointer that rests on a cell.
 
+#include "screen/copied_text.h"
 #include "screen/qt/list_cell_painter.h"
 #include "screen/qt/list_view_model.h"
 #include "screen/qt/list_view_view.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace dn::screen::qt {
 
@@ -73,18 +75,27 @@ void ListViewView::mouseDoubleClickEvent(QMouseEvent* event)
         bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(index.row())); });
 }
 
-// The headers for who works with the keyboard: the menu key lists the columns to sort by.
 void ListViewView::contextMenuEvent(QContextMenuEvent* event)
 {
-    const screen::ListView* const list = bond_.element();
-    if (list == nullptr || list->ColumnHeaders().empty()) return;
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillMenu(*menu);
+    if (menu->isEmpty())
+        delete menu;
+    else
+        menu->popup(event->globalPos());
+}
+
+// The headers for who works with the keyboard: the menu key lists the columns to sort by,
+// where a list can be sorted.
+void ListViewView::fillMenu(QMenu& menu)
+{
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr || list->ColumnClick.listeners() == 0) return;
     for (const ColumnHeader& header : list->ColumnHeaders())
-        menu->addAction(
+        menu.addAction(
             QStringLiteral("Ordenar por «%1»").arg(fromUtf8(header.Text)), this,
             [this, column = header.Index - 1] { bond_.gesture([&](auto& it) { it.clickHeader(column); }); });
-    menu->popup(event->globalPos());
 }
 
 void ListViewView::keyPressEvent(QKeyEvent* event)
@@ -103,14 +114,15 @@ void ListViewView::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
-// The selected row as text, a tab between the cells, as a spreadsheet takes it.
 void ListViewView::copySelected() const
 {
-    if (!currentIndex().isValid()) return;
-    QStringList cells;
-    for (int column = 0; column < model_->columnCount(); ++column)
-        cells += currentIndex().siblingAtColumn(column).data().toString();
-    QGuiApplication::clipboard()->setText(cells.join(u'\t'));
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr) return;
+    std::vector<CellRange> ranges;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        ranges.push_back({static_cast<std::size_t>(range.top()), static_cast<std::size_t>(range.bottom()),
+                          static_cast<std::size_t>(range.left()), static_cast<std::size_t>(range.right())});
+    if (!ranges.empty()) QGuiApplication::clipboard()->setText(fromUtf8(copiedText(*list, std::move(ranges))));
 }
 
 bool ListViewView::handleKey(const QKeyEvent& event)
@@ -125,11 +137,12 @@ bool ListViewView::handleKey(const QKeyEvent& event)
         horizontalScrollBar()->setValue(horizontalScrollBar()->value() + step);
         return true;
     case Qt::Key_Space:
-        if (row >= 0) bond_.gesture([&](auto& it) { it.toggleCheck(static_cast<std::size_t>(row)); });
+        if (row >= 0) pressSpace(row);
         return true;
     case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (row >= 0) bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(row)); });
+    case Qt::Key_Enter: // held down it opens nothing a second time
+        if (row >= 0 && !event.isAutoRepeat())
+            bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(row)); });
         return true;
     default:
         break;
@@ -139,6 +152,18 @@ bool ListViewView::handleKey(const QKeyEvent& event)
     if (*goal >= 0 && *goal != row) click(*goal);
     if (currentIndex().isValid()) reveal(currentIndex().row());
     return true;
+}
+
+// A list selects its first row by itself, and clicks nothing: without check boxes this is the click that is
+// missing.
+void ListViewView::pressSpace(int row)
+{
+    const screen::ListView* const list = bond_.element();
+    if (list == nullptr) return;
+    if (list->CheckBoxes())
+        bond_.gesture([&](auto& it) { it.toggleCheck(static_cast<std::size_t>(row)); });
+    else
+        click(row);
 }
 
 /// The row that a key leads to, -1 in an empty list; nothing for other keys.

@@ -70,12 +70,15 @@ QVariant ListViewModel::cellData(ListRows::RowNumber row, std::size_t cell, int 
     }
 }
 
+// A row without an image keeps its place free, so that all rows begin at the same edge.
 QVariant ListViewModel::decoration(ListRows::RowNumber row, std::size_t cell) const
 {
     if (list_->SmallIcons() == nullptr) return {};
     const ListRows& rows = list_->rows();
     const int number = cell == 0 ? rows.smallIcon(row) : rows.reportIcon(row, cell);
-    return number == 0 ? QVariant() : drawing(list_->SmallIcons()->image(number));
+    const std::string& image = list_->SmallIcons()->image(number);
+    if (image.empty()) return cell == 0 ? QVariant(blank()) : QVariant();
+    return drawing(image);
 }
 
 QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const

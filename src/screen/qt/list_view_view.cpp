@@ -18,10 +18,16 @@ constexpr int lineHeight = 20; // logical pixels: an icon of 16 and some air
 } // namespace
 
 ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard)
-    : QTableView(parent),
-      model_(new ListViewModel(list, this)),
-      bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
+    : ListViewView(list, parent, guard, new ListViewModel(list, nullptr))
 {
+}
+
+ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard, ListViewModel* model)
+    : QTableView(parent), model_(model), bond_(list, *this, guard, [this](const auto& state) { mirror(state); })
+{
+    model_->setParent(this);
+    // Ahead of the table's own listening, which gives the selection up.
+    connect(model_, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { rememberPlace(); });
     setModel(model_);
     setItemDelegate(new ListCellPainter(this)); // owned by this as its parent
     arrange();
@@ -64,13 +70,13 @@ void ListViewView::arrange()
     verticalHeader()->setDefaultSectionSize(lineHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setMinimumSectionSize(16);
 }
 
 void ListViewView::mirror(const screen::ListView& list)
 {
     mirrorSorting(list);
+    horizontalHeader()->setSectionsClickable(list.ColumnClick.listeners() > 0);
     viewport()->update();
 }
 
@@ -85,8 +91,27 @@ void ListViewView::showPublished(bool columnsAreNew, bool rowsAreNew)
 {
     if (columnsAreNew) setColumnWidths();
     mirrorSelection();
-    // A list that was built anew starts with its selected row in view.
-    if (rowsAreNew && currentIndex().isValid()) reveal(currentIndex().row());
+    if (rowsAreNew && currentIndex().isValid()) takePlaceAgain();
+}
+
+// Whoever works down a list that is loaded again and again must not look for his row each time, nor scroll to see
+// what comes behind it.
+void ListViewView::rememberPlace()
+{
+    const int below = currentIndex().row() - verticalScrollBar()->value();
+    const bool inView = currentIndex().isValid() && below >= 0 && below < verticalScrollBar()->pageStep();
+    linesAbove_.reset();
+    if (inView) linesAbove_ = below;
+}
+
+// A list that was built anew starts with its selected row in view, as far from the top as the one before.
+void ListViewView::takePlaceAgain()
+{
+    if (linesAbove_) {
+        executeDelayedItemsLayout(); // the bar must know of the rows
+        verticalScrollBar()->setValue(currentIndex().row() - *linesAbove_);
+    }
+    reveal(currentIndex().row());
 }
 
 void ListViewView::mirrorSelection()
@@ -97,10 +122,16 @@ void ListViewView::mirrorSelection()
     mirroring_ = true;
     if (!position || static_cast<int>(*position) >= model_->rowCount())
         selectionModel()->clear();
-    else if (const QModelIndex index = model_->index(static_cast<int>(*position), 0);
-             index != currentIndex() || !selectionModel()->isSelected(index))
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    else
+        showSelected(static_cast<int>(*position));
     mirroring_ = false;
+}
+
+void ListViewView::showSelected(int row)
+{
+    const QModelIndex index = model_->index(row, 0);
+    if (index != currentIndex() || !selectionModel()->isSelected(index))
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void ListViewView::setColumnWidths()

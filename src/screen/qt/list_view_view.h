@@ -12,6 +12,8 @@
 
 #include <optional>
 
+class QMenu;
+
 namespace dn::screen::qt {
 
 class ListViewModel;
@@ -26,6 +28,20 @@ public:
     void keyboardSearch(const QString& text) override;
 
 protected:
+    /// @param model of the list; this takes it over.
+    ListViewView(screen::ListView& list, QWidget* parent, Guard& guard, ListViewModel* model);
+
+    ListViewModel& shownRows() const { return *model_; }
+    screen::ListView* element() const { return bond_.element(); }
+    Guard& guard() const { return bond_.guard(); }
+    /// Shows a row as the list's selected one.
+    virtual void showSelected(int row);
+    /// What the menu of the context offers; it goes with its closing.
+    virtual void fillMenu(QMenu& menu);
+    /// Copies the cells that are selected, as a spreadsheet takes them.
+    void copySelected() const;
+    void reveal(int row);
+
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -41,15 +57,17 @@ private:
     void mirrorSorting(const screen::ListView& list);
     void showPublished(bool columnsAreNew, bool rowsAreNew);
     void setColumnWidths();
-    void reveal(int row);
+    void rememberPlace();
+    void takePlaceAgain();
     void click(int row);
-    void copySelected() const;
     bool handleKey(const QKeyEvent& event);
+    void pressSpace(int row);
     std::optional<int> target(int key) const;
     QString tipAt(const QModelIndex& index) const;
 
     ListViewModel* model_; // owned by this as its parent
     int pressedCheck_ = -1;
+    std::optional<int> linesAbove_; ///< those above the selected row, if it was in view when the rows went away
     bool mirroring_ = false;
     Bond<screen::ListView> bond_;
     Subscription revealed_;

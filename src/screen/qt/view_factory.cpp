@@ -6,6 +6,7 @@
 #include "screen/qt/button_view.h"
 #include "screen/qt/calendar_views.h"
 #include "screen/qt/combo_box_view.h"
+#include "screen/qt/data_grid_view.h"
 #include "screen/qt/label_view.h"
 #include "screen/qt/list_box_view.h"
 #include "screen/qt/list_view_view.h"
@@ -39,6 +40,8 @@ public:
     void visit(screen::ComboBox& element) override { add<ComboBoxView>(element); }
 
     void visit(screen::DTPicker& element) override { add<DTPickerView>(element); }
+
+    void visit(screen::DataGrid& element) override { add<DataGridView>(element); }
 
     void visit(screen::Form&) override { throw std::logic_error("a form lies in no container"); }
 

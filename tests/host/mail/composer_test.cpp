@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QTest>
 
 namespace dn::host::tests {
@@ -73,8 +74,10 @@ TEST_F(Writing, to_several_joined_by_semicolons_sends_one_mail_to_each)
 TEST_F(Writing, without_a_server_keeps_the_mail_in_the_outbox_and_says_so)
 {
     EXPECT_TRUE(writes([this](QWidget& window) {
-        EXPECT_THAT(textIn(window, "lblAviso").toStdString(),
-                    testing::AllOf(HasSubstr("el mensaje no sale"), HasSubstr(settings.outbox.string())));
+        EXPECT_THAT(
+            textIn(window, "lblAviso").toStdString(),
+            testing::AllOf(HasSubstr("el mensaje no sale, se guarda como archivo .eml en la bandeja de salida"),
+                           HasSubstr(settings.outbox.string())));
         types(window, "Asunto", "Hola");
         types(window, "texto");
         pressButton(window, keeps);
@@ -299,11 +302,51 @@ TEST_F(Attaching, a_file_that_is_gone_when_the_mail_goes_out_is_told)
         fs::remove(file);
         expectNotice("No se pudo leer el archivo");
         pressButton(window, keeps);
-        EXPECT_TRUE(window.isVisible());
+        waitUntilItCameBack(window);
         expectQuestion("El correo no se ha enviado", "Descartar");
         QTest::keyClick(&window, Qt::Key_Escape);
     }));
     EXPECT_THAT(history(), IsEmpty());
+}
+
+TEST_F(Attaching, a_file_that_grew_beyond_the_limit_is_told)
+{
+    settings.limit = 1;
+    const fs::path file = folder.holds("lista.pdf", "x");
+    const fs::path other = folder.holds("otra.pdf", std::string(600'000, 'x'));
+    EXPECT_FALSE(writes([&](QWidget& window) {
+        types(window, "Asunto", "Hola");
+        attachments(window).add(QString::fromStdString(other.string()));
+        attachments(window).add(QString::fromStdString(file.string()));
+        folder.holds("lista.pdf", std::string(600'000, 'x'));
+        expectNotice("lista.pdf» creció: ahora los archivos pasan de 1 MB");
+        pressButton(window, keeps);
+        waitUntilItCameBack(window);
+        EXPECT_EQ(listed(window).size(), 2U);
+        expectQuestion("El correo no se ha enviado", "Descartar");
+        QTest::keyClick(&window, Qt::Key_Escape);
+    }));
+    EXPECT_THAT(outbox(), IsEmpty());
+}
+
+TEST_F(Attaching, shows_how_far_a_slow_server_is_and_the_window_goes_on)
+{
+    MailServer& slow = toAServer({"slow"});
+    const fs::path file = folder.holds("plano.pdf", std::string(3'000'000, 'x'));
+    EXPECT_TRUE(writes([&](QWidget& window) {
+        types(window, "Asunto", "Hola");
+        attachments(window).add(QString::fromStdString(file.string()));
+        pressButton(window, "Enviar");
+        const auto* const progress = window.findChild<QProgressBar*>("Avance");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return progress->value() > 0; }, 20'000)) << "the events go on";
+        EXPECT_TRUE(progress->isVisible());
+        EXPECT_LT(progress->value(), 100);
+        EXPECT_EQ(slow.count(), 0);
+        EXPECT_THAT(history(), IsEmpty());
+        slow.letGoOn();
+    }));
+    EXPECT_EQ(slow.mail()["attachments"][0]["size"].toInt(), 3'000'000);
+    EXPECT_THAT(history().at(0).at(4), HasSubstr("[Archivo adjunto: plano.pdf, 2.9 MB]"));
 }
 
 } // namespace

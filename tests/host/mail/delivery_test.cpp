@@ -81,15 +81,23 @@ TEST_F(Delivery, hands_the_mail_over_as_it_was_written)
     EXPECT_THAT(texts(mail["defects"]), testing::IsEmpty());
 }
 
-TEST_F(Delivery, carries_10_megabytes)
+TEST_F(Delivery, carries_10_megabytes_and_tells_a_slow_server_how_far_it_is)
 {
-    const MailServer server;
+    const MailServer slow({"slow"});
+    settings.url = slow.url();
     std::string content(10 * 1024 * 1024, '\0');
     for (std::size_t i = 0; i < content.size(); ++i)
         content[i] = static_cast<char>(i * 31 + i / 997);
     message.attachments = {{"catálogo 2026.pdf", "application/pdf", content}};
-    EXPECT_EQ(sendsTo(server), "");
-    const QJsonObject file = server.mail()["attachments"][0].toObject();
+    Sending sending(delivery(settings, message));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sending.percent() > 0; }, 60'000));
+    EXPECT_LT(sending.percent(), 100);
+    EXPECT_FALSE(sending.finished());
+    EXPECT_EQ(slow.count(), 0);
+    slow.letGoOn();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sending.finished(); }, 60'000));
+    EXPECT_NO_THROW(sending.result());
+    const QJsonObject file = slow.mail()["attachments"][0].toObject();
     EXPECT_EQ(file["name"].toString().toStdString(), "catálogo 2026.pdf");
     EXPECT_EQ(file["size"].toInt(), 10 * 1024 * 1024);
     EXPECT_EQ(file["sha256"].toString().toStdString(),
@@ -115,6 +123,28 @@ TEST_F(Delivery, goes_encrypted_to_a_server_with_a_certificate_that_is_trusted)
     EXPECT_EQ(sendsTo(server), "");
     EXPECT_TRUE(server.envelope()["tls"].toBool());
     EXPECT_EQ(server.envelope()["login"].toString(), "ana");
+}
+
+TEST_F(Delivery, goes_to_a_server_that_is_encrypted_from_the_first_byte_on)
+{
+    const MailServer server({"smtps", "auth"});
+    ASSERT_THAT(server.url(), testing::StartsWith("smtps://"));
+    settings.ca = server.certificate().string();
+    logsIn();
+    for (const bool tls : {true, false}) { // which is about the others
+        settings.tls = tls;
+        EXPECT_EQ(sendsTo(server), "");
+    }
+    ASSERT_EQ(server.count(), 2);
+    EXPECT_TRUE(server.envelope(2)["tls"].toBool());
+    EXPECT_EQ(server.envelope(2)["login"].toString(), "ana");
+    EXPECT_EQ(server.mail(2)["body"].toString().toStdString(), message.body);
+    settings.ca.clear();
+    EXPECT_THAT(sends(), HasSubstr("certificado"));
+    settings.url.replace(0, 5, "smtp"); // it waits for a greeting that comes encrypted only
+    settings.timeout = 1;
+    EXPECT_THAT(sends(), HasSubstr("no respondió en 1 segundos"));
+    EXPECT_EQ(server.count(), 2);
 }
 
 TEST_F(Delivery, does_not_trust_an_unknown_certificate)
@@ -174,12 +204,43 @@ TEST_F(Delivery, that_is_cut_off_fails)
     message.attachments = {{"x", "application/pdf", std::string(3'000'000, 'x')}};
     EXPECT_THAT(sendsTo(middle), HasSubstr("Se cortó la conexión"));
     EXPECT_EQ(middle.count(), 0);
+    const MailServer encrypted({"drop", "smtps"});
+    settings.ca = encrypted.certificate().string();
+    EXPECT_THAT(sendsTo(encrypted), HasSubstr("Se cortó la conexión"));
+    EXPECT_EQ(encrypted.count(), 0);
 }
 
 TEST_F(Delivery, that_is_cut_off_behind_the_text_is_in_doubt)
 {
     const MailServer after({"drop-after"});
     EXPECT_THAT(sendsTo(after), AllOf(HasSubstr("Se cortó la conexión"), HasSubstr("pudo haberlo aceptado")));
+}
+
+TEST_F(Delivery, can_be_cancelled_in_the_middle_of_the_text)
+{
+    const MailServer slow({"slow"});
+    settings.url = slow.url();
+    message.attachments = {{"x.pdf", "application/pdf", std::string(3'000'000, 'x')}};
+    Sending sending(delivery(settings, message));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sending.percent() > 0; }, 20'000));
+    sending.cancel();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sending.finished(); }, 20'000));
+    try {
+        sending.result();
+        ADD_FAILURE() << "was sent";
+    } catch (const SendCancelled& end) {
+        EXPECT_STREQ(end.what(), "Se canceló el envío.") << "the server cannot have taken it";
+    }
+    slow.letGoOn();
+    EXPECT_EQ(slow.count(), 0);
+}
+
+TEST_F(Delivery, that_arrived_is_sent_though_the_server_says_no_farewell)
+{
+    const MailServer rude({"rude"});
+    settings.timeout = 1;
+    EXPECT_EQ(sendsTo(rude), "");
+    EXPECT_EQ(rude.count(), 1);
 }
 
 TEST_F(Delivery, gives_up_on_a_server_that_does_not_answer)

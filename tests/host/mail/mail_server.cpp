@@ -3,22 +3,30 @@
 
 #include "tests/host/mail/mail_server.h"
 
+#include "tests/support/child_process.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace dn::host::tests {
 namespace fs = std::filesystem;
 namespace {
 
 constexpr int patience = 20'000; // milliseconds until a program has surely started
-
-std::string script(const char* name) { return std::string(DN_SOURCE_DIR) + "/tests/host/mail/" + name; }
 
 QJsonObject jsonOf(const fs::path& file)
 {
@@ -34,6 +42,69 @@ void makeCertificate(const fs::path& folder)
                                      (folder / "key.pem").string(), "-out", (folder / "cert.pem").string()},
                                     {}, folder / "openssl.log");
     if (openssl.wait() != 0) throw std::runtime_error(contentOf(folder / "openssl.log"));
+}
+
+/// The process with all mail servers and the parser.
+class MailProcess {
+public:
+    static MailProcess& get()
+    {
+        static MailProcess process;
+        return process;
+    }
+
+    /// Sends a wish, as smtp_server.py understands it. @return the connection, and the answer.
+    std::pair<int, QByteArray> ask(const QJsonObject& wish) const
+    {
+        const int connection = connect();
+        send(connection, QJsonDocument(wish).toJson(QJsonDocument::Compact) + '\n');
+        QByteArray answer;
+        std::array<char, 4096> some{};
+        while (!answer.endsWith('\n')) {
+            const ssize_t size = ::read(connection, some.data(), some.size());
+            if (size <= 0) throw std::runtime_error(contentOf(folder_.path() / "log"));
+            answer.append(some.data(), size);
+        }
+        return {connection, answer};
+    }
+
+    static void send(int connection, const QByteArray& line)
+    {
+        if (::write(connection, line.data(), static_cast<std::size_t>(line.size())) != line.size())
+            throw std::runtime_error("the mail server does not listen");
+    }
+
+private:
+    MailProcess()
+        : process_({DN_PYTHON, "-B", "-W", "ignore",
+                    std::string(DN_SOURCE_DIR) + "/tests/host/mail/smtp_server.py",
+                    (folder_.path() / "s").string()},
+                   {}, folder_.path() / "log")
+    {
+    }
+
+    // The socket is there a moment ahead of whoever listens on it.
+    int connect() const
+    {
+        const int connection = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        const std::string path = folder_.path() / "s";
+        path.copy(std::data(address.sun_path), sizeof(address.sun_path) - 1);
+        const auto connects = [&] {
+            return ::connect(connection, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0;
+        };
+        if (!QTest::qWaitFor(connects, patience)) throw std::runtime_error(contentOf(folder_.path() / "log"));
+        return connection;
+    }
+
+    Folder folder_;
+    dn::tests::ChildProcess process_;
+};
+
+bool isIn(const std::vector<std::string>& moods, const char* mood)
+{
+    return std::find(moods.begin(), moods.end(), mood) != moods.end();
 }
 
 } // namespace
@@ -66,41 +137,41 @@ std::string contentOf(const fs::path& file)
 
 std::vector<QJsonObject> parsed(const std::vector<fs::path>& mails)
 {
-    const Folder folder;
-    std::vector<std::string> command{DN_PYTHON, script("read_mail.py")};
+    QJsonArray files;
     for (const fs::path& mail : mails)
-        command.push_back(mail.string());
-    dn::tests::ChildProcess python(command, {}, folder.path() / "out");
-    if (python.wait() != 0) throw std::runtime_error(contentOf(folder.path() / "out"));
+        files.append(QString::fromStdString(mail.string()));
+    const auto [connection, answer] = MailProcess::get().ask({{"read", files}});
+    ::close(connection);
     std::vector<QJsonObject> result;
-    const QByteArray json = QByteArray::fromStdString(contentOf(folder.path() / "out"));
-    for (const QJsonValue& mail : QJsonDocument::fromJson(json).array())
+    for (const QJsonValue& mail : QJsonDocument::fromJson(answer).array())
         result.push_back(mail.toObject());
     return result;
 }
 
 QJsonObject parsed(const fs::path& mail) { return parsed(std::vector<fs::path>{mail}).at(0); }
 
-MailServer::MailServer(std::vector<std::string> moods)
+MailServer::MailServer(const std::vector<std::string>& moods)
 {
-    std::vector<std::string> command{DN_PYTHON, "-W", "ignore", script("smtp_server.py"), folder_.path().string()};
-    for (std::string& mood : moods) {
-        if (mood == "tls") makeCertificate(folder_.path());
-        command.push_back(std::move(mood));
-    }
-    process_ =
-        std::make_unique<dn::tests::ChildProcess>(command, std::vector<std::string>{}, folder_.path() / "log");
-    waitFor("port");
-    port_ = contentOf(folder_.path() / "port");
+    if (isIn(moods, "tls") || isIn(moods, "smtps")) makeCertificate(folder_.path());
+    QJsonArray list;
+    for (const std::string& mood : moods)
+        list.append(QString::fromStdString(mood));
+    const auto [connection, answer] =
+        MailProcess::get().ask({{"serve", QString::fromStdString(folder_.path().string())}, {"moods", list}});
+    connection_ = connection;
+    const int port = QJsonDocument::fromJson(answer)["port"].toInt();
+    url_ = (isIn(moods, "smtps") ? "smtps://127.0.0.1:" : "smtp://127.0.0.1:") + std::to_string(port);
 }
 
-void MailServer::waitFor(const std::string& name) const
+MailServer::~MailServer() { ::close(connection_); }
+
+void MailServer::waitUntilSilent() const
 {
-    if (!QTest::qWaitFor([&] { return fs::exists(folder_.path() / name); }, patience))
-        throw std::runtime_error(contentOf(folder_.path() / "log"));
+    if (!QTest::qWaitFor([&] { return fs::exists(folder_.path() / "silent"); }, patience))
+        throw std::runtime_error("no text reached the mail server");
 }
 
-void MailServer::waitUntilSilent() const { waitFor("silent"); }
+void MailServer::letGoOn() const { MailProcess::send(connection_, "\n"); }
 
 int MailServer::count() const
 {

@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A real mail server on the loopback, and a parser of mails that is not this program's: both are Python's.
+// Real mail servers on the loopback, and a parser of mails that is not this program's: all of them Python's, in
+// one process that starts with the first test that asks.
 #pragma once
-
-#include "tests/support/child_process.h"
 
 #include <QJsonObject>
 
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -41,9 +39,12 @@ QJsonObject parsed(const std::filesystem::path& mail);
 class MailServer {
 public:
     /// @param moods see smtp_server.py.
-    explicit MailServer(std::vector<std::string> moods = {});
+    explicit MailServer(const std::vector<std::string>& moods = {});
+    ~MailServer();
+    MailServer(const MailServer&) = delete;
+    MailServer& operator=(const MailServer&) = delete;
 
-    std::string url() const { return "smtp://127.0.0.1:" + port_; }
+    std::string url() const { return url_; }
     /// The certificate that a client must trust.
     std::filesystem::path certificate() const { return folder_.path() / "cert.pem"; }
     /// How many mails it took.
@@ -54,13 +55,13 @@ public:
     std::filesystem::path file(int number = 1) const { return folder_.path() / (std::to_string(number) + ".eml"); }
     /// Waits until it has the text of a mail that it will not answer.
     void waitUntilSilent() const;
+    /// Lets a slow one read the rest.
+    void letGoOn() const;
 
 private:
-    void waitFor(const std::string& name) const;
-
     Folder folder_;
-    std::unique_ptr<dn::tests::ChildProcess> process_;
-    std::string port_;
+    int connection_; // to the process; the server goes with it
+    std::string url_;
 };
 
 /// A list of texts, as the parser gives it.

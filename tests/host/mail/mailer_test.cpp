@@ -107,6 +107,19 @@ TEST_F(FromTemplates, asks_ahead_of_writing_over_what_was_typed)
     }));
 }
 
+TEST_F(FromTemplates, takes_the_mobile_number_of_a_contact_whose_office_has_an_empty_one)
+{
+    server().execute("UPDATE Persona SET Tel_Trabajo = ''");
+    aTemplate("x.txt", "Le llamo al {telefono}");
+    EXPECT_FALSE(writes(
+        [](QWidget& window) {
+            chooses(window, 1);
+            EXPECT_EQ(textIn(window, "Texto"), "Le llamo al 9612222222");
+            QTest::keyClick(&window, Qt::Key_Escape);
+        },
+        silo));
+}
+
 TEST_F(FromTemplates, shows_no_choice_where_there_are_none)
 {
     EXPECT_FALSE(writes([](QWidget& window) {
@@ -200,17 +213,48 @@ TEST_F(Mailing, goes_on_when_the_party_cannot_be_read)
     EXPECT_EQ(history().size(), 2U);
 }
 
-TEST_F(Mailing, never_uses_the_controls_connection_and_stores_no_password)
+TEST_F(Mailing, keeps_the_password_to_itself)
 {
+    const MailServer to({"auth"});
+    settings.url = to.url();
     settings.user = "ana";
-    settings.password = "secreto";
+    settings.password = "secreto ;\"ñ";
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     EXPECT_TRUE(writes([](QWidget& window) {
         types(window, "Asunto", "Hola");
-        pressButton(window, keeps);
+        pressButton(window, "Enviar");
     }));
-    for (const std::string& statement : sent)
-        EXPECT_THAT(statement, Not(HasSubstr("secreto")));
-    EXPECT_THAT(contentOf(outbox().at(0)), Not(HasSubstr("secreto")));
+    const std::string said = testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr();
+    ASSERT_EQ(to.count(), 1);
+    EXPECT_EQ(to.envelope()["login"].toString(), "ana") << "it was used";
+    EXPECT_THAT(said, testing::AllOf(Not(HasSubstr("secreto")), Not(HasSubstr("AUTH"))));
+    EXPECT_THAT(contentOf("/proc/self/cmdline"), Not(HasSubstr("secreto")));
+    EXPECT_THAT(sent, Not(IsEmpty()));
+    EXPECT_THAT(sent, testing::Each(Not(HasSubstr("secreto"))));
+    EXPECT_THAT(contentOf(to.file()), Not(HasSubstr("secreto")));
+}
+
+TEST_F(Mailing, finds_the_party_and_its_mails_by_an_index)
+{
+    server().execute("INSERT INTO ut_icontact (uf_Nombre) SELECT seq FROM seq_1_to_300");
+    server().execute("INSERT INTO Proyecto (Descripcion) SELECT seq FROM seq_1_to_300");
+    server().execute(
+        "INSERT INTO correo_historial (identificador, destinatarios) SELECT seq, 'x' FROM seq_1_to_300");
+    for (const char* record : {maria, silo}) {
+        operatorAt.expect("VerHistorial", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+        sent.clear();
+        mail()->VerHistorial(record);
+        int looked = 0;
+        for (const std::string& statement : sent) {
+            if (statement.find("Sys_GUID =") == std::string::npos &&
+                statement.find("identificador =") == std::string::npos)
+                continue;
+            ++looked;
+            EXPECT_NE(rows("EXPLAIN " + statement).at(0).at(3), "ALL") << statement;
+        }
+        EXPECT_EQ(looked, 2) << record;
+    }
 }
 
 // ---- The history
@@ -283,31 +327,98 @@ TEST_F(MailHistory, that_cannot_be_read_is_told)
 
 // ---- With the control
 
-TEST_F(Mailing, from_the_control_leaves_its_line_in_the_log)
-{
-    server().execute("TRUNCATE TABLE xt_biticontact");
-    server().execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Sofía')");
-    server().execute("UPDATE ut_icontact SET uf_IEjecutivo = 7");
+class FromTheControl : public Mailing {
+protected:
+    void SetUp() override
+    {
+        Mailing::SetUp();
+        server().execute("TRUNCATE TABLE xt_biticontact");
+        server().execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Sofía')");
+        server().execute("UPDATE ut_icontact SET uf_IEjecutivo = 7");
+        control.hostObjects(&factory);
+        control.SetObjects(&server(), agent, false, "Sofía");
+        HostObject lands;
+        control.InitUICRM("/ajustes", lands);
+        control.RefreshData();
+        control.elements().top.lblItem(desk::prospectos).click();
+        control.elements().detail.txtText.Text("a medio escribir");
+    }
+    /// Presses "Correo" and lets the operator act in the window.
+    void presses(const std::function<void(QWidget&)>& act)
+    {
+        operatorAt.expect("Enviar", act);
+        control.elements().detail.cmdSend.press();
+    }
+    std::string note() { return control.elements().detail.txtText.Text(); }
+    static std::vector<Row> log()
+    {
+        return rows("SELECT uf_Mensaje, uf_Usuario, uf_Iicontact FROM xt_biticontact");
+    }
+
     screen::qt::CtrDnContactsWidget widget;
     ctrDnContacts& control = widget.control();
-    control.hostObjects(&factory);
-    control.SetObjects(&server(), agent, false, "Sofía");
-    HostObject lands;
-    control.InitUICRM("/ajustes", lands);
-    control.RefreshData();
-    control.elements().top.lblItem(desk::prospectos).click();
-    operatorAt.expect("Enviar", [](QWidget& window) {
+    const std::vector<Row> once{{"Se envió un mensaje de correo electrónico", "Sofía", "31"}};
+};
+
+TEST_F(FromTheControl, a_mail_leaves_its_line_in_the_log_and_one_given_up_none)
+{
+    presses([](QWidget& window) {
         EXPECT_EQ(textIn(window, "Para"), "maria@acme.example");
         types(window, "Asunto", "Hola");
         pressButton(window, keeps);
     });
-    control.elements().detail.cmdSend.press();
-    EXPECT_EQ(rows("SELECT uf_Mensaje, uf_Usuario, uf_Iicontact FROM xt_biticontact"),
-              (std::vector<Row>{{"Se envió un mensaje de correo electrónico", "Sofía", "31"}}));
+    EXPECT_EQ(log(), once);
     EXPECT_EQ(history().at(0).at(0), maria);
-    operatorAt.expect("Enviar", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
-    control.elements().detail.cmdSend.press();
-    EXPECT_EQ(value("SELECT COUNT(*) FROM xt_biticontact"), "1");
+    EXPECT_EQ(note(), "");
+    presses([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
+    EXPECT_EQ(log(), once);
+    EXPECT_EQ(history().size(), 1U);
+}
+
+TEST_F(FromTheControl, a_mail_that_the_server_refuses_leaves_nothing_until_it_takes_it)
+{
+    const MailServer to({"refuse"});
+    settings.url = to.url();
+    server().execute("UPDATE ut_icontact SET uf_EMail = 'nadie@acme.example'");
+    control.elements().top.lblItem(desk::prospectos).click();
+    control.elements().detail.txtText.Text("a medio escribir");
+    presses([this](QWidget& window) {
+        types(window, "Asunto", "Hola");
+        expectNotice("«nadie@acme.example»");
+        pressButton(window, "Enviar");
+        waitUntilItCameBack(window);
+        expectQuestion("El correo no se ha enviado", "Descartar");
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    EXPECT_THAT(log(), IsEmpty());
+    EXPECT_THAT(history(), IsEmpty());
+    EXPECT_EQ(note(), "a medio escribir");
+    presses([this](QWidget& window) {
+        types(window, "Asunto", "Hola");
+        expectNotice("«nadie@acme.example»");
+        pressButton(window, "Enviar");
+        waitUntilItCameBack(window);
+        types(window, "Para", "maria@acme.example");
+        pressButton(window, "Enviar");
+    });
+    EXPECT_EQ(to.count(), 1);
+    EXPECT_EQ(log(), once);
+    EXPECT_EQ(history().size(), 1U);
+}
+
+TEST_F(FromTheControl, a_mail_that_could_not_be_stored_is_in_the_log_once_all_the_same)
+{
+    const MailServer to;
+    settings.url = to.url();
+    presses([this](QWidget& window) {
+        types(window, "Asunto", "Hola");
+        failAfter(0);
+        expectNotice("El correo se envió, pero no se pudo anotar en su historial");
+        pressButton(window, "Enviar");
+    });
+    EXPECT_EQ(to.count(), 1);
+    EXPECT_THAT(history(), IsEmpty());
+    EXPECT_EQ(log(), once);
 }
 
 } // namespace

@@ -1,11 +1,9 @@
 # SPDX-FileCopyrightText: The ctrDnContacts authors
 # SPDX-License-Identifier: Apache-2.0
-"""Reads mails with Python's own parser and tells as a list in JSON what it found: read_mail.py FILE..."""
+"""Reads a mail with Python's own parser and tells what it found."""
 import email
 import email.policy
 import hashlib
-import json
-import sys
 
 
 def read(path):
@@ -37,5 +35,3 @@ def read(path):
         "eight_bit": any(byte > 127 for byte in raw),
     }
 
-
-print(json.dumps([read(path) for path in sys.argv[1:]]))

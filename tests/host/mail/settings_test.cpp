@@ -8,11 +8,10 @@
 #include "host/mail/party_fields.h"
 #include "host/mail/templates.h"
 #include "tests/host/mail/mail_server.h"
+#include "tests/host/mail/variable.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <cstdlib>
 
 namespace dn::host::tests {
 namespace {
@@ -22,18 +21,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-/// A variable of the environment for as long as this lives.
-class Variable {
-public:
-    Variable(const char* name, const char* value) : name_(name) { ::setenv(name, value, 1); }
-    ~Variable() { ::unsetenv(name_); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-
-private:
-    const char* name_;
-};
 
 class Settings : public testing::Test {
 protected:

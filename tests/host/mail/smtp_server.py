@@ -1,13 +1,19 @@
 # SPDX-FileCopyrightText: The ctrDnContacts authors
 # SPDX-License-Identifier: Apache-2.0
-"""A real SMTP server on the loopback for tests, with the moods of servers out there.
+"""Real SMTP servers on the loopback for tests, with the moods of servers out there, and a reader of mails.
 
-    smtp_server.py FOLDER MOOD...
+    smtp_server.py SOCKET
 
-It writes the port it listens on into FOLDER/port, and each mail that it takes as FOLDER/1.eml with FOLDER/1.json
-beside it: sender, recipients, whether the connection was encrypted, and who logged in. Moods:
+One process serves all tests of a program. Each connection to the Unix socket sends one line of JSON and gets one back:
+
+    {"serve": FOLDER, "moods": [MOOD...]}   {"port": 40123}: a server of its own, for as long as the connection stands
+    {"read": [FILE...]}                     what read_mail.py finds in each of the files
+
+A server writes each mail that it takes as FOLDER/1.eml with FOLDER/1.json beside it: sender, recipients, whether the
+connection was encrypted, and who logged in. A further line on its connection lets it go on. Moods:
 
     tls          offers STARTTLS with FOLDER/cert.pem and FOLDER/key.pem, and takes nothing without it
+    smtps        is encrypted from the first byte on, with the same files
     auth         takes nothing without the login ana / secreto ;"ñ
     refuse       refuses recipients whose address begins with "nadie"
     sender       refuses every sender
@@ -16,55 +22,92 @@ beside it: sender, recipients, whether the connection was encrypted, and who log
     drop-after   closes the connection after the text, without an answer
     silent       takes the text and never answers
     mute         takes the connection and never greets
+    slow         reads the beginning of the text, and the rest when it is let go on
+    rude         never answers the farewell
     small        announces and allows texts of 1 MB at the most
 """
 import asyncio
 import json
 import os
+import socket
 import ssl
 import sys
 
+import read_mail
 from aiosmtpd.smtp import SMTP, AuthResult, LoginPassword
 
-folder, moods = sys.argv[1], set(sys.argv[2:])
 
+class Server:
+    """A mail server that keeps what it is given."""
 
-class Keeper:
-    """Keeps what it is given."""
-
-    def __init__(self):
+    def __init__(self, folder, moods):
+        self.folder, self.moods = folder, set(moods)
         self.count = 0
+        self.goes_on = asyncio.Event()
+
+    async def listen(self):
+        inbound = socket.create_server(("127.0.0.1", 0))
+        if "slow" in self.moods:
+            inbound.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 16384)  # or all of the text would fit into it
+        secure = self.context() if "smtps" in self.moods else None
+        protocol = Mute if "mute" in self.moods else self.protocol
+        self.listener = await asyncio.get_running_loop().create_server(protocol, sock=inbound, ssl=secure)
+        return inbound.getsockname()[1]
+
+    def protocol(self):
+        secure = self.context() if "tls" in self.moods else None
+        kind = Dropping if "drop" in self.moods else Slow if "slow" in self.moods else SMTP
+        return kind(self, hostname="prueba", tls_context=secure, require_starttls=secure is not None,
+                    auth_required="auth" in self.moods, auth_require_tls=False,
+                    authenticator=authenticate if "auth" in self.moods else None,
+                    data_size_limit=1_000_000 if "small" in self.moods else 50_000_000, timeout=3600)
+
+    def context(self):
+        context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+        context.load_cert_chain(os.path.join(self.folder, "cert.pem"), os.path.join(self.folder, "key.pem"))
+        return context
 
     async def handle_MAIL(self, server, session, envelope, address, options):
-        if "sender" in moods:
+        if "sender" in self.moods:
             return "550 5.7.1 Sender not welcome"
         envelope.mail_from = address
         return "250 OK"
 
     async def handle_RCPT(self, server, session, envelope, address, options):
-        if "refuse" in moods and address.startswith("nadie"):
+        if "refuse" in self.moods and address.startswith("nadie"):
             return "550 5.1.1 No such user here"
         envelope.rcpt_tos.append(address)
         return "250 OK"
 
     async def handle_DATA(self, server, session, envelope):
-        if "reject" in moods:
+        if "reject" in self.moods:
             return "554 5.6.0 Message looks like spam"
-        if "drop-after" in moods:
+        if "drop-after" in self.moods:
             server.transport.abort()
             await asyncio.Event().wait()
-        if "silent" in moods:
-            note("silent")
+        if "silent" in self.moods:
+            self.write("silent", "")
             await asyncio.Event().wait()
         self.count += 1
-        name = os.path.join(folder, str(self.count))
-        with open(name + ".eml", "wb") as file:
+        with open(os.path.join(self.folder, f"{self.count}.eml"), "wb") as file:
             file.write(envelope.original_content)
         login = session.auth_data.login.decode() if session.auth_data else ""
-        with open(name + ".json", "w", encoding="utf-8") as file:
-            json.dump({"from": envelope.mail_from, "to": envelope.rcpt_tos, "tls": session.ssl is not None,
-                       "login": login}, file)
+        encrypted = server.transport.get_extra_info("ssl_object") is not None
+        self.write(f"{self.count}.json", json.dumps({"from": envelope.mail_from, "to": envelope.rcpt_tos,
+                                                     "tls": encrypted, "login": login}))
         return "250 2.0.0 Taken"
+
+    async def handle_QUIT(self, server, session, envelope):
+        if "rude" in self.moods:
+            await asyncio.Event().wait()
+        return "221 Bye"
+
+    def write(self, name, text):
+        """A file that is there whole or not at all."""
+        path = os.path.join(self.folder, name)
+        with open(path + ".part", "w", encoding="utf-8") as file:
+            file.write(text)
+        os.rename(path + ".part", path)
 
 
 class Dropping(SMTP):
@@ -76,42 +119,58 @@ class Dropping(SMTP):
         self.transport.abort()
 
 
-def authenticate(server, session, envelope, mechanism, data):
-    good = isinstance(data, LoginPassword) and data.login == b"ana" and data.password == 'secreto ;"ñ'.encode()
-    return AuthResult(success=good, handled=False, auth_data=data if good else None)
+class Slow(SMTP):
+    """Reads some lines of the text and waits."""
 
+    async def smtp_DATA(self, arg):
+        read, lines = self._reader.readuntil, 0
 
-def note(name, text=""):
-    """A file that is there whole or not at all."""
-    path = os.path.join(folder, name)
-    with open(path + ".part", "w", encoding="utf-8") as file:
-        file.write(text)
-    os.rename(path + ".part", path)
+        async def slowly(*arguments):
+            nonlocal lines
+            lines += 1
+            if lines > 1000:
+                await self.event_handler.goes_on.wait()
+            return await read(*arguments)
 
-
-def server():
-    context = None
-    if "tls" in moods:
-        context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
-        context.load_cert_chain(os.path.join(folder, "cert.pem"), os.path.join(folder, "key.pem"))
-    kind = Dropping if "drop" in moods else SMTP
-    return kind(keeper, hostname="prueba", tls_context=context, require_starttls=context is not None,
-                auth_required="auth" in moods, auth_require_tls=False,
-                authenticator=authenticate if "auth" in moods else None,
-                data_size_limit=1_000_000 if "small" in moods else 50_000_000, timeout=3600)
+        self._reader.readuntil = slowly
+        await super().smtp_DATA(arg)
+        self._reader.readuntil = read
 
 
 class Mute(asyncio.Protocol):
     """Says nothing."""
 
 
-keeper = Keeper()
+def authenticate(server, session, envelope, mechanism, data):
+    good = isinstance(data, LoginPassword) and data.login == b"ana" and data.password == 'secreto ;"ñ'.encode()
+    return AuthResult(success=good, handled=False, auth_data=data if good else None)
+
+
+async def serve(folder, moods, reader, answer):
+    server = Server(folder, moods)
+    answer({"port": await server.listen()})
+    while await reader.readline():
+        server.goes_on.set()
+    server.listener.close()
+
+
+async def ask(reader, writer):
+    def answer(what):
+        writer.write(json.dumps(what).encode() + b"\n")
+
+    try:
+        wish = json.loads(await reader.readline())
+        if "serve" in wish:
+            await serve(wish["serve"], wish["moods"], reader, answer)
+        else:
+            answer([read_mail.read(path) for path in wish["read"]])
+    finally:
+        writer.close()  # without an answer the test sees that something failed
 
 
 async def main():
-    listener = await asyncio.get_running_loop().create_server(Mute if "mute" in moods else server, "127.0.0.1", 0)
-    note("port", str(listener.sockets[0].getsockname()[1]))
-    await listener.serve_forever()
+    async with await asyncio.start_unix_server(ask, sys.argv[1]) as listener:
+        await listener.serve_forever()
 
 
 asyncio.run(main())

@@ -43,15 +43,23 @@ protected:
 
     ~Program() override { std::filesystem::remove_all(home_); }
 
-    Outcome run(const std::string& arguments)
+    Outcome run(const std::string& arguments) const { return execute("'" DN_PROGRAM "' " + arguments); }
+
+    /// Runs it on a display, where these keys and waits follow each other.
+    Outcome atADisplay(const std::string& arguments, const std::string& steps) const
     {
-        const auto log = home_ / "log";
-        const std::string command = "HOME='" + home_.string() +
-                                    "' XDG_DATA_HOME= XDG_RUNTIME_DIR= DISPLAY= WAYLAND_DISPLAY= '" DN_PROGRAM
-                                    "' " +
-                                    arguments + " >'" + log.string() + "' 2>&1 </dev/null";
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, read(log)};
+        return execute("python3 '" DN_AT_A_DISPLAY "' '" DN_PROGRAM "' " + arguments + " -- " + steps);
+    }
+
+    /// Puts a program of that name ahead of all others, which writes its argument into a file. @return the file.
+    std::filesystem::path insteadOf(const std::string& program) const
+    {
+        const auto called = home_ / "llamado";
+        std::filesystem::create_directories(home_ / "bin");
+        std::ofstream(home_ / "bin" / program) << "#!/bin/sh\necho \"$1\" >'" << called.string() << ".nuevo'\nmv '"
+                                               << called.string() << ".nuevo' '" << called.string() << "'\n";
+        std::filesystem::permissions(home_ / "bin" / program, std::filesystem::perms::owner_all);
+        return called;
     }
 
     std::filesystem::path picture() const { return home_ / "ventana.png"; }
@@ -61,6 +69,17 @@ protected:
     }
 
     std::filesystem::path home_;
+
+private:
+    Outcome execute(const std::string& command) const
+    {
+        const auto log = home_ / "log";
+        const std::string whole = "PATH='" + (home_ / "bin").string() + "':\"$PATH\" HOME='" + home_.string() +
+                                  "' XDG_DATA_HOME= XDG_RUNTIME_DIR= DISPLAY= WAYLAND_DISPLAY= " + command +
+                                  " >'" + log.string() + "' 2>&1 </dev/null";
+        const int status = std::system(whole.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, read(log)};
+    }
 };
 
 /// Width and height as the head of a PNG file holds them; nothing in common with one gives 0 by 0.
@@ -139,6 +158,21 @@ TEST_F(Program, says_that_its_data_are_damaged)
     const Outcome outcome = run(taking());
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.said, HasSubstr("datos")) << outcome.said;
+}
+
+TEST_F(Program, hands_the_number_of_a_call_to_the_desktop_where_it_was_asked_to)
+{
+    const auto called = insteadOf("xdg-open");
+    const std::string who = " --agent 1 --user prueba --tab 0 "; // the window's title
+    const std::string call =
+        "TOP=prueba KEYS=Escape,F8,Ctrl+2:hacer "; // busy, and what next; too early a key gets a box
+    const std::string ends = "KEYS=Escape:prueba END";
+    const Outcome silent = atADisplay("--demo-rows 50" + who, call + ends);
+    EXPECT_EQ(silent.status, 0) << silent.said;
+    EXPECT_FALSE(std::filesystem::exists(called)) << read(called);
+    const Outcome dialling = atADisplay("--dial" + who, call + "FILE='" + called.string() + "' " + ends);
+    EXPECT_EQ(dialling.status, 0) << dialling.said;
+    EXPECT_THAT(read(called), testing::MatchesRegex("tel:[+]?[0-9]{5,15}\n"));
 }
 
 } // namespace

@@ -43,9 +43,13 @@ std::unique_ptr<data::Connection> Screens::openAs(const char* user, const char* 
 
 void Screens::SetUpTestSuite()
 {
-    openTo("")->execute("CREATE OR REPLACE DATABASE pantallas CHARACTER SET utf8mb4");
+    static const bool made = [] {
+        openTo("")->execute("CREATE OR REPLACE DATABASE pantallas CHARACTER SET utf8mb4");
+        createSchema(*open(), Engine::mariadb);
+        return true;
+    }();
+    ASSERT_TRUE(made);
     connection_ = open();
-    createSchema(server(), Engine::mariadb);
 }
 
 void Screens::TearDownTestSuite() { connection_.reset(); }

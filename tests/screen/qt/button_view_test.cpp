@@ -5,6 +5,7 @@
 
 #include "screen/button.h"
 #include "screen/label.h"
+#include "screen/list_view.h"
 #include "screen/qt/colours.h"
 #include "screen/qt/label_view.h"
 #include "tests/screen/qt/stage.h"
@@ -12,6 +13,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 
 #include <stdexcept>
 
@@ -172,6 +174,25 @@ TEST_F(ButtonViewTest, a_tab_is_clicked_by_mouse_and_keyboard_and_shows_the_colo
     EXPECT_TRUE(first.hasFocus());
     QTest::keyClick(&first, Qt::Key_Space);
     EXPECT_EQ(clicks, 102);
+}
+
+TEST_F(ButtonViewTest, down_leads_from_a_tab_to_the_list_that_shows)
+{
+    ListView hidden{&root, "lvwHidden"};
+    hidden.Visible(false);
+    ListView list{&root, "lvw"};
+    place(list, 10, 140, 200, 80);
+    show();
+    auto& tab = widget<qt::ClickLabelView>("lblItem(1)");
+    tab.setFocus();
+    QTest::keyClick(&tab, Qt::Key_Down);
+    EXPECT_TRUE(widget<QTableView>("lvw").hasFocus());
+    EXPECT_TRUE(list.hasFocus());
+    list.Enabled(false);
+    tab.setFocus();
+    QTest::keyClick(&tab, Qt::Key_Down);
+    EXPECT_TRUE(tab.hasFocus());
+    EXPECT_EQ(clicks, 0);
 }
 
 TEST_F(ButtonViewTest, a_label_shows_its_text_as_it_stands)

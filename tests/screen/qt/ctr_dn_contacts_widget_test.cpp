@@ -3,6 +3,7 @@
 
 // The control as its host places it: names, drawings, sizes, errors.
 
+#include "screen/qt/colours.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "screen/qt/icons.h"
 #include "screen/qt/text.h"
@@ -106,6 +107,38 @@ TEST_F(WidgetTest, the_pictures_of_a_list_differ_in_shape)
             }
 }
 
+// What is left of a button without its colour: where it is light on dark or dark on light.
+TEST_F(WidgetTest, the_colour_buttons_differ_in_shape)
+{
+    auto& marks = widget.control().elements().top.bColor;
+    std::vector<QImage> shapes;
+    for (int i = 0; i < marks.Count(); ++i) {
+        const QString name = QString::fromStdString(marks(i).name());
+        auto* const button = widget.findChild<QAbstractButton*>(name);
+        ASSERT_NE(button, nullptr) << name.toStdString();
+        QImage image = button->grab().toImage();
+        const int swatch = qGray(qt::fromColour(*marks(i).BackColor()).rgb());
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                image.setPixel(x, y, qAbs(qGray(image.pixel(x, y)) - swatch) > 96 ? 0xFFFFFFFF : 0xFF000000);
+        shapes.push_back(image);
+    }
+    for (std::size_t one = 0; one < shapes.size(); ++one)
+        for (std::size_t other = one + 1; other < shapes.size(); ++other) {
+            int either = 0;
+            int different = 0;
+            const int frame = qRound(3 * shapes[one].devicePixelRatio()); // of each button
+            for (int y = frame; y < shapes[one].height() - frame; ++y)
+                for (int x = frame; x < shapes[one].width() - frame; ++x) {
+                    const bool left = qGray(shapes[one].pixel(x, y)) > 0;
+                    const bool right = qGray(shapes[other].pixel(x, y)) > 0;
+                    either += left || right ? 1 : 0;
+                    different += left != right ? 1 : 0;
+                }
+            EXPECT_GT(different, either / 3) << one << " and " << other;
+        }
+}
+
 TEST_F(WidgetTest, the_control_has_the_frame_of_the_design_and_follows_the_hosts_size)
 {
     EXPECT_EQ(widget.control().root().Width(), 15720);
@@ -126,6 +159,21 @@ TEST_F(WidgetTest, no_caption_of_the_strips_is_cut_off)
         EXPECT_LE(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + icon, button->width())
             << button->objectName().toStdString();
     }
+}
+
+TEST_F(WidgetTest, the_commands_and_marks_of_the_projects_fit_into_800_pixels)
+{
+    widget.resize(800, 600);
+    QTest::mouseClick(widget.findChild<QWidget*>(QStringLiteral("lblItem(1)")), Qt::LeftButton);
+    int seen = 0;
+    for (const char* strip : {"picItem(1)", "picColors"})
+        for (const QWidget* part :
+             widget.findChild<QWidget*>(QString::fromUtf8(strip))->findChildren<QAbstractButton*>()) {
+            ++seen;
+            EXPECT_TRUE(part->isVisibleTo(&widget)) << part->objectName().toStdString();
+            EXPECT_LE(part->mapTo(&widget, QPoint(part->width(), 0)).x(), 800) << part->objectName().toStdString();
+        }
+    EXPECT_EQ(seen, 11);
 }
 
 TEST_F(WidgetTest, an_error_of_a_click_goes_to_the_hosts_handler)

@@ -3,6 +3,7 @@
 
 // The operator on a list view: real clicks and keys, and what the element hears of them.
 
+#include "screen/qt/list_cell_painter.h"
 #include "tests/screen/qt/list_view_fixture.h"
 
 #include <QApplication>
@@ -100,6 +101,9 @@ TEST_F(ListViewTest, enter_is_a_double_click_on_the_selected_row)
     show();
     press(Qt::Key_Return);
     EXPECT_THAT(clicked, ElementsAre("+"));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QApplication::sendEvent(&table(), &held);
+    EXPECT_THAT(clicked, ElementsAre("+")) << "a key that is held down";
 }
 
 TEST_F(ListViewTest, left_and_right_scroll_and_a_row_keeps_the_horizontal_place)
@@ -147,14 +151,18 @@ TEST_F(ListViewTest, a_check_box_is_clicked_beside_the_selection)
     press(Qt::Key_Space);
     EXPECT_EQ(checked.size(), 3U);
     EXPECT_TRUE(list.ListItems()("K4").Checked());
+    EXPECT_THAT(clicked, ElementsAre("K4")) << "the key checks and does not click";
 }
 
 TEST_F(ListViewTest, a_list_without_check_boxes_has_none_to_click)
 {
     addRows(0, 10);
     show();
+    press(Qt::Key_Space); // the first row is selected by itself, and this clicks it
+    EXPECT_THAT(clicked, ElementsAre("K0"));
     click(2);
     press(Qt::Key_Space);
+    EXPECT_THAT(clicked, ElementsAre("K0", "K2", "K2"));
     EXPECT_TRUE(table().checkRect(2).isEmpty());
     EXPECT_THAT(checked, IsEmpty());
 }
@@ -174,6 +182,21 @@ TEST_F(ListViewTest, headers_are_clicked_by_mouse_and_by_menu)
     menu->actions()[2]->trigger();
     EXPECT_THAT(headers, ElementsAre(2, 3));
     menu->close();
+}
+
+TEST_F(ListViewTest, headers_that_do_nothing_are_neither_pressed_nor_offered)
+{
+    screen::ListView plain{&root, "lvwPlain"};
+    plain.AddColumn("Uno", 1500);
+    plain.ListItems().Add("K1", "uno");
+    place(plain, 0, 310, 100, 80);
+    show();
+    auto& table = widget<screen::qt::ListViewView>("lvwPlain");
+    EXPECT_FALSE(table.horizontalHeader()->sectionsClickable());
+    EXPECT_TRUE(this->table().horizontalHeader()->sectionsClickable());
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {10, 10}, table.mapToGlobal(QPoint(10, 10)));
+    QApplication::sendEvent(table.viewport(), &event);
+    EXPECT_EQ(table.findChild<QMenu*>(), nullptr);
 }
 
 TEST_F(ListViewTest, a_disabled_list_takes_no_input)
@@ -207,6 +230,35 @@ TEST_F(ListViewTest, a_click_that_reloads_the_list_ends_on_the_new_rows)
     EXPECT_EQ(model().rowCount(), 50);
     EXPECT_EQ(table().currentIndex().row(), 7);
     EXPECT_THAT(clicked, ElementsAre("K7"));
+}
+
+TEST_F(ListViewTest, figures_a_little_too_wide_are_shown_in_full_and_words_are_not)
+{
+    for (const char* text : {"15/03/2026 08:05:09", "quince de marzo 26"}) {
+        const ListItem item = list.ListItems().Add(std::string("K") + text, text);
+        ListItem(item).SmallIcon(1);
+    }
+    list.SmallIcons(&images);
+    show();
+    const auto* const painter = static_cast<const qt::ListCellPainter*>(table().itemDelegate());
+    const auto missing =
+        [&](int row) { // how much narrower than its text a cell may be that still shows it in full
+            QStyleOptionViewItem option;
+            option.widget = &table();
+            option.font = table().font();
+            option.fontMetrics = table().fontMetrics();
+            option.decorationSize = {16, 16};
+            option.rect = table().visualRect(model().index(row, 0));
+            int width = 300;
+            for (; width > 0; --width) {
+                option.rect.setWidth(width);
+                if (painter->isCutOff(option, model().index(row, 0))) break;
+            }
+            return (width + 1) - 28 - table().fontMetrics().horizontalAdvance(shown(row, 0));
+        };
+    EXPECT_LT(missing(0), -5);
+    EXPECT_GT(missing(0), -25);
+    EXPECT_EQ(missing(1), 0) << "a word is cut off, and its tool tip shows it";
 }
 
 TEST_F(ListViewTest, the_tool_tip_shows_a_text_that_is_cut_off_and_the_rows_own)

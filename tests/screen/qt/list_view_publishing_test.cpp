@@ -4,8 +4,10 @@
 // What the table shows of the rows, and when.
 
 #include "screen/qt/colours.h"
+#include "screen/qt/list_cell_painter.h"
 #include "tests/screen/qt/list_view_fixture.h"
 
+#include <QApplication>
 #include <QBrush>
 #include <QFont>
 #include <QHeaderView>
@@ -137,6 +139,31 @@ TEST_F(ListViewTest, cells_give_texts_colours_weights_icons_and_tool_tips)
     EXPECT_EQ(plain.data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
 }
 
+TEST_F(ListViewTest, a_row_without_an_image_begins_where_the_others_do)
+{
+    addRows(0, 3);
+    list.ListItems()("K0").SmallIcon(2);
+    list.ListItems()("K2").SmallIcon(9); // the images have no such number
+    const auto textOf = [&](int row, int column) {
+        QStyleOptionViewItem option;
+        option.widget = &table();
+        option.decorationSize = {16, 16};
+        option.rect = table().visualRect(model().index(row, column));
+        static_cast<const screen::qt::ListCellPainter*>(table().itemDelegate())
+            ->describe(option, model().index(row, column));
+        return table().style()->subElementRect(QStyle::SE_ItemViewItemText, &option, &table()).left();
+    };
+    show();
+    const int bare = textOf(1, 0);
+    EXPECT_LT(bare, 10) << "a list without images keeps no place for one";
+    list.SmallIcons(&images);
+    settle();
+    EXPECT_GE(textOf(0, 0), bare + 16);
+    EXPECT_EQ(textOf(1, 0), textOf(0, 0));
+    EXPECT_EQ(textOf(2, 0), textOf(0, 0));
+    EXPECT_LT(textOf(1, 1) - table().columnViewportPosition(1), 10);
+}
+
 TEST_F(ListViewTest, headers_and_widths_come_from_the_element)
 {
     show();
@@ -199,6 +226,30 @@ TEST_F(ListViewTest, a_list_that_is_built_anew_starts_with_its_selected_row_in_v
     list.ListItems()("K900").Selected(true);
     settle();
     EXPECT_TRUE(table().viewport()->rect().contains(at(900, 0)));
+}
+
+TEST_F(ListViewTest, a_list_that_is_built_anew_keeps_the_selected_row_where_it_stood)
+{
+    addRows(0, 1000);
+    show();
+    table().verticalScrollBar()->setValue(495);
+    click(500);
+    list.ListItems().Clear();
+    QApplication::processEvents(); // the load yields
+    addRows(10, 1000);             // ten rows above it are gone
+    list.ListItems()("K500").Selected(true);
+    settle();
+    EXPECT_EQ(table().verticalScrollBar()->value(), 485);
+    table().verticalScrollBar()->setValue(0); // the operator looks elsewhere
+    list.ListItems().Clear();
+    addRows(0, 1000);
+    list.ListItems()("K500").Selected(true);
+    settle();
+    EXPECT_TRUE(table().viewport()->rect().contains(at(500, 0)));
+    list.ListItems().Clear();
+    addRows(0, 5);
+    settle();
+    EXPECT_EQ(table().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(ListViewTest, removing_a_row_leaves_the_others)

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDialog>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
@@ -78,7 +79,10 @@ void pressButton(QWidget& window, const char* caption)
 {
     for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
         if (plain(*button) != QString::fromUtf8(caption) || !button->isVisible()) continue;
-        QTest::mouseClick(button, Qt::LeftButton);
+        // An option takes the click on its mark or its words alone, which do not fill its width.
+        const QPoint mark(8, button->height() / 2);
+        const bool option = qobject_cast<QRadioButton*>(button) != nullptr;
+        QTest::mouseClick(button, Qt::LeftButton, {}, option ? mark : button->rect().center());
         return;
     }
     ADD_FAILURE() << "no button " << caption;

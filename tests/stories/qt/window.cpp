@@ -24,7 +24,7 @@ AtTheWindow::AtTheWindow()
 void AtTheWindow::opens(std::int32_t agent, bool admin)
 {
     ctrDnContacts& shown = widget.control();
-    shown.hostObjects(&host);
+    shown.hostObjects(screens);
     shown.SetObjects(cnn.get(), agent, admin, "ana");
     shown.InitUICRM("pantallas", lands);
     shown.RefreshData();
@@ -57,6 +57,15 @@ void AtTheWindow::key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 void AtTheWindow::writes(const char* text)
 {
     dn::tests::presses(*QApplication::focusWidget(), QString::fromUtf8(text));
+}
+
+int AtTheWindow::tabsTo(const char* name)
+{
+    int pressed = 0;
+    for (; focus() != name && pressed < 60; ++pressed)
+        key(Qt::Key_Tab);
+    EXPECT_EQ(focus(), name);
+    return pressed;
 }
 
 void AtTheWindow::backTo(QWidget& window)

@@ -43,6 +43,8 @@ protected:
 
     static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     static void writes(const char* text);
+    /// Presses Tab until the widget of that name has the focus. @return how often.
+    static int tabsTo(const char* name);
     /// Gives a window the keyboard back after a box stood over it: without a window manager nobody else does.
     static void backTo(QWidget& window);
     /// The name of the widget with the focus.
@@ -58,6 +60,7 @@ protected:
     /// Saves a picture of a window beside the program.
     static void picture(QWidget& window, const char* name);
 
+    HostFactory* screens = &host; ///< whose screens the control asks for
     screen::qt::CtrDnContactsWidget widget;
     ModalDriver hands;
 };

@@ -39,5 +39,7 @@ CREATE TABLE ut_icontact (
     -- La lista de un agente en un estado, ya en su orden, y las dos colas del día.
     KEY por_ejecutivo (uf_IEjecutivo, uf_Status, uf_proxcontac, uf_Fecha),
     -- La lista de los no asignados (nulo o 0), que sólo puede entrar por el estado.
-    KEY por_status (uf_Status, uf_proxcontac, uf_Fecha, uf_IEjecutivo)
+    KEY por_status (uf_Status, uf_proxcontac, uf_Fecha, uf_IEjecutivo),
+    -- El correo busca al prospecto por su identificador.
+    KEY por_guid (Sys_GUID)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_spanish_ci;

@@ -33,7 +33,9 @@ CREATE TABLE Proyecto (
     PRIMARY KEY (Sys_PK),
     KEY por_ejecutivo (IEjecutivo, UF_Status1, FInicio),
     KEY por_organizacion (IOrganizacion),
-    KEY por_contacto (IContacto)
+    KEY por_contacto (IContacto),
+    -- El correo busca el proyecto por su identificador.
+    KEY por_guid (Sys_GUID)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_spanish_ci;
 
 CREATE TABLE actividad (
