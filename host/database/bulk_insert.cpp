@@ -11,6 +11,8 @@ BulkInsert::BulkInsert(data::Connection& connection, Engine engine, std::string_
       engine_(engine),
       head_("INSERT INTO " + std::string(table) + " (" + std::string(columns) + ") VALUES ")
 {
+    if (engine == Engine::sqlServer && columns.starts_with("Sys_PK,"))
+        withKeys_ = "SET IDENTITY_INSERT " + std::string(table) + " ";
 }
 
 BulkInsert& BulkInsert::row()
@@ -47,6 +49,12 @@ BulkInsert& BulkInsert::moment(const DateTime& value)
     return *this;
 }
 
+BulkInsert& BulkInsert::date(const DateTime& value)
+{
+    appendDate(next(), value);
+    return *this;
+}
+
 BulkInsert& BulkInsert::null()
 {
     next() += "NULL";
@@ -57,7 +65,9 @@ void BulkInsert::finish()
 {
     if (rows_ == 0) return;
     statement_ += ')';
+    if (!withKeys_.empty()) connection_.execute(withKeys_ + "ON");
     connection_.execute(statement_);
+    if (!withKeys_.empty()) connection_.execute(withKeys_ + "OFF");
     statement_.clear();
     rows_ = 0;
 }

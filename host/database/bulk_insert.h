@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Many rows into one table, a thousand to a statement.
+// Many rows into one table, a thousand to a statement. Rows that bring their keys name "Sys_PK" as their first
+// column.
 #pragma once
 
 #include "data/connection.h"
@@ -25,6 +26,7 @@ public:
     BulkInsert& text(std::string_view value);
     BulkInsert& number(std::int64_t value);
     BulkInsert& moment(const DateTime& value);
+    BulkInsert& date(const DateTime& value); ///< without its time
     BulkInsert& null();
 
     BulkInsert& text(const char* value) { return text(std::string_view(value)); }
@@ -47,6 +49,8 @@ private:
     data::Connection& connection_;
     Engine engine_;
     std::string head_;
+    std::string
+        withKeys_; ///< what SQL Server must be told ahead of rows that bring their own keys, and behind them
     std::string statement_;
     int rows_ = 0;
     bool firstValue_ = true;

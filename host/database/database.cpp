@@ -29,7 +29,10 @@ void say(const Progress& progress, const std::string& text)
 /// Between two programs that find a new database at the same time. The server frees it with the connection.
 void lockSetUp(data::Connection& connection, Engine engine)
 {
-    if (engine == Engine::mariadb) connection.execute("SELECT GET_LOCK('dncontacts.esquema', 1800)");
+    connection.execute(engine == Engine::mariadb
+                           ? "SELECT GET_LOCK('dncontacts.esquema', 1800)"
+                           : "EXEC sp_getapplock @Resource = 'dncontacts.esquema', @LockMode = 'Exclusive', "
+                             "@LockOwner = 'Session', @LockTimeout = 1800000");
 }
 
 void requireKnownVersion(int version)

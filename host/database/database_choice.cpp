@@ -9,6 +9,7 @@
 #include "host/database/host_error.h"
 #include "host/database/mariadb_text.h"
 #include "host/database/odbc_text.h"
+#include "host/database/schema.h"
 
 namespace dn::host {
 namespace {
@@ -40,10 +41,21 @@ std::string without(std::string text, const std::string& secret)
     return text;
 }
 
+/// The login's language decides how SQL Server reads "2026-03-14": in Spanish as year, day, month. The control
+/// writes the day last.
+void setDateOrder(data::Connection& connection)
+{
+    if (engineOf(connection) == Engine::sqlServer) connection.execute("SET DATEFORMAT ymd");
+}
+
 std::unique_ptr<data::Connection> open(const DatabaseChoice& choice)
 {
     return std::visit(Overloaded{[](const MariadbTarget& target) { return openMariadb(target); },
-                                 [](const OdbcTarget& target) { return openOdbc(target.text); }},
+                                 [](const OdbcTarget& target) {
+                                     auto connection = openOdbc(target.text);
+                                     setDateOrder(*connection);
+                                     return connection;
+                                 }},
                       choice);
 }
 

@@ -13,7 +13,8 @@
 
 namespace dn::host {
 
-/// The version of the scripts in schema/; the table dn_esquema holds the one that a database was made with.
+/// The version of the scripts in schema/, one folder for each engine; the table dn_esquema holds the one that a
+/// database was made with.
 inline constexpr int schemaVersion = 1;
 
 /// The statements of a script: each ends with a semicolon at the end of a line. Comments of whole lines are left

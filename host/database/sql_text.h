@@ -17,6 +17,9 @@ enum class Engine { mariadb, sqlServer };
 /// must read backslashes as escapes, which is how they start.
 void appendText(std::string& statement, std::string_view text, Engine engine);
 
+/// Appends a day in quotes, for a column of dates.
+void appendDate(std::string& statement, const DateTime& day);
+
 /// Appends a moment in quotes, in the form that every engine reads alike whatever its language.
 void appendMoment(std::string& statement, const DateTime& moment);
 

@@ -26,7 +26,7 @@ public:
     virtual int State() const = 0;
 
     /// Sends the text as it stands, to the byte: nothing is prepared, translated or escaped. One statement a call;
-    /// a text with several is refused by the server.
+    /// a text with several is refused.
     /// @return the rows, or nothing for a statement that gives none. Further results (of a procedure) are drained.
     /// @throws Error what the server said, or that it does not answer within the time-outs.
     /// A recordset may be dropped half-read, and may be left open while further statements run.

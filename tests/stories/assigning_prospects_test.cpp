@@ -15,7 +15,7 @@ using testing::IsEmpty;
 
 class AssigningProspects : public Operator {
 protected:
-    ~AssigningProspects() override { database("DROP TRIGGER IF EXISTS atorado"); }
+    ~AssigningProspects() override { database("ALTER TABLE ut_icontact DROP CONSTRAINT IF EXISTS atorado"); }
 
     /// In the dialog of the agents that comes next.
     void chooses(const std::string& agent)
@@ -28,7 +28,7 @@ protected:
 
     std::vector<std::string> log()
     {
-        return inTheDatabase("SELECT CONCAT(uf_Mensaje, '|', uf_Usuario, '|', uf_Iicontact) FROM xt_biticontact");
+        return inTheDatabase("SELECT uf_Mensaje, uf_Usuario, uf_Iicontact FROM xt_biticontact");
     }
 
     std::vector<std::string> agentsOf(const std::string& name)
@@ -99,11 +99,11 @@ TEST_F(AssigningProspects, a_supervisor_without_a_checked_row_is_told)
 
 TEST_F(AssigningProspects, of_a_thousand_the_one_that_the_server_refuses_stays_and_the_others_go)
 {
-    database("INSERT INTO ut_icontact (uf_Nombre, uf_IEjecutivo) SELECT CONCAT('P', LPAD(seq, 4, '0')), 7 FROM "
-             "seq_1_to_1000");
-    const std::string stuck = inTheDatabase("SELECT Sys_PK FROM ut_icontact WHERE uf_Nombre = 'P0500'").front();
-    database("CREATE TRIGGER atorado BEFORE UPDATE ON ut_icontact FOR EACH ROW IF NEW.Sys_PK = " + stuck +
-             " THEN SIGNAL SQLSTATE '45000' SET MESSAGE_TEXT = 'fila atorada'; END IF");
+    manyRows("INSERT INTO ut_icontact (uf_Nombre, uf_IEjecutivo)", 1000, [](int row) {
+        const std::string digits = std::to_string(row);
+        return "'P" + std::string(4 - digits.size(), '0') + digits + "', 7";
+    });
+    database("ALTER TABLE ut_icontact ADD CONSTRAINT atorado CHECK (uf_Nombre <> 'P0500' OR uf_IEjecutivo = 7)");
     entersAsAdministrator(ana);
     clicksBox("chkProsSelPros");
     chooses("Beto");

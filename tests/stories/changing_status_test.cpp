@@ -5,6 +5,8 @@
 
 #include "tests/stories/operator.h"
 
+#include <cstdlib>
+
 namespace dn::tests {
 namespace {
 
@@ -22,10 +24,11 @@ protected:
 
     std::vector<std::string> statusOf(const std::string& name)
     {
-        return inTheDatabase("SELECT CONCAT(uf_Status, '|', IFNULL(uf_NotaStatus, 'NULL'), '|', "
-                             "IF(ABS(TIMESTAMPDIFF(SECOND, uf_FechaStatus, NOW())) < 60, 'ahora', 'nunca')) FROM "
-                             "ut_icontact WHERE uf_Nombre = '" +
-                             name + "'");
+        const std::string from = " FROM ut_icontact WHERE uf_Nombre = '" + name + "'";
+        const std::string seconds =
+            inTheDatabase("SELECT " + storyServer().secondsSince("uf_FechaStatus") + from).at(0);
+        const bool now = seconds != "NULL" && std::abs(std::stoi(seconds)) < 60;
+        return {inTheDatabase("SELECT uf_Status, uf_NotaStatus" + from).at(0) + (now ? "|ahora" : "|nunca")};
     }
 };
 
@@ -68,7 +71,7 @@ TEST_F(ChangingStatus, an_apostrophe_in_the_reason_is_the_servers_matter_and_is_
     answers("Motivo del cambio de estado:", "d'Arc");
     ports.dialogs.expectAnyBox();
     picks("Combo1", "Descartado");
-    EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::HasSubstr("SQL syntax"));
+    EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
     EXPECT_THAT(statusOf("María"), ElementsAre("0|NULL|nunca"));
     EXPECT_THAT(log(), IsEmpty());
     EXPECT_THAT(seesProspects(), ElementsAre("María"));
@@ -127,7 +130,8 @@ TEST_F(ChangingStatus, an_apostrophe_in_the_reason_of_a_discard_fails_in_silence
 
 TEST_F(ChangingStatus, a_thousand_are_discarded_at_once)
 {
-    database("INSERT INTO ut_icontact (uf_Nombre, uf_IEjecutivo) SELECT CONCAT('P', seq), 7 FROM seq_1_to_1000");
+    manyRows("INSERT INTO ut_icontact (uf_Nombre, uf_IEjecutivo)", 1000,
+             [](int row) { return "'P" + std::to_string(row) + "', 7"; });
     entersAsAdministrator(ana);
     clicksBox("chkProsSelPros");
     answers("Motivo:", "limpieza");

@@ -17,10 +17,9 @@ Day::Day()
 void Day::itIs(const std::string& moment)
 {
     ports.clock.now = parseIso(moment).value();
-    const std::string statement = "SET timestamp = UNIX_TIMESTAMP('" + moment + "')";
-    database(statement);
-    cnn->execute(statement);
-    cnn->statements.pop_back(); // not the control's
+    const std::size_t sent = cnn->statements.size();
+    storyServer().setClock(moment, {beside.get(), cnn.get()});
+    cnn->statements.resize(sent); // not the control's
 }
 
 // The server has no zones of its own; one year of one zone is enough here.
@@ -79,10 +78,17 @@ std::vector<std::string> Day::seesQueue()
 
 std::vector<std::string> Day::log()
 {
-    return inTheDatabase(
-        "SELECT CONCAT(IF(uf_IProy IS NULL, CONCAT('prospecto ', uf_Iicontact), CONCAT('proyecto ', "
-        "uf_IProy)), ' ', uf_Usuario, ' ', uf_Tiempo, ' ', uf_Mensaje) FROM xt_biticontact ORDER BY "
-        "Sys_PK");
+    std::vector<std::string> lines;
+    const auto rows = beside->execute(
+        "SELECT uf_IProy, uf_Iicontact, uf_Usuario, uf_Tiempo, uf_Mensaje FROM xt_biticontact ORDER BY Sys_PK");
+    for (; !rows->Eof(); rows->MoveNext()) {
+        const bool prospect = rows->value(0).isNull();
+        std::string line(prospect ? "prospecto" : "proyecto");
+        for (const std::size_t column : {prospect ? 1U : 0U, 2U, 3U, 4U})
+            line.append(" ").append(rows->value(column).raw());
+        lines.push_back(line);
+    }
+    return lines;
 }
 
 std::size_t Day::queuePosition(const std::string& contact)

@@ -8,6 +8,8 @@
 #include "tests/stories/operator.h"
 #include "tests/support/element_tree.h"
 
+#include <cstdlib>
+
 namespace dn::tests {
 namespace {
 
@@ -72,6 +74,15 @@ protected:
         presses("cmdEditC");
     }
 
+    /// The line ends of a new prospect's comments go out as "\\r\\n", which MariaDB takes for the characters meant
+    /// and SQL Server for the four that stand there.
+    static std::string withLineEnds(std::string text)
+    {
+        for (std::size_t at = 0; onSqlServer() && (at = text.find("\r\n", at)) != std::string::npos;)
+            text.replace(at, 2, R"(\r\n)");
+        return text;
+    }
+
     /// One column of the prospects, in the order of their keys.
     std::vector<std::string> stored(const std::string& column)
     {
@@ -87,7 +98,7 @@ TEST_F(EnteringProspects, every_column_of_a_new_one_is_as_it_was_typed)
         press(form, "cmdOk");
     });
     EXPECT_THAT(seesProspects(), ElementsAre("María Ñúñez"));
-    const std::pair<const char*, const char*> columns[]{
+    const std::pair<std::string, std::string> columns[]{
         {"uf_Nombre", "María Ñúñez"},
         {"uf_EMail", "maria@example.com"},
         {"uf_Telefono", "961 111 1111"},
@@ -97,8 +108,8 @@ TEST_F(EnteringProspects, every_column_of_a_new_one_is_as_it_was_typed)
         {"uf_Estado", "Michoacán de Ocampo"},
         {"uf_Ciudad", "Morelia"},
         {"uf_Interes", "Netoria"},
-        {"uf_Comentarios", "Obtenido: Llamada\r\nReferencia: Un amigo\r\nllamar el lunes "},
-        {"uf_Fecha = CURDATE()", "1"},
+        {"uf_Comentarios", withLineEnds("Obtenido: Llamada\r\nReferencia: Un amigo\r\nllamar el lunes ")},
+        {storyServer().daysSince("uf_Fecha"), "0"},
         {"uf_IEjecutivo", "7"},
         {"uf_Status", "0"},
         {"uf_Tipo", "1"},
@@ -108,10 +119,6 @@ TEST_F(EnteringProspects, every_column_of_a_new_one_is_as_it_was_typed)
         {"Sys_LastUser", "@"},
         {"Sys_Info", "@"},
         {"Sys_Exported", "0"},
-        {"Sys_GUID REGEXP '^[0-9a-f]{32}$'", "1"},
-        {"ABS(TIMESTAMPDIFF(SECOND, Sys_TimeStamp, NOW())) < 60", "1"},
-        {"ABS(TIMESTAMPDIFF(SECOND, Sys_DTCreated, NOW())) < 60", "1"},
-        {"ABS(TIMESTAMPDIFF(SECOND, Sys_DTExported, NOW())) < 60", "1"},
         {"uf_NotaStatus", "NULL"},
         {"uf_FechaStatus", "NULL"},
         {"uf_proxcontac", "NULL"},
@@ -123,6 +130,9 @@ TEST_F(EnteringProspects, every_column_of_a_new_one_is_as_it_was_typed)
         {"uf_correoverif", "NULL"}};
     for (const auto& [column, value] : columns)
         EXPECT_THAT(stored(column), ElementsAre(value)) << column;
+    for (const char* column : {"Sys_TimeStamp", "Sys_DTCreated", "Sys_DTExported"})
+        EXPECT_LT(std::abs(std::stoi(stored(storyServer().secondsSince(column)).at(0))), 60) << column;
+    EXPECT_THAT(stored("Sys_GUID"), ElementsAre(testing::MatchesRegex("[0-9a-fA-F]{32}")));
     EXPECT_EQ(seesCell("María Ñúñez", "Tipo"), "Contacto");
 }
 
@@ -176,7 +186,7 @@ TEST_F(EnteringProspects, an_apostrophe_is_lost_in_the_row_and_breaks_what_is_le
         press(form, "cmdOk");
     });
     EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::StartsWith("Error: "));
-    EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr("SQL syntax"));
+    EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
     EXPECT_THAT(seesProspects(), ElementsAre("Juana dArc"));
     EXPECT_THAT(stored("uf_Interes"), ElementsAre("LOréal"));
     EXPECT_THAT(inTheDatabase("SELECT uf_Interes FROM ut_InteresContacto"), IsEmpty());
@@ -192,7 +202,7 @@ TEST_F(EnteringProspects, notes_of_several_lines_and_of_any_alphabet_arrive_whol
         press(form, "cmdOk");
     });
     EXPECT_THAT(stored("uf_Comentarios"),
-                ElementsAre("Obtenido: Llamada\r\nReferencia: Un amigo\r\nuno\r\ndos 😀\r\nثلاثة "));
+                ElementsAre(withLineEnds("Obtenido: Llamada\r\nReferencia: Un amigo\r\nuno\r\ndos 😀\r\nثلاثة ")));
 }
 
 TEST_F(EnteringProspects, a_name_that_holds_a_marker_breaks_the_insert_and_nothing_is_lost)
@@ -203,7 +213,7 @@ TEST_F(EnteringProspects, a_name_that_holds_a_marker_breaks_the_insert_and_nothi
         types(form, "txtNombre", "soy @uf_EMail");
         ports.dialogs.expectAnyBox();
         press(form, "cmdOk");
-        EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr("SQL syntax"));
+        EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
         EXPECT_TRUE(form.Visible());
         types(form, "txtNombre", "soy @uf_status"); // a number needs no quotes
         press(form, "cmdOk");
@@ -246,7 +256,9 @@ TEST_F(EnteringProspects, without_the_procedures_the_prospect_stands_and_each_fa
         const MissingTable noInterests(*beside, "ut_InteresContacto");
         presses("cmdProsNewPros"); // the list cannot be read: no dialog, no word
     }
-    cnn->refuses = [](std::string_view statement) { return statement.rfind("CALL", 0) == 0; };
+    cnn->refuses = [](std::string_view statement) {
+        return statement.starts_with("CALL") || statement.starts_with("EXEC");
+    };
     entersAProspect([this](screen::Form& form) {
         fillIn(form);
         for (int i = 0; i < 3; ++i)
@@ -275,8 +287,8 @@ TEST_F(EnteringProspects, a_correction_changes_five_columns_and_keeps_the_row_se
         types(form, "txtPuesto", "Compras");
         press(form, "cmdOk");
     });
-    EXPECT_THAT(inTheDatabase("SELECT CONCAT_WS('|', uf_Nombre, uf_EMail, uf_Telefono, uf_Empresa, uf_Puesto, "
-                              "uf_Ciudad) FROM ut_icontact ORDER BY Sys_PK DESC LIMIT 1"),
+    EXPECT_THAT(inTheDatabase("SELECT uf_Nombre, uf_EMail, uf_Telefono, uf_Empresa, uf_Puesto, uf_Ciudad FROM "
+                              "ut_icontact WHERE uf_Ciudad = 'Morelia'"),
                 ElementsAre("María Ñúñez|sin arroba||Acme|Compras|Morelia"));
     EXPECT_THAT(seesProspects(), ElementsAre("Ana A", "María Ñúñez"));
     EXPECT_THAT(sees("txtInfo"), HasSubstr("María Ñúñez"));
@@ -290,7 +302,7 @@ TEST_F(EnteringProspects, an_apostrophe_in_a_correction_is_told_in_the_servers_w
         types(form, "txtNombre", "Juana d'Arc");
         ports.dialogs.expectAnyBox();
         press(form, "cmdOk");
-        EXPECT_THAT(ports.dialogs.boxes().back().prompt, HasSubstr("SQL syntax"));
+        EXPECT_THAT(ports.dialogs.boxes().back().prompt, storyServer().syntaxRefusal());
         EXPECT_THAT(stored("uf_Nombre"), ElementsAre("Juana"));
         EXPECT_EQ(elementNamed<screen::TextBox>(form, "txtNombre").Text(), "Juana d'Arc");
         types(form, "txtNombre", "Juana de Arco");

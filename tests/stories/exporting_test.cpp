@@ -61,6 +61,18 @@ protected:
         return seen;
     }
 
+    /// SQL Server refuses the list of the projects, and no lists come.
+    static void isRefusedTheExport(screen::Form& form)
+    {
+        try {
+            elementNamed<screen::Button>(form, "cmdExportar").press();
+            ADD_FAILURE() << "the list was not refused";
+        } catch (const data::Error& refusal) {
+            EXPECT_THAT(refusal.nativeCode(), testing::AnyOf(102, 174)); // a parenthesis, or an argument too few
+        }
+        EXPECT_TRUE(form.Visible());
+    }
+
     OutputFolder folder;
 };
 
@@ -74,6 +86,7 @@ TEST_F(Exporting, both_lists_come_in_one_and_go_into_files)
     filters([&](screen::Form& form) {
         marks(form, "chkContactos");
         marks(form, "chkProyectos");
+        if (onSqlServer()) return isRefusedTheExport(form);
         const auto lists = exports(form, [&](screen::Form& shown) {
             ports.dialogs.expectSave(screen::SaveChoice{folder.file("correos.html"), 2});
             elementNamed<screen::Button>(shown, "cmdExport").press();
@@ -84,6 +97,10 @@ TEST_F(Exporting, both_lists_come_in_one_and_go_into_files)
                                        "Rosa Ñuño |Café «El Sol»|sol@example.com;rosa@example.com|55;961",
                                        "Gil  |Niebla||", "Total de Registros: 3"));
     });
+    if (onSqlServer()) {
+        EXPECT_THAT(folder.names(), IsEmpty());
+        return;
+    }
     EXPECT_THAT(
         contentsOf(folder.file("correos.html")),
         HasSubstr("<tr><td>José Ñúñez</td><td>&lt;Acme&gt;</td><td>josé@example.com</td><td>961</td></tr>"));
@@ -158,6 +175,7 @@ TEST_F(Exporting, projects_are_chosen_by_goal_colour_and_state)
             offered.push_back(goals.List(i));
         EXPECT_THAT(offered, ElementsAre("Todas las metas", "Renta", "Venta"));
         marks(form, "chkProyectos");
+        if (onSqlServer()) return isRefusedTheExport(form);
         chooses(form, "dxColor", "Negro");
         EXPECT_THAT(exports(form), ElementsAre("Gil  |Niebla||", "Total de Registros: 1"));
         chooses(form, "dxColor", "Todos los Colores");

@@ -48,9 +48,9 @@ TEST_F(MakingProjects, a_prospect_that_became_a_project_leaves_the_list_with_a_n
     EXPECT_THAT(asked(),
                 ElementsAre("CrearPersona María|Internal|Internal|4|55 1||m@x.mx||7", "CrearProyecto 0 501"));
     EXPECT_THAT(seesProspects(), IsEmpty());
-    EXPECT_THAT(inTheDatabase("SELECT CONCAT(uf_Status, uf_NotaStatus) FROM ut_icontact"),
-                ElementsAre("1Actualizado por creación de proyecto"));
-    EXPECT_THAT(inTheDatabase("SELECT CONCAT(uf_Mensaje, '|', uf_Usuario, '|', uf_Iicontact) FROM xt_biticontact"),
+    EXPECT_THAT(inTheDatabase("SELECT uf_Status, uf_NotaStatus FROM ut_icontact"),
+                ElementsAre("1|Actualizado por creación de proyecto"));
+    EXPECT_THAT(inTheDatabase("SELECT uf_Mensaje, uf_Usuario, uf_Iicontact FROM xt_biticontact"),
                 ElementsAre(">> Descartado: |ana|" + std::to_string(key)));
 }
 

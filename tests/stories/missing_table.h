@@ -5,6 +5,7 @@
 #pragma once
 
 #include "data/connection.h"
+#include "tests/stories/story_server.h"
 
 #include <gtest/gtest.h>
 
@@ -20,14 +21,14 @@ public:
     MissingTable(data::Connection& connection, std::string table)
         : connection_(connection), table_(std::move(table))
     {
-        connection_.execute("RENAME TABLE " + table_ + " TO fuera_" + table_);
+        connection_.execute(storyServer().renaming(table_, "fuera_" + table_));
     }
     MissingTable(const MissingTable&) = delete;
     MissingTable& operator=(const MissingTable&) = delete;
     ~MissingTable()
     {
         try {
-            connection_.execute("RENAME TABLE fuera_" + table_ + " TO " + table_);
+            connection_.execute(storyServer().renaming("fuera_" + table_, table_));
         } catch (const std::exception& failure) {
             ADD_FAILURE() << table_ << " did not come back: " << failure.what();
         }

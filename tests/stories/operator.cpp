@@ -4,10 +4,7 @@
 #include "tests/stories/operator.h"
 
 #include "base/text.h"
-#include "data/mariadb/connection.h"
-#include "host/database/schema.h"
 #include "tests/support/element_tree.h"
-#include "tests/support/maria_server.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,29 +14,33 @@ namespace {
 
 constexpr int nameColumn = 3; // the sub-item "Nombre"
 
+/// The table into which a statement puts rows with keys of their own; empty for any other statement.
+std::string tableOfKeys(const std::string& statement)
+{
+    constexpr std::string_view head = "INSERT INTO ";
+    const std::size_t keys = statement.find(" (Sys_PK");
+    if (!statement.starts_with(head) || keys == std::string::npos) return {};
+    const std::string table = statement.substr(head.size(), keys - head.size());
+    return table.find(' ') == std::string::npos ? table : std::string();
+}
+
 } // namespace
 
-std::unique_ptr<data::Connection> Operator::connect()
-{
-    data::mariadb::Options options;
-    options.socket = sharedServer().socket();
-    options.user = MariaServer::user;
-    options.password = MariaServer::password;
-    options.database = MariaServer::database;
-    return std::make_unique<data::mariadb::Connection>(options);
-}
+std::unique_ptr<data::Connection> Operator::connect() { return storyServer().connect("prueba"); }
 
 void Operator::SetUpTestSuite()
 {
     static const bool made = [] {
-        host::createSchema(*connect(), host::Engine::mariadb);
+        storyServer().createSchema();
         return true;
     }();
     ASSERT_TRUE(made);
 }
 
-Operator::Operator() : beside(connect()), cnn(std::make_unique<RecordingConnection>(connect()))
+Operator::Operator()
+    : beside(connect()), cnn(std::make_unique<RecordingConnection>(storyServer().connect("control")))
 {
+    storyServer().setClock("", {});
     for (const char* table :
          {"ut_icontact", "xt_biticontact", "Agente", "Persona", "Organizacion", "Proyecto", "actividad"})
         database(std::string("DELETE FROM ") + table);
@@ -56,10 +57,32 @@ std::int64_t Operator::prospect(const std::string& name, std::map<std::string, s
         values += ", " + value;
     }
     database("INSERT INTO ut_icontact (" + names + ") VALUES (" + values + ")");
-    return beside->execute("SELECT LAST_INSERT_ID()")->value(0).toWhole();
+    return lastKey();
 }
 
-void Operator::database(const std::string& statement) { beside->execute(statement); }
+void Operator::database(const std::string& statement)
+{
+    const std::string table = tableOfKeys(statement);
+    const auto runUnlessEmpty = [this](const std::string& around) {
+        if (!around.empty()) beside->execute(around);
+    };
+    if (!table.empty()) runUnlessEmpty(storyServer().keysOn(table));
+    beside->execute(statement);
+    if (!table.empty()) runUnlessEmpty(storyServer().keysOff(table));
+}
+
+void Operator::manyRows(const std::string& head, int count, const std::function<std::string(int)>& values)
+{
+    constexpr int together = 1000; // no server takes many more
+    for (int first = 1; first <= count; first += together) {
+        std::string rows;
+        for (int row = first; row < first + together && row <= count; ++row)
+            rows += (row == first ? " VALUES (" : ", (") + values(row) + ")";
+        database(head + rows);
+    }
+}
+
+std::int64_t Operator::lastKey() { return std::stoll(beside->execute("SELECT @@IDENTITY")->value(0).toText()); }
 
 void Operator::enters(std::int32_t agent) { start(agent, false); }
 
@@ -139,8 +162,11 @@ std::vector<std::string> Operator::inTheDatabase(const std::string& statement)
 {
     std::vector<std::string> values;
     const auto rows = beside->execute(statement);
-    for (; rows && !rows->Eof(); rows->MoveNext())
-        values.push_back(rows->value(0).isNull() ? "NULL" : std::string(rows->value(0).raw()));
+    for (; rows && !rows->Eof(); rows->MoveNext()) {
+        std::string& row = values.emplace_back();
+        for (std::size_t i = 0; i < rows->names().size(); ++i)
+            row.append(i == 0 ? "" : "|").append(rows->value(i).isNull() ? "NULL" : rows->value(i).raw());
+    }
     return values;
 }
 

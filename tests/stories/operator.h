@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // The operator before the workbench: what he does, what he is asked, what he sees, and what then stands in the
-// database. The control is the real one, below the widgets, on a real MariaDB; the questions are scripted.
+// database. The control is the real one, below the widgets, on a real MariaDB and on the stand-in for SQL Server;
+// the questions are scripted.
 //
 //     enters(ana);
 //     clicksRow("María Ñúñez");
@@ -12,6 +13,7 @@
 #pragma once
 
 #include "shell/ctr_dn_contacts.h"
+#include "tests/stories/story_server.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/fake_ports.h"
 #include "tests/support/recording_connection.h"
@@ -20,6 +22,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -41,8 +44,13 @@ protected:
 
     /// A prospect; its key. Columns not named keep the table's defaults; values are SQL literals.
     std::int64_t prospect(const std::string& name, std::map<std::string, std::string> columns = {});
-    /// Runs a statement beside the control.
+    /// Runs a statement beside the control. Rows that bring their keys name "Sys_PK" as their first column.
     void database(const std::string& statement);
+    /// Runs "INSERT INTO t (columns)" for so many rows, with the values of each from 1 on.
+    void manyRows(const std::string& head, int count, const std::function<std::string(int)>& values);
+    /// The key that the last row of `database` got.
+    std::int64_t lastKey();
+    static bool onSqlServer() { return storyServer().isSqlServer(); }
 
     // ---- What the operator does
 
@@ -74,7 +82,7 @@ protected:
     /// A cell of the prospect of that name, by its header.
     std::string seesCell(const std::string& name, const std::string& header);
     bool canUse(const std::string& element);
-    /// The first column of what a statement gives; a null is "NULL".
+    /// The rows that a statement gives, their columns joined by bars; a null is "NULL".
     std::vector<std::string> inTheDatabase(const std::string& statement);
 
     /// The statements sent since the last call that change something.

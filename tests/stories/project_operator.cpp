@@ -32,7 +32,7 @@ std::int64_t ProjectOperator::project(const std::string& description, Columns co
     for (const char* column : {"IMeta", "IOrganizacion", "IContacto", "UF_Status1"})
         columns.emplace(column, "1");
     insert("Proyecto", columns);
-    return beside->execute("SELECT LAST_INSERT_ID()")->value(0).toWhole();
+    return lastKey();
 }
 
 void ProjectOperator::activity(std::int64_t project, const std::string& subject, Columns columns)

@@ -3,23 +3,41 @@
 
 #include "tests/stories/queued_projects.h"
 
+#include "tests/stories/story_server.h"
+
 namespace dn::tests {
+namespace {
+
+std::int64_t lastKey(data::Connection& database)
+{
+    return std::stoll(database.execute("SELECT @@IDENTITY")->value(0).toText());
+}
+
+void fillCatalogue(data::Connection& database, const std::string& table, const std::string& insert)
+{
+    if (!database.execute("SELECT Sys_PK FROM " + table + " WHERE Sys_PK = 1")->Eof()) return;
+    for (const std::string& statement : {storyServer().keysOn(table), insert, storyServer().keysOff(table)})
+        if (!statement.empty()) database.execute(statement);
+}
+
+} // namespace
 
 void fillCatalogues(data::Connection& database)
 {
-    database.execute("INSERT IGNORE INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
-    database.execute("INSERT IGNORE INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
+    fillCatalogue(database, "Meta", "INSERT INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta')");
+    fillCatalogue(database, "mdtpactividad", "INSERT INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Llamada')");
 }
 
 std::int64_t openProject(data::Connection& database, const std::string& name, std::int32_t agent)
 {
     database.execute("INSERT INTO Organizacion (Nombre, Tel1) VALUES ('Org. " + name + "', '961 111')");
-    database.execute("INSERT INTO Persona (Nombre, IOrganizacion) VALUES ('" + name + "', LAST_INSERT_ID())");
+    const std::string organisation = std::to_string(lastKey(database));
+    database.execute("INSERT INTO Persona (Nombre, IOrganizacion) VALUES ('" + name + "', " + organisation + ")");
     database.execute("INSERT INTO Proyecto (Descripcion, IEjecutivo, IMeta, IOrganizacion, IContacto, UF_Status1) "
-                     "SELECT 'Proyecto de " +
-                     name + "', " + std::to_string(agent) +
-                     ", 1, IOrganizacion, Sys_PK, 1 FROM Persona WHERE Sys_PK = LAST_INSERT_ID()");
-    return database.execute("SELECT LAST_INSERT_ID()")->value(0).toWhole();
+                     "VALUES ('Proyecto de " +
+                     name + "', " + std::to_string(agent) + ", 1, " + organisation + ", " +
+                     std::to_string(lastKey(database)) + ", 1)");
+    return lastKey(database);
 }
 
 void pendingActivity(data::Connection& database, std::int64_t project, const std::string& due)

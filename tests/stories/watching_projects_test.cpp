@@ -50,9 +50,9 @@ TEST_F(WatchingProjects, each_stands_once_by_its_next_activity_and_those_without
 TEST_F(WatchingProjects, the_days_are_counted_by_the_database)
 {
     due("Antiguo", 1,
-        {{"Sys_DTCreated", "NOW() - INTERVAL 45 DAY"},
-         {"uf_ultimocontac", "NOW() - INTERVAL 3 DAY"},
-         {"uf_ultimointento", "NOW() + INTERVAL 2 DAY"}});
+        {{"Sys_DTCreated", storyServer().fromNow(-45)},
+         {"uf_ultimocontac", storyServer().fromNow(-3)},
+         {"uf_ultimointento", storyServer().fromNow(2)}});
     due("De hoy", 2);
     enters(ana);
     opensProjects();

@@ -97,16 +97,19 @@ std::vector<std::string> WorkingDay::changesToBeSent() const
 
 std::vector<std::string> WorkingDay::readsToBeSent() const
 {
-    std::vector<std::string> all{prospects::prospectStatement(true, ana, 0),
-                                 projects::pendingActivitiesStatement(true, ana, 0),
+    const bool mySql = !onSqlServer();
+    const std::string orElse = mySql ? "IFNULL" : "ISNULL";
+    std::vector<std::string> all{prospects::prospectStatement(mySql, ana, 0),
+                                 projects::pendingActivitiesStatement(mySql, ana, 0),
                                  projects::projectsStatement(ana, 0)};
     const auto reads = [&all](std::string statement) { all.push_back(std::move(statement)); };
 
     reads("select * from qhoy where ejecutivo=7 order by cita, tipo, sys_pk");
     reads("select * from qatascados where ejecutivo=7 order by cita, tipo, sys_pk");
-    reads(of(nora, "SELECT IFNULL(uf_Nombre, 'Nombre') AS uf_Nombre, IFNULL(uf_telefono, 'Teléfono') AS "
-                   "uf_telefono, IFNULL(uf_EMail, 'EMail') AS uf_EMail, IFNULL(uf_ciudad, 'Tuxtla') AS uf_ciudad, "
-                   "IFNULL(UF_IEjecutivo, 1) AS UF_IEjecutivo FROM UT_IContact WHERE Sys_PK = #;"));
+    reads(of(nora, "SELECT " + orElse + "(uf_Nombre, 'Nombre') AS uf_Nombre, " + orElse +
+                       "(uf_telefono, 'Teléfono') AS uf_telefono, " + orElse +
+                       "(uf_EMail, 'EMail') AS uf_EMail, " + orElse + "(uf_ciudad, 'Tuxtla') AS uf_ciudad, " +
+                       orElse + "(UF_IEjecutivo, 1) AS UF_IEjecutivo FROM UT_IContact WHERE Sys_PK = #;"));
     reads("SELECT Sys_PK FROM Ciudad WHERE Nombre LIKE '%Tuxtla%';");
     reads(of(luz, "Select Sys_PK, uf_Nombre, uf_EMail, uf_Telefono, uf_Empresa, uf_Puesto FROM ut_icontact Where "
                   "Sys_PK=#"));

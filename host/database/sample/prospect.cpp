@@ -157,7 +157,7 @@ void writeProspect(World& world, BulkInsert& rows, const Prospect& prospect)
     rows.text(perhaps(dice, 70, dice.pick(jobTitles())));
     writeWhere(dice, rows);
     writeWishes(dice, rows, prospect);
-    rows.moment(prospect.created.date()).number(prospect.agent).number(prospect.status);
+    rows.date(prospect.created).number(prospect.agent).number(prospect.status);
     rows.text(prospect.statusTime ? std::optional(prospect.reason) : std::nullopt).moment(prospect.statusTime);
     rows.number(prospect.kind).number(dice.chance(55) ? std::nullopt : std::optional(dice.between(0, 4)));
     rows.text(inventRedirect(dice, prospect)).moment(prospect.nextContact).moment(prospect.lastContact);

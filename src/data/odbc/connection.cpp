@@ -4,6 +4,7 @@
 #include "data/odbc/connection.h"
 
 #include "data/driver_support.h"
+#include "data/odbc/one_statement.h"
 #include "data/odbc/result_rows.h"
 #include "data/odbc/session.h"
 
@@ -23,6 +24,7 @@ std::unique_ptr<Recordset> Connection::execute(std::string_view statement)
     requireText(statement);
     wire_.clear();
     if (session_->lost()) throw connectionClosed();
+    if (session_->runsStacked()) requireOneStatement(statement);
     Statement running(*session_);
     running.execute(statement);
     if (running.columnCount() == 0) {

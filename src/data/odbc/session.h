@@ -43,6 +43,9 @@ public:
     /// A result without columns is the last one of its statement, and the driver must not be asked for more:
     /// MariaDB's crashes then behind the definition of a procedure with a semicolon in it.
     bool endsWithoutColumns() const { return mariaDriver_; }
+    /// A second statement in a text would run. MariaDB's driver refuses one, other servers are taken for SQL
+    /// Server.
+    bool runsStacked() const { return !mariaDriver_; }
     /// What SQLGetData may be asked for (SQL_GD_ANY_COLUMN, SQL_GD_BOUND).
     SQLUINTEGER getDataExtensions() const { return getDataExtensions_; }
 

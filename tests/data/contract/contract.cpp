@@ -5,6 +5,45 @@
 
 namespace dn::tests::contract {
 
+Dialect mariaDb()
+{
+    return {.sequence = [](long long last) { return "seq_1_to_" + std::to_string(last); },
+            .temporaryTable = "CREATE TEMPORARY TABLE ",
+            .temporaryPrefix = "",
+            .procedure = "CREATE OR REPLACE PROCEDURE ",
+            .procedureBegin = "() BEGIN ",
+            .procedureEnd = " END",
+            .call = "CALL ",
+            .openName = "`",
+            .closeName = "`",
+            .missingTable = {"42S02", 1146, "Table 'pruebas.nohaytal' doesn't exist"},
+            .syntax = {"42000", 1064, "You have an error in your SQL syntax"},
+            .duplicateKey = {"23000", 1062, "Duplicate entry '1' for key 'PRIMARY'"},
+            .stacked = {"42000", 1064, "You have an error in your SQL syntax"},
+            .severalRows = {"21000", 1242, "Subquery returns more than 1 row"}};
+}
+
+Dialect sqlServer()
+{
+    return {.sequence =
+                [](long long last) {
+                    return "(SELECT value AS seq FROM GENERATE_SERIES(1, " + std::to_string(last) + ")) AS s";
+                },
+            .temporaryTable = "CREATE TABLE ",
+            .temporaryPrefix = "#",
+            .procedure = "CREATE OR ALTER PROCEDURE ",
+            .procedureBegin = " AS ",
+            .procedureEnd = "",
+            .call = "EXEC ",
+            .openName = "[",
+            .closeName = "]",
+            .missingTable = {"42S02", 208, "Invalid object name 'NoHayTal'."},
+            .syntax = {"42000", 156, "Incorrect syntax near the keyword 'WHERE'."},
+            .duplicateKey = {"23000", 2627, "Violation of UNIQUE KEY constraint"},
+            .stacked = {"42000", 0, "El texto contiene más de una instrucción SQL"},
+            .severalRows = {"21000", 512, "Subquery returned more than 1 value"}};
+}
+
 Table readAll(data::Recordset& recordset)
 {
     Table table;

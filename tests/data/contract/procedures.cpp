@@ -9,39 +9,44 @@ namespace {
 
 class ContractProcedures : public Contract {
 protected:
-    void create(const std::string& head, const std::string& body)
+    void create(const std::string& name, const std::string& body)
     {
-        run("CREATE OR REPLACE PROCEDURE " + head + " BEGIN " + body + " END");
+        run(speaks.procedure + name + speaks.procedureBegin + body + speaks.procedureEnd);
     }
+    /// So many rows, as a statement of a procedure.
+    std::string rowsUpTo(long long last) { return sequenceUpTo(last) + "; "; }
 };
 
 TEST_F(ContractProcedures, ACallWithoutRowsGivesNothing)
 {
-    run("CREATE TEMPORARY TABLE origenes (texto VARCHAR(50))");
-    create("AddOrigen(valor VARCHAR(50))", "INSERT INTO origenes VALUES (valor);");
-    EXPECT_FALSE(cnn().execute("CALL AddOrigen('Feria ñ');"));
-    EXPECT_FALSE(cnn().execute("CALL AddOrigen('Radio');"));
-    expectRows("SELECT texto FROM origenes ORDER BY texto", Rows{{"texto"}, {{text("Feria ñ")}, {text("Radio")}}});
+    createTemporary("origenes", "texto VARCHAR(50)");
+    create("AddFeria", "INSERT INTO " + temporary("origenes") + " VALUES ('Feria ñ');");
+    for (int i = 0; i < 2; ++i)
+        EXPECT_FALSE(cnn().execute(speaks.call + "AddFeria;"));
+    expectRows("SELECT texto FROM " + temporary("origenes"),
+               Rows{{"texto"}, {{text("Feria ñ")}, {text("Feria ñ")}}});
 }
 
 TEST_F(ContractProcedures, ADefinitionMayHoldSemicolons)
 {
-    EXPECT_FALSE(cnn().execute("CREATE OR REPLACE PROCEDURE Dos() BEGIN SET @a = 1; SET @b = 'x;y'; END"));
-    EXPECT_FALSE(cnn().execute("CALL Dos()"));
-    expectRows("SELECT @b AS b", single("b", text("x;y")));
+    createTemporary("dos", "texto VARCHAR(50)");
+    const std::string insert = "INSERT INTO " + temporary("dos") + " VALUES ('x;y'); ";
+    create("Dos", insert + insert);
+    EXPECT_FALSE(cnn().execute(speaks.call + "Dos"));
+    expectRows("SELECT texto FROM " + temporary("dos"), Rows{{"texto"}, {{text("x;y")}, {text("x;y")}}});
 }
 
 TEST_F(ContractProcedures, ACallGivesItsFirstResultAndDrainsTheRest)
 {
-    create("Varias()", "SELECT 'a' AS x; SELECT seq FROM seq_1_to_1000; SELECT 'c' AS z;");
-    expectRows("CALL Varias()", single("x", text("a")));
+    create("Varias", "SELECT 'a' AS x; " + rowsUpTo(1000) + "SELECT 'c' AS z;");
+    expectRows(speaks.call + "Varias", single("x", text("a")));
     expectUsable();
 }
 
 TEST_F(ContractProcedures, TheResultOfACallMayBeLongAndStayOpen)
 {
-    create("Larga()", "SELECT seq FROM seq_1_to_3000; SELECT 'otra' AS x;");
-    const auto recordset = ask("CALL Larga()", sequence(3000));
+    create("Larga", rowsUpTo(3000) + "SELECT 'otra' AS x;");
+    const auto recordset = ask(speaks.call + "Larga", sequence(3000));
     ASSERT_TRUE(recordset);
     recordset->MoveNext();
     expectUsable();
@@ -52,16 +57,16 @@ TEST_F(ContractProcedures, TheResultOfACallMayBeLongAndStayOpen)
 
 TEST_F(ContractProcedures, AHalfReadCallMayBeDropped)
 {
-    create("Larga()", "SELECT seq FROM seq_1_to_3000; SELECT 'otra' AS x;");
-    ask("CALL Larga()", sequence(3000));
+    create("Larga", rowsUpTo(3000) + "SELECT 'otra' AS x;");
+    ask(speaks.call + "Larga", sequence(3000));
     expectUsable();
 }
 
 TEST_F(ContractProcedures, AFailureBehindTheFirstResultIsThrown)
 {
-    create("Falla()", "SELECT 'a' AS x; SELECT * FROM NoHayTal;");
-    const data::Error error = askInVain("CALL Falla()", {"42S02", 1146, "Table 'pruebas.nohaytal' doesn't exist"});
-    EXPECT_EQ(error.nativeCode(), 1146);
+    create("Falla", "SELECT 'a' AS x; SELECT * FROM NoHayTal;");
+    const data::Error error = askInVain(speaks.call + "Falla", speaks.missingTable);
+    EXPECT_EQ(error.nativeCode(), speaks.missingTable.nativeCode());
     EXPECT_EQ(error.sqlState(), "42S02");
     expectUsable();
 }

@@ -9,7 +9,7 @@ namespace {
 
 TEST_F(Contract, NoRowIsBeginAndEndAtOnce)
 {
-    const auto recordset = ask("SELECT 1 AS a FROM (SELECT 1) AS t WHERE 1 = 0", Rows{{"a"}, {}});
+    const auto recordset = ask("SELECT 1 AS a FROM (SELECT 1 AS uno) AS t WHERE 1 = 0", Rows{{"a"}, {}});
     ASSERT_TRUE(recordset);
     EXPECT_TRUE(recordset->Eof());
     EXPECT_TRUE(recordset->Bof());
@@ -34,7 +34,7 @@ class ContractRowCounts : public Contract, public ::testing::WithParamInterface<
 
 TEST_P(ContractRowCounts, EveryRowComesOnceInOrder)
 {
-    expectRows("SELECT seq FROM seq_1_to_" + std::to_string(GetParam()), sequence(GetParam()));
+    expectRows(sequenceUpTo(GetParam()), sequence(GetParam()));
     expectUsable();
 }
 
@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(Counts, ContractRowCounts, ::testing::Values(1, 2, 255,
 
 TEST_F(Contract, NothingIsReadBehindTheLastRow)
 {
-    const auto recordset = ask("SELECT seq FROM seq_1_to_2", sequence(2));
+    const auto recordset = ask(sequenceUpTo(2), sequence(2));
     ASSERT_TRUE(recordset);
     recordset->MoveNext();
     recordset->MoveNext();
@@ -59,7 +59,8 @@ TEST_F(Contract, FieldsAreFoundWithoutRegardToCase)
     Rows rows;
     rows.names = {"Sys_PK", "Año"};
     rows.rows = {{whole(7), text("dos mil")}};
-    const auto recordset = ask("SELECT 7 AS Sys_PK, 'dos mil' AS `Año`", rows);
+    const auto recordset =
+        ask("SELECT 7 AS Sys_PK, 'dos mil' AS " + speaks.openName + "Año" + speaks.closeName, rows);
     ASSERT_TRUE(recordset);
     EXPECT_EQ(recordset->Fields()("sys_pk").Value().toInt32(), 7);
     EXPECT_EQ(recordset->Fields()("SYS_PK").Name(), "Sys_PK");
@@ -90,15 +91,16 @@ TEST_F(Contract, AColumnThatIsNotThereIsAnError)
 
 TEST_F(Contract, StatementsWithoutRowsGiveNothing)
 {
-    EXPECT_FALSE(cnn().execute("CREATE TEMPORARY TABLE cosas (id INT PRIMARY KEY, nombre VARCHAR(20))"));
-    EXPECT_FALSE(cnn().execute("INSERT INTO cosas VALUES (1, 'uno'), (2, 'dos')"));
-    EXPECT_FALSE(cnn().execute("UPDATE cosas SET nombre = 'x' WHERE id = 2"));
-    EXPECT_FALSE(cnn().execute("UPDATE cosas SET nombre = 'x' WHERE id = 99")); // no row is no failure
-    EXPECT_FALSE(cnn().execute("DELETE FROM cosas WHERE id = 99"));
+    const std::string table = temporary("cosas");
+    EXPECT_FALSE(cnn().execute(speaks.temporaryTable + table + " (id INT PRIMARY KEY, nombre VARCHAR(20))"));
+    EXPECT_FALSE(cnn().execute("INSERT INTO " + table + " VALUES (1, 'uno'), (2, 'dos')"));
+    EXPECT_FALSE(cnn().execute("UPDATE " + table + " SET nombre = 'x' WHERE id = 2"));
+    EXPECT_FALSE(cnn().execute("UPDATE " + table + " SET nombre = 'x' WHERE id = 99")); // no row is no failure
+    EXPECT_FALSE(cnn().execute("DELETE FROM " + table + " WHERE id = 99"));
     Rows rows;
     rows.names = {"id", "nombre"};
     rows.rows = {{whole(1), text("uno")}, {whole(2), text("x")}};
-    expectRows("SELECT id, nombre FROM cosas ORDER BY id", rows);
+    expectRows("SELECT id, nombre FROM " + table + " ORDER BY id", rows);
 }
 
 } // namespace

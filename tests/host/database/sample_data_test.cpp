@@ -201,7 +201,16 @@ TEST(SqlText, each_engine_reads_back_what_was_written)
     appendText(text, "a'b\\", Engine::sqlServer);
     appendMoment(
         text, DateTime{.year = 2025, .month = 3, .day = 4, .hour = 5, .minute = 6, .second = 7, .microsecond = 0});
-    EXPECT_EQ(text, "'a''b\\\\'N'a''b\\''2025-03-04T05:06:07'");
+    appendDate(
+        text, DateTime{.year = 2025, .month = 3, .day = 4, .hour = 5, .minute = 6, .second = 7, .microsecond = 0});
+    EXPECT_EQ(text, "'a''b\\\\'N'a''b\\''2025-03-04T05:06:07''2025-03-04'");
+}
+
+TEST(SqlText, a_backslash_that_ends_a_line_is_kept_from_joining_it_to_the_next_on_sql_server)
+{
+    std::string text;
+    appendText(text, "a\\\r\nb\\\nc\\", Engine::sqlServer);
+    EXPECT_EQ(text, "N'a\\' + N'\r\nb\\' + N'\nc\\'");
 }
 
 TEST(People, names_become_plain_mail_names)

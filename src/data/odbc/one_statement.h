@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// SQL Server runs whatever stands in a text, one statement after the other, with semicolons or without. MySQL and
+// MariaDB refuse a second one by themselves; here it is done ahead of the server.
+#pragma once
+
+#include <string_view>
+
+namespace dn::data::odbc {
+
+/// Whether a text in Transact-SQL holds a statement behind its first one. A definition (CREATE, ALTER) may hold
+/// what it likes.
+bool isStacked(std::string_view text);
+
+/// @throws Error for a text with more than one statement; nothing of it was sent then.
+void requireOneStatement(std::string_view text);
+
+} // namespace dn::data::odbc

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "data/odbc/one_statement.h"
+
+#include <gtest/gtest.h>
+
+namespace dn::data::odbc {
+namespace {
+
+TEST(OneStatement, StaysOneWithASemicolonAtItsEnd)
+{
+    for (const char* text : {"SELECT 1", "SELECT 1;", "SELECT 1 ; ;\r\n -- ; SELECT 2\n /* ; /* UPDATE */ x */",
+                             "", ";", "EXEC AddOrigenContacto 'uno; DELETE dos';"})
+        EXPECT_FALSE(isStacked(text)) << text;
+}
+
+TEST(OneStatement, KeepsWhatBelongsToItInside)
+{
+    for (const char* text :
+         {"UPDATE t SET a = 'x; UPDATE t SET a = 1', [update; set] = \"; delete\", b = t.[drop] WHERE k = 1",
+          "INSERT INTO t (a) SELECT 'x' WHERE NOT EXISTS (SELECT 1 FROM t)",
+          "INSERT INTO t (a) VALUES ((SELECT 1))",
+          "SELECT a FROM t UNION ALL SELECT b FROM u EXCEPT (SELECT c FROM v)",
+          "select (select 1), 'it''s; select'",
+          "SELECT updated, [exec], setting, a.[select] FROM deletes ORDER BY a OFFSET 0 ROWS FETCH NEXT 5 ROWS "
+          "ONLY",
+          "CREATE PROCEDURE p @a INT AS SET NOCOUNT ON; INSERT INTO t VALUES (@a); SELECT 1", "SET DATEFORMAT ymd",
+          "BEGIN TRANSACTION"})
+        EXPECT_FALSE(isStacked(text)) << text;
+}
+
+TEST(OneStatement, IsNoLongerOneBehindASemicolon)
+{
+    for (const char* text :
+         {"SELECT 1; SELECT 2", "SELECT 'a''b'; DROP TABLE t", "COMMIT; BEGIN TRANSACTION",
+          "UPDATE t SET a = 'x'; UPDATE t SET b = 1; -- '", "; ; SELECT 1; EXEC p", "SELECT 1 /* ; */ ; x"})
+        EXPECT_TRUE(isStacked(text)) << text;
+}
+
+// Transact-SQL needs no semicolon.
+TEST(OneStatement, IsNoLongerOneWithAnotherThatFollowsBare)
+{
+    for (const char* text : {"UPDATE t SET a='x' UPDATE t SET b = 1 --'", "UPDATE t SET a = 1 SET NOCOUNT ON",
+                             "SELECT 1 SELECT 2", "SELECT 1 DROP TABLE t", "INSERT INTO t VALUES (1) SELECT 2",
+                             "INSERT INTO t SELECT 1 SELECT 2", "EXEC p 'x' exec q",
+                             "DELETE FROM t WHERE a = 'x' waitfor delay '1:00'", "SELECT (1) IF 1 = 1 PRINT 'x'"})
+        EXPECT_TRUE(isStacked(text)) << text;
+}
+
+TEST(OneStatement, HidesNothingBehindAStrangeBlankOrTheEndOfAComment)
+{
+    for (const char* text : {"UPDATE t SET a='x'\u00A0UPDATE t SET b = 1", "SELECT 1\u3000DROP TABLE t",
+                             "SELECT 1 -- a\rDROP TABLE t", "SELECT 1 -- a\r'\nDROP TABLE t --'",
+                             "SELECT 1 /* /* */ DROP TABLE t */ DROP TABLE t"})
+        EXPECT_TRUE(isStacked(text)) << text;
+    EXPECT_FALSE(isStacked("SELECT 'ñ' AS año, número -- ñ\r\n FROM añejo"));
+}
+
+} // namespace
+} // namespace dn::data::odbc
