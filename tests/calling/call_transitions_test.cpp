@@ -5,6 +5,7 @@
 // same, with everything that is written on the way.
 
 #include "tests/calling/call_fixture.h"
+#include "tests/support/log_rows.h"
 
 namespace dn::tests {
 namespace {
@@ -25,12 +26,7 @@ struct Ending {
     Steps afterwards;  ///< behind it
 };
 
-std::string prospectNote(const std::string& message)
-{
-    return "INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, uf_Iicontact) VALUES "
-           "(CURRENT_TIMESTAMP, '" +
-           message + "','ana',12)";
-}
+std::string noteOfTheCall(const std::string& message) { return prospectNote(message, "12"); }
 
 Ending nobodyReached(const char* name, std::int16_t motivo, screen::Button desk::CallElements::*button,
                      const std::string& result)
@@ -42,7 +38,7 @@ Ending nobodyReached(const char* name, std::int16_t motivo, screen::Button desk:
             nullptr,
             {"UPDATE ut_icontact SET uf_ultimointento=CURRENT_TIMESTAMP, uf_res_ultimointento=" +
                  std::to_string(motivo) + " Where Sys_PK=12",
-             prospectNote("No se pudo establecer llamada al: 5512345678 " + result)},
+             noteOfTheCall("No se pudo establecer llamada al: 5512345678 " + result)},
             {}};
 }
 
@@ -53,8 +49,8 @@ Ending noContact(const char* name, std::int16_t index, const std::string& reason
             [index](desk::CallElements& call) { call.cmdCallCon(index).press(); },
             [index](ctrDnContacts& control) { control.Call_Connect(index); },
             asked,
-            {prospectNote("Se estableció llamada al: 5512345678 pero no se pudo contactar al prospecto. <" +
-                          reason + ">")},
+            {noteOfTheCall("Se estableció llamada al: 5512345678 pero no se pudo contactar al prospecto. <" +
+                           reason + ">")},
             {"UPDATE ut_icontact SET uf_ultimointento= CURRENT_TIMESTAMP, uf_res_ultimointento =  " +
              std::to_string(index + 11) + " Where Sys_PK = 12"}};
 }
@@ -86,7 +82,7 @@ const std::vector<Ending>& endings()
          },
          [](ctrDnContacts& control) { control.Call_Resumen("Pide precios\r\ny plazos"); },
          nullptr,
-         {prospectNote("Se estableció llamada al 5512345678 Con éxito. Resumen: Pide preciosy plazos"),
+         {noteOfTheCall("Se estableció llamada al 5512345678 Con éxito. Resumen: Pide preciosy plazos"),
           "UPDATE ut_icontact SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where Sys_PK=12 and "
           "isnull(uf_contactado)",
           "UPDATE ut_icontact SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, "
@@ -297,7 +293,7 @@ TEST_F(CallTransitions, a_reason_unheard_of_is_logged_without_a_result_and_store
     rings();
     closesTheQuestion();
     control.Call_NoConnect(9);
-    EXPECT_THAT(steps, ElementsAre(noteOf("No se pudo establecer llamada al: 5512345678"), question, load,
+    EXPECT_THAT(steps, ElementsAre(noteOfTheCall("No se pudo establecer llamada al: 5512345678"), question, load,
                                    timeline)); // the note's text is trimmed as all notes are
     EXPECT_EQ(state(), CallState::idle);
 }
@@ -307,12 +303,13 @@ TEST_F(CallTransitions, an_answer_below_all_others_has_no_reason_and_a_code_of_i
     rings();
     closesTheQuestion();
     control.Call_Connect(-12);
-    EXPECT_THAT(steps, ElementsAre(noteOf("Se estableció llamada al: 5512345678 pero no se pudo contactar al "
+    EXPECT_THAT(steps,
+                ElementsAre(noteOfTheCall("Se estableció llamada al: 5512345678 pero no se pudo contactar al "
                                           "prospecto. <>"),
-                                   question, load, timeline,
-                                   "UPDATE ut_icontact SET uf_ultimointento= CURRENT_TIMESTAMP, "
-                                   "uf_res_ultimointento = -1 Where Sys_PK = 12",
-                                   load, timeline));
+                            question, load, timeline,
+                            "UPDATE ut_icontact SET uf_ultimointento= CURRENT_TIMESTAMP, "
+                            "uf_res_ultimointento = -1 Where Sys_PK = 12",
+                            load, timeline));
 }
 
 TEST_F(CallTransitions, endings_may_be_told_without_a_call)
@@ -323,8 +320,8 @@ TEST_F(CallTransitions, endings_may_be_told_without_a_call)
     closesTheQuestion();
     control.Call_Connect(2);
     EXPECT_THAT(steps,
-                ElementsAre(noteOf("Se estableció llamada al:  pero no se pudo contactar al prospecto. "
-                                   "<Número equivocado>"),
+                ElementsAre(noteOfTheCall("Se estableció llamada al:  pero no se pudo contactar al prospecto. "
+                                          "<Número equivocado>"),
                             question, load, timeline,
                             "UPDATE Proyecto SET uf_ultimointento= CURRENT_TIMESTAMP, uf_res_ultimointento =  "
                             "13 Where Sys_PK = 7",
@@ -337,7 +334,7 @@ TEST_F(CallTransitions, the_summary_loses_its_apostrophes)
     rings();
     closesTheQuestion();
     control.Call_Resumen("d'Arc\r\nllamará");
-    EXPECT_EQ(steps.front(), noteOf("Se estableció llamada al 5512345678 Con éxito. Resumen: dArcllamará"));
+    EXPECT_EQ(steps.front(), noteOfTheCall("Se estableció llamada al 5512345678 Con éxito. Resumen: dArcllamará"));
 }
 
 TEST_F(CallTransitions, the_host_learns_of_a_start_when_everything_stands_and_of_an_end_ahead_of_the_question)
