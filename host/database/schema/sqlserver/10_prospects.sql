@@ -41,3 +41,5 @@ CREATE TABLE ut_icontact (
 CREATE INDEX por_ejecutivo ON ut_icontact (uf_IEjecutivo, uf_Status, uf_proxcontac, uf_Fecha);
 -- La lista de los no asignados (nulo o 0), que sólo puede entrar por el estado.
 CREATE INDEX por_status ON ut_icontact (uf_Status, uf_proxcontac, uf_Fecha, uf_IEjecutivo);
+-- El correo y el historial buscan al prospecto por su identificador.
+CREATE INDEX por_guid ON ut_icontact (Sys_GUID);

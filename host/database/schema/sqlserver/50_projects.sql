@@ -35,6 +35,8 @@ CREATE TABLE Proyecto (
 CREATE INDEX por_ejecutivo ON Proyecto (IEjecutivo, UF_Status1, FInicio);
 CREATE INDEX por_organizacion ON Proyecto (IOrganizacion);
 CREATE INDEX por_contacto ON Proyecto (IContacto);
+-- El correo busca el proyecto por su identificador.
+CREATE INDEX por_guid ON Proyecto (Sys_GUID);
 
 CREATE TABLE actividad (
     Sys_PK INT NOT NULL IDENTITY(1,1),
