@@ -21,6 +21,12 @@ PartyFields emptyFields()
 
 namespace {
 
+// What holds nothing but blanks counts as not filled in.
+std::string cell(const data::Recordset& row, std::size_t column)
+{
+    return std::string(trimmed(textOf(row, column)));
+}
+
 void ofProspect(OwnConnection& database, const std::string& identifier, PartyFields& fields)
 {
     Statement statement("SELECT uf_Nombre, uf_Empresa, uf_Puesto, uf_Telefono, uf_EMail, uf_Ciudad, uf_Estado, "
@@ -29,7 +35,7 @@ void ofProspect(OwnConnection& database, const std::string& identifier, PartyFie
     if (row->Eof()) return;
     std::size_t column = 0;
     for (const char* field : {"nombre", "empresa", "puesto", "telefono", "correo", "ciudad", "estado", "pais"})
-        fields[field] = textOf(*row, column++);
+        fields[field] = cell(*row, column++);
 }
 
 void ofProject(OwnConnection& database, const std::string& identifier, PartyFields& fields)
@@ -43,8 +49,8 @@ void ofProject(OwnConnection& database, const std::string& identifier, PartyFiel
     if (row->Eof()) return;
     std::size_t column = 0;
     for (const char* field : {"proyecto", "meta", "empresa", "puesto", "telefono", "correo"})
-        fields[field] = textOf(*row, column++);
-    fields["nombre"] = fullName(textOf(*row, 6), textOf(*row, 7), textOf(*row, 8));
+        fields[field] = cell(*row, column++);
+    fields["nombre"] = fullName(cell(*row, 6), cell(*row, 7), cell(*row, 8));
 }
 
 struct Place {

@@ -28,6 +28,8 @@ bool isOneOf(std::string_view word, const Words& words)
     return std::any_of(words.begin(), words.end(), [&](const char* one) { return equalsNoCase(word, one); });
 }
 
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
 bool isOfWord(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '@' ||
@@ -46,7 +48,7 @@ class Words {
 public:
     explicit Words(std::string_view text) : rest_(text) {}
 
-    /// Whether there was a comment of which a server may see another end.
+    /// Whether there was a comment or a number of which a server may see another end.
     bool doubtful() const { return doubtful_; }
 
     /// @return an empty word at the end.
@@ -56,6 +58,8 @@ public:
         if (rest_.empty()) return {};
         std::size_t size = 1;
         if (rest_.front() == '\'' || rest_.front() == '"' || rest_.front() == '[') return quoted();
+        if (isDigit(rest_.front())) return number();
+        if (rest_.front() == '$') return take(1); // an amount of nothing: what follows is a word of its own
         while (isOfWord(rest_.front()) && size < rest_.size() && isOfWord(rest_[size]))
             ++size;
         return take(size);
@@ -67,6 +71,17 @@ private:
         const std::string_view taken = rest_.substr(0, size);
         rest_.remove_prefix(std::min(size, rest_.size()));
         return taken;
+    }
+
+    // A number ends where its digits end, without a blank: "12DELETE" is two words to the server. What a letter
+    // behind it means, an exponent or the next word, is not guessed here.
+    std::string_view number()
+    {
+        std::size_t size = 1;
+        while (size < rest_.size() && (isDigit(rest_[size]) || rest_[size] == '.'))
+            ++size;
+        doubtful_ = doubtful_ || (size < rest_.size() && isOfWord(rest_[size]));
+        return take(size);
     }
 
     std::string_view quoted()

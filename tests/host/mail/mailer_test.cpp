@@ -75,10 +75,11 @@ TEST_F(FromTemplates, fills_the_fields_of_a_project)
 
 TEST_F(FromTemplates, does_not_send_a_field_that_nobody_filled_in)
 {
-    server().execute("UPDATE ut_icontact SET uf_Puesto = NULL");
-    aTemplate("x.txt", "Asunto: A la {puesto}\nEstimada {puesto}");
+    server().execute("UPDATE ut_icontact SET uf_Puesto = '  ', uf_Nombre = ' Ana '");
+    aTemplate("x.txt", "Asunto: A la {puesto}\nEstimada {puesto}: {nombre}.");
     EXPECT_FALSE(writes([this](QWidget& window) {
         chooses(window, 1);
+        EXPECT_THAT(textIn(window, "Texto").toStdString(), HasSubstr(": Ana."));
         pressButton(window, keeps);
         EXPECT_THAT(messageBelow(window, "Asunto"), HasSubstr("Falta llenar {puesto}"));
         types(window, "Asunto", "x");
