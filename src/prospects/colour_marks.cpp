@@ -10,9 +10,6 @@
 #include <string>
 
 namespace dn::prospects {
-namespace {
-
-} // namespace
 
 struct ColourMarks::Target {
     screen::ListView& list;

@@ -163,14 +163,21 @@ TEST(PrivateServer, the_server_of_a_killed_program_ends_and_its_data_are_whole)
     EXPECT_EQ(keptWord(PrivateServer(serverIn(folder.path()))), "guardado");
 }
 
+/// A server whose installer is a script of the test.
+ServerOptions withInstaller(const TemporaryFolder& folder, const std::string& script)
+{
+    writeProgram(folder.path() / "bin" / "mariadb-install-db", script);
+    writeProgram(folder.path() / "bin" / "mariadbd", "exit 0");
+    ServerOptions options = serverIn(folder.path() / "datos");
+    options.searchPath = {folder.path() / "bin"};
+    return options;
+}
+
 TEST(PrivateServer, a_failed_first_start_tells_what_the_installer_complained_of)
 {
     const TemporaryFolder folder;
-    writeProgram(folder.path() / "bin" / "mariadb-install-db",
-                 "echo '[ERROR] InnoDB: lo que pasa'; for i in $(seq 20); do echo \"consejo $i\"; done; exit 1");
-    writeProgram(folder.path() / "bin" / "mariadbd", "exit 0");
-    ServerOptions broken = serverIn(folder.path() / "datos");
-    broken.searchPath = {folder.path() / "bin"};
+    const ServerOptions broken = withInstaller(
+        folder, "echo '[ERROR] InnoDB: lo que pasa'; for i in $(seq 20); do echo \"consejo $i\"; done; exit 1");
     EXPECT_THAT(failureOf([&] { PrivateServer server(broken); }),
                 AllOf(HasSubstr("No se pudo crear la base de datos"), HasSubstr("[ERROR] InnoDB: lo que pasa"),
                       Not(HasSubstr("consejo"))));
@@ -179,11 +186,8 @@ TEST(PrivateServer, a_failed_first_start_tells_what_the_installer_complained_of)
 TEST(PrivateServer, an_interrupted_first_start_leaves_nothing_behind)
 {
     const TemporaryFolder folder;
-    writeProgram(folder.path() / "bin" / "mariadb-install-db",
-                 "for i; do case $i in --datadir=*) mkdir -p \"${i#--datadir=}/mysql\";; esac; done; kill -9 $$");
-    writeProgram(folder.path() / "bin" / "mariadbd", "exit 0");
-    ServerOptions broken = serverIn(folder.path() / "datos");
-    broken.searchPath = {folder.path() / "bin"};
+    const ServerOptions broken = withInstaller(
+        folder, "for i; do case $i in --datadir=*) mkdir -p \"${i#--datadir=}/mysql\";; esac; done; kill -9 $$");
     EXPECT_THAT(failureOf([&] { PrivateServer server(broken); }), HasSubstr("No se pudo crear la base de datos"));
     const PrivateServer server(serverIn(folder.path() / "datos"));
     EXPECT_TRUE(server.initialised());
