@@ -75,9 +75,14 @@ int run(const ProgramOptions& options)
         savePicture(window, options.screenshot);
         return 0;
     }
-    const EndingSignals ending([&window] { window.close(); });
+    // A window that closes while a box stands before it does not end the program by itself.
+    const EndingSignals ending([&window] {
+        window.close();
+        QApplication::exit();
+    });
     window.show();
     window.start(options.tab);
+    if (!window.isVisible()) return 0; // closed while it started, which is no news to a loop that begins later
     return QApplication::exec();
 }
 

@@ -29,6 +29,14 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
     return pointers;
 }
 
+/// Our own variables and, ahead of them, so that they prevail, the given ones.
+std::vector<std::string> environmentWith(std::vector<std::string> variables)
+{
+    for (char** own = ::environ; *own != nullptr; ++own)
+        variables.emplace_back(*own);
+    return variables;
+}
+
 /// Signals that the program was started with ignored or blocked would stay so in the server.
 void resetSignals()
 {
@@ -40,7 +48,7 @@ void resetSignals()
 }
 
 /// Between fork and exec of a program with threads only the plainest system calls are safe.
-[[noreturn]] void becomeProgram(char* const* arguments, const char* output, pid_t parent)
+[[noreturn]] void becomeProgram(char* const* arguments, char* const* environment, const char* output, pid_t parent)
 {
     constexpr int allDescriptors = ~0;
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -55,19 +63,22 @@ void resetSignals()
     // The host's sockets and files are not the server's. CLOSE_RANGE_CLOEXEC is 4; older kernels refuse
     // harmlessly.
     ::syscall(SYS_close_range, 3U, static_cast<unsigned>(allDescriptors), 4U);
-    ::execv(arguments[0], arguments);
+    ::execve(arguments[0], arguments, environment);
     ::_exit(127);
 }
 
 } // namespace
 
-ChildProcess::ChildProcess(const std::vector<std::string>& arguments, const std::filesystem::path& output)
+ChildProcess::ChildProcess(const std::vector<std::string>& arguments, const std::filesystem::path& output,
+                           const std::vector<std::string>& variables)
 {
     std::vector<std::string> texts = arguments;
+    std::vector<std::string> environmentTexts = environmentWith(variables);
     const std::vector<char*> pointers = pointersTo(texts);
+    const std::vector<char*> environment = pointersTo(environmentTexts);
     const pid_t parent = ::getpid();
     pid_ = ::fork();
-    if (pid_ == 0) becomeProgram(pointers.data(), output.c_str(), parent);
+    if (pid_ == 0) becomeProgram(pointers.data(), environment.data(), output.c_str(), parent);
     if (pid_ < 0) throw HostError("No se pudo iniciar «" + arguments.front() + "»: " + systemReason(errno) + ".");
 }
 

@@ -22,8 +22,10 @@ public:
     ChildProcess() = default;
     /// @param arguments the path of the program first.
     /// @param output takes what the program writes to both of its outputs; the file is made anew.
+    /// @param variables "NAME=value", beside those of our own environment.
     /// @throws HostError when no process can be made. A program that cannot be run ends with 127.
-    ChildProcess(const std::vector<std::string>& arguments, const std::filesystem::path& output);
+    ChildProcess(const std::vector<std::string>& arguments, const std::filesystem::path& output,
+                 const std::vector<std::string>& variables = {});
     ChildProcess(ChildProcess&& other) noexcept;
     ChildProcess& operator=(ChildProcess&& other) noexcept;
     ~ChildProcess(); ///< kills what still runs

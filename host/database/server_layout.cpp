@@ -56,7 +56,10 @@ void install(const ServerFolder& folder, const ServerBinaries& programs, const f
     for (const char* option :
          {"--auth-root-authentication-method=normal", "--skip-test-db", "--skip-name-resolve"})
         arguments.emplace_back(option);
-    ChildProcess installer(arguments, folder.installLog);
+    // The installer is a server, and a server that starts removes every temporary table in its folder: in one that
+    // is shared, those of another installation as well. A variable, since the script cannot hand on an option with
+    // blanks.
+    ChildProcess installer(arguments, folder.installLog, {"TMPDIR=" + folder.tmp.string()});
     const bool done = waitUntil(installPatience, [&] { return installer.ended().has_value(); });
     if (!done || *installer.ended() != 0) throw installFailed(folder);
 }

@@ -75,7 +75,9 @@ void initialise(const fs::path& folder)
     for (const char* option :
          {"--skip-test-db", "--skip-name-resolve", "--auth-root-authentication-method=socket"})
         command.emplace_back(option);
-    if (ChildProcess(command, {}, folder / "install.log").wait() != 0)
+    // In a shared folder it would lose its temporary tables to the next server that starts.
+    const std::vector<std::string> environment{"TMPDIR=" + folder.string()};
+    if (ChildProcess(command, environment, folder / "install.log").wait() != 0)
         throw std::runtime_error("mariadb-install-db failed: " + endOf(folder / "install.log"));
 }
 

@@ -183,6 +183,14 @@ TEST(PrivateServer, a_failed_first_start_tells_what_the_installer_complained_of)
                       Not(HasSubstr("consejo"))));
 }
 
+TEST(PrivateServer, the_installer_keeps_its_temporary_tables_to_itself)
+{
+    const TemporaryFolder folder;
+    const ServerOptions telling = withInstaller(folder, "echo \"[ERROR] en $TMPDIR\"; exit 1");
+    EXPECT_THAT(failureOf([&] { PrivateServer server(telling); }),
+                HasSubstr("[ERROR] en " + (telling.folder / "tmp").string()));
+}
+
 TEST(PrivateServer, an_interrupted_first_start_leaves_nothing_behind)
 {
     const TemporaryFolder folder;
