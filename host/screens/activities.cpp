@@ -30,7 +30,7 @@ std::string describe(const Values& row)
            (row[activity_column::done] == "0" ? ", pendiente" : ", hecha");
 }
 
-[[noreturn]] void tell(Activity& activity, const std::vector<Clash>& clashes)
+[[noreturn]] void refuse(Activity& activity, const std::vector<Clash>& clashes)
 {
     const std::string name = named(activity);
     Values theirs = activity.base;
@@ -51,7 +51,7 @@ void update(OwnConnection& database, Activity& activity)
         throw HostError("La actividad " + named(activity) +
                         " ya no existe: otra persona la borró. Acepte otra vez para agregarla de nuevo.");
     }
-    if (!clashes.empty()) tell(activity, clashes);
+    if (!clashes.empty()) refuse(activity, clashes);
 }
 
 } // namespace
