@@ -9,8 +9,7 @@ EntryForm::EntryForm(ScreenContext& context, PartyField::Kind kind, std::int32_t
                      QWidget* over)
     : RecordForm(context, entryKind(kind).record, key,
                  key == 0 ? entryKind(kind).newName : entryKind(kind).editName,
-                 key == 0 ? entryKind(kind).newTitle : entryKind(kind).editTitle, over),
-      agent_(agent)
+                 key == 0 ? entryKind(kind).newTitle : entryKind(kind).editTitle, over)
 {
     Values first;
     for (const EntryField& field : entryKind(kind).fields) {

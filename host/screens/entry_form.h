@@ -24,7 +24,6 @@ private:
     void addEntryField(const EntryField& field, const char* nameMissing);
     void addOrganisation(const EntryField& field);
 
-    std::int32_t agent_;
     QLineEdit* name_ = nullptr;
     PartyField* organisation_ = nullptr;
 };

@@ -81,7 +81,7 @@ QTreeWidget* RelationsWindow::addList(QLabel*& caption, const char* name, const 
     dressAsReport(*list, name, accessible, columns);
     tone(*list, false);
     list->installEventFilter(this);
-    connect(list, &QTreeWidget::itemDoubleClicked, this, [this, list] { open(*list); });
+    connect(list, &QTreeWidget::itemDoubleClicked, this, [this, list] { openChosen(*list); });
     caption = new QLabel(this);
     caption->setObjectName(QString("lbl") + list->objectName());
     caption->setBuddy(list);
@@ -111,7 +111,7 @@ bool RelationsWindow::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
     const int key = static_cast<const QKeyEvent*>(event)->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-    open(static_cast<const QTreeWidget&>(*watched));
+    openChosen(static_cast<const QTreeWidget&>(*watched));
     return true;
 }
 
@@ -145,7 +145,7 @@ void RelationsWindow::fill(QTreeWidget& list, QLabel& caption, const QString& ti
     caption.setText(QString(all ? "%1 (%2)" : "%1 (los primeros %2)").arg(title).arg(relations.size()));
 }
 
-void RelationsWindow::open(const QTreeWidget& list)
+void RelationsWindow::openChosen(const QTreeWidget& list)
 {
     const QTreeWidgetItem* const item = list.currentItem();
     if (item == nullptr) return;

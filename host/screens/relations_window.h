@@ -33,7 +33,7 @@ private:
     void addClose();
     void load();
     void fill(QTreeWidget& list, QLabel& caption, const QString& title, const std::vector<Relation>& relations);
-    void open(const QTreeWidget& list);
+    void openChosen(const QTreeWidget& list);
 
     ScreenContext& context_;
     PartyField::Kind kind_;

@@ -108,7 +108,7 @@ void appendCollationKey(std::string& keys, std::string_view text)
     const std::size_t begin = keys.size();
     keys.resize(begin + 3 * text.size()); // the most; set in place, for letters come by the million
     char* place = keys.data() + begin;
-    std::size_t accented = 0; // bytes of the text up to its last accent
+    std::size_t uptoAccent = 0; // bytes of the text up to its last accent
     for (std::string_view rest = text; !rest.empty();) {
         const Weight weight = takeWeight(table, rest);
         if (weight.letter >= firstBeyond) {
@@ -116,11 +116,11 @@ void appendCollationKey(std::string& keys, std::string_view text)
             *place++ = low(weight.letter >> 8U);
         }
         *place++ = low(weight.letter);
-        if (weight.accent != 0) accented = text.size() - rest.size();
+        if (weight.accent != 0) uptoAccent = text.size() - rest.size();
     }
     keys.resize(static_cast<std::size_t>(place - keys.data()));
     keys += end;
-    for (std::string_view rest = text.substr(0, accented); !rest.empty();) {
+    for (std::string_view rest = text.substr(0, uptoAccent); !rest.empty();) {
         const Weight weight = takeWeight(table, rest);
         keys.append({low(weight.accent >> 8U), low(weight.accent)});
     }

@@ -153,7 +153,7 @@ TEST_F(ProspectStatus, prompt_does_nothing)
 TEST_F(ProspectStatus, a_failure_at_each_statement_of_a_change_is_told)
 {
     // the update, then the log row; the load that follows passes over its own failures
-    for (const std::size_t failing : {1, 2}) {
+    for (const std::size_t failing : {1U, 2U}) {
         ports.dialogs.expectInput("Motivo del cambio de estado:", "x");
         ports.dialogs.expectBox("se perdió la conexión");
         failAt(failing);
