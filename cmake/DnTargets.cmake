@@ -46,7 +46,7 @@ endfunction()
 # dn_unite(TARGET): compiles its files in bundles, which read each header and instantiate each template once. Names of
 # one file that hide those of another are no mistake then, and builds without bundles look for real ones.
 function(dn_unite target)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 24)
     target_compile_options(${target} PRIVATE -Wno-shadow)
 endfunction()
 

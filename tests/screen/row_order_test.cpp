@@ -19,9 +19,9 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Rows = std::vector<RowOrder::RowNumber>;
+using Order = std::vector<RowOrder::RowNumber>;
 
-Rows sorted(const std::vector<std::string>& texts, bool descending)
+Order sorted(const std::vector<std::string>& texts, bool descending)
 {
     RowOrder order(texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i)
@@ -29,9 +29,9 @@ Rows sorted(const std::vector<std::string>& texts, bool descending)
     return order.sorted(descending);
 }
 
-Rows compared(const std::vector<std::string>& texts, bool descending)
+Order compared(const std::vector<std::string>& texts, bool descending)
 {
-    Rows rows(texts.size());
+    Order rows(texts.size());
     std::iota(rows.begin(), rows.end(), 0U);
     std::stable_sort(rows.begin(), rows.end(), [&](auto left, auto right) {
         const int order = compareSpanish(texts[left], texts[right]);

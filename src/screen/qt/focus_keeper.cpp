@@ -39,7 +39,7 @@ void nameIt(const View& view, const QString& labelAhead)
     const std::string& given = view.element->AccessibleName();
     if (!given.empty())
         widget.setAccessibleName(fromUtf8(given));
-    else if (dynamic_cast<QAbstractButton*>(&widget) != nullptr && !widget.property("text").toString().isEmpty())
+    else if (qobject_cast<QAbstractButton*>(&widget) != nullptr && !widget.property("text").toString().isEmpty())
         return; // its caption
     else if (!view.element->ToolTipText().empty())
         widget.setAccessibleName(fromUtf8(view.element->ToolTipText()));
@@ -87,16 +87,16 @@ FocusKeeper::FocusKeeper(QWidget& root, const std::vector<View>& views) : root_(
 {
     LabelView* label = nullptr;
     for (const View& view : inTabOrder(views)) {
-        elements_.insert(view.widget, view.element);
-        wires_.push_back(view.element->ended.connect([this, widget = view.widget] { forget(widget); }));
-        if (auto* const next = dynamic_cast<LabelView*>(view.widget); next != nullptr && labels(*view.element))
-            label = next;
-        if (!takesFocus(*view.widget)) continue;
+        QWidget& widget = *view.widget;
+        elements_.insert(&widget, view.element);
+        wires_.push_back(view.element->ended.connect([this, &widget] { forget(&widget); }));
+        if (labels(*view.element)) label = dynamic_cast<LabelView*>(&widget);
+        if (!takesFocus(widget)) continue;
         nameIt(view, label != nullptr ? spoken(*label) : QString());
-        if (label != nullptr) label->stepTo(view.widget);
+        if (label != nullptr) label->stepTo(&widget);
         label = nullptr;
-        if (!order_.empty()) QWidget::setTabOrder(order_.back(), view.widget);
-        order_.emplace_back(view.widget);
+        if (!order_.empty()) QWidget::setTabOrder(order_.back(), &widget);
+        order_.emplace_back(&widget);
     }
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
 }

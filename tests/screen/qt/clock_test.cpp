@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <ctime>
 
 namespace dn::tests {
@@ -15,7 +16,8 @@ namespace {
 
 DateTime localTime()
 {
-    const std::time_t now = std::time(nullptr);
+    // time() may lag behind this clock by a tick, and thus by a second
+    const auto now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};
     ::localtime_r(&now, &local);
     return {static_cast<std::int16_t>(local.tm_year + 1900), static_cast<std::int8_t>(local.tm_mon + 1),
