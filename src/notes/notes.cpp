@@ -31,6 +31,13 @@ std::string selectedKey(screen::ListView& list)
     return row ? std::string(row->Key()) : std::string();
 }
 
+std::string cleaned(std::string text)
+{
+    for (const auto step : cleaning)
+        text = step(text);
+    return text;
+}
+
 } // namespace
 
 void Notes::cmdIntro_Click() // trap
@@ -87,8 +94,9 @@ screen::ListView* Notes::targetList()
     }
 }
 
-// The click on the row yields, and by its end the operator may have another party before him. What he registered
-// is for the one at which he did so: it is stored here then, and nothing is left to do.
+// The click on the row yields, and by its end the operator may have another party before him, or have registered
+// another note. What he registered is for the party at which he did so: it is stored here then, unless it was
+// meanwhile, and nothing is left to do.
 screen::ListView* Notes::listOfTheDay(const screen::ListItem& row)
 {
     const std::string typed = elements_.detail.txtText.Text();
@@ -97,24 +105,27 @@ screen::ListView* Notes::listOfTheDay(const screen::ListItem& row)
         return std::tuple(tabs_.GetActiveTab(), selectedKey(elements_.today.lvwHoy), selectedKey(list));
     };
     const auto before = inHand();
+    const unsigned written = written_;
     todayPanel_.lvwHoy_ItemClick(row);
-    if (inHand() == before) return &list;
-    storeForThePartyLeft(list, std::get<2>(before), typed);
+    if (written_ == written && inHand() == before) return &list;
+    const std::string& rowKey = std::get<2>(before);
+    const bool done = written_ != written && last_ == Note{&list, rowKey.substr(1), cleaned(typed)};
+    if (done) return nullptr;
+    if (storeForThePartyLeft(list, rowKey, typed) && inHand() == before) show(last_.text);
     return nullptr;
 }
 
 // The timeline in sight is another party's by now, and so may be the text in the box.
-void Notes::storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed)
+bool Notes::storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed)
 {
-    std::string text = typed;
-    for (const auto step : cleaning)
-        text = step(text);
+    const std::string text = cleaned(typed);
     if (text.empty()) {
         ports_.dialogs.say(nothingWritten);
-        return;
+        return false;
     }
     insert(list, rowKey.substr(1), text); // there is one: without a selected record nothing yields
     if (elements_.detail.txtText.Text() == typed) elements_.detail.txtText.Text("");
+    return true;
 }
 
 void Notes::cleanText()
@@ -129,15 +140,22 @@ void Notes::insert(const screen::ListView& list, const std::string& key, const s
     const bool ofProspect = &list == &elements_.prospects.lvw;
     session_.cnn().execute(ofProspect ? data::bitacora::prospectRow(text, session_.Usuario, key)
                                       : data::bitacora::projectRow(text, session_.Usuario, key));
+    ++written_;
+    last_ = {&list, key, text};
+}
+
+// At the top of the timeline in sight.
+void Notes::show(const std::string& text)
+{
+    screen::TextBox& txtBit = elements_.detail.txtBit;
+    txtBit.Text(desk::timelineEntry(session_.Usuario, defaultText(ports_.clock.Now()), text) + txtBit.Text());
 }
 
 void Notes::store(screen::ListView& target)
 {
     screen::TextBox& txtText = elements_.detail.txtText;
-    screen::TextBox& txtBit = elements_.detail.txtBit;
     insert(target, desk::keyDigits(desk::selectedRow(target)), txtText.Text());
-    txtBit.Text(desk::timelineEntry(session_.Usuario, defaultText(ports_.clock.Now()), txtText.Text()) +
-                txtBit.Text());
+    show(txtText.Text());
     txtText.Text("");
 }
 

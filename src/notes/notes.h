@@ -36,11 +36,19 @@ public:
     void txtText_KeyPress(int& KeyAscii);
 
 private:
+    struct Note {
+        const screen::ListView* list = nullptr;
+        std::string key, text;
+        bool operator==(const Note&) const = default;
+    };
+
     screen::ListView* targetList();
     screen::ListView* listOfTheDay(const screen::ListItem& row);
-    void storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed);
+    /// @return whether there was a text to store.
+    bool storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed);
     void insert(const screen::ListView& list, const std::string& key, const std::string& text);
     void cleanText();
+    void show(const std::string& text);
     void store(screen::ListView& target);
 
     desk::Session& session_;
@@ -48,6 +56,8 @@ private:
     desk::TabStrip& tabs_;
     today::TodayPanel& todayPanel_;
     screen::Ports ports_;
+    unsigned written_ = 0; ///< how many notes, since a note that waits must know of others
+    Note last_;            ///< that was written
 };
 
 } // namespace dn::notes
