@@ -42,7 +42,7 @@ Operator::Operator()
 {
     storyServer().setClock("", {});
     for (const char* table :
-         {"ut_icontact", "xt_biticontact", "Agente", "Persona", "Organizacion", "Proyecto", "actividad"})
+         {"ut_icontact", "xt_biticontact", "Agente", "Persona", "Organizacion", "Proyecto", "actividad", "Ciudad"})
         database(std::string("DELETE FROM ") + table);
     database("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana'), (9, 'Beto')");
 }

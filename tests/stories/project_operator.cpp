@@ -14,8 +14,7 @@ constexpr int descriptionColumn = 5; // the sub-item "Descripción"
 
 ProjectOperator::ProjectOperator()
 {
-    for (const char* table :
-         {"Proyecto", "actividad", "Meta", "mdtpactividad", "Organizacion", "Persona", "Ciudad"})
+    for (const char* table : {"Meta", "mdtpactividad"})
         database(std::string("DELETE FROM ") + table);
     database("INSERT INTO Meta (Sys_PK, Descripcion) VALUES (1, 'Venta nueva')");
     database("INSERT INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Visita'), (2, 'Llamada')");

@@ -41,8 +41,7 @@ AtTheBoard::AtTheBoard()
           &widget)
 {
     screens = &hostScreens;
-    for (const char* table : {"mdtpactividad", "Ciudad"})
-        database(std::string("DELETE FROM ") + table);
+    database("DELETE FROM mdtpactividad");
     database("INSERT INTO mdtpactividad (Sys_PK, Nombre) VALUES (1, 'Visita')");
     database("INSERT INTO Ciudad (Sys_PK, Nombre) VALUES (3, 'Tuxtla Gutiérrez'), (4, 'San Cristóbal'), "
              "(5, 'San Juan')");
