@@ -94,9 +94,9 @@ screen::ListView* Notes::targetList()
     }
 }
 
-// The click on the row yields, and by its end the operator may have another party before him, or have registered
-// another note. What he registered is for the party at which he did so: it is stored here then, unless it was
-// meanwhile, and nothing is left to do.
+// The click on the row yields, and by its end the operator may have another party before him. What he registered
+// is for the one at which he did so: it is stored here then, unless he registered it again meanwhile, and nothing
+// is left to do.
 screen::ListView* Notes::listOfTheDay(const screen::ListItem& row)
 {
     const std::string typed = elements_.detail.txtText.Text();
@@ -107,25 +107,23 @@ screen::ListView* Notes::listOfTheDay(const screen::ListItem& row)
     const auto before = inHand();
     const unsigned written = written_;
     todayPanel_.lvwHoy_ItemClick(row);
-    if (written_ == written && inHand() == before) return &list;
+    if (inHand() == before) return &list;
     const std::string& rowKey = std::get<2>(before);
-    const bool done = written_ != written && last_ == Note{&list, rowKey.substr(1), cleaned(typed)};
-    if (done) return nullptr;
-    if (storeForThePartyLeft(list, rowKey, typed) && inHand() == before) show(last_.text);
+    const bool twice = written_ != written && last_ == Note{&list, rowKey.substr(1), cleaned(typed)};
+    if (!twice) storeForThePartyLeft(list, rowKey, typed);
     return nullptr;
 }
 
 // The timeline in sight is another party's by now, and so may be the text in the box.
-bool Notes::storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed)
+void Notes::storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed)
 {
     const std::string text = cleaned(typed);
     if (text.empty()) {
         ports_.dialogs.say(nothingWritten);
-        return false;
+        return;
     }
     insert(list, rowKey.substr(1), text); // there is one: without a selected record nothing yields
     if (elements_.detail.txtText.Text() == typed) elements_.detail.txtText.Text("");
-    return true;
 }
 
 void Notes::cleanText()
@@ -144,18 +142,13 @@ void Notes::insert(const screen::ListView& list, const std::string& key, const s
     last_ = {&list, key, text};
 }
 
-// At the top of the timeline in sight.
-void Notes::show(const std::string& text)
-{
-    screen::TextBox& txtBit = elements_.detail.txtBit;
-    txtBit.Text(desk::timelineEntry(session_.Usuario, defaultText(ports_.clock.Now()), text) + txtBit.Text());
-}
-
 void Notes::store(screen::ListView& target)
 {
     screen::TextBox& txtText = elements_.detail.txtText;
+    screen::TextBox& txtBit = elements_.detail.txtBit;
     insert(target, desk::keyDigits(desk::selectedRow(target)), txtText.Text());
-    show(txtText.Text());
+    txtBit.Text(desk::timelineEntry(session_.Usuario, defaultText(ports_.clock.Now()), txtText.Text()) +
+                txtBit.Text());
     txtText.Text("");
 }
 

@@ -44,11 +44,9 @@ private:
 
     screen::ListView* targetList();
     screen::ListView* listOfTheDay(const screen::ListItem& row);
-    /// @return whether there was a text to store.
-    bool storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed);
+    void storeForThePartyLeft(screen::ListView& list, const std::string& rowKey, const std::string& typed);
     void insert(const screen::ListView& list, const std::string& key, const std::string& text);
     void cleanText();
-    void show(const std::string& text);
     void store(screen::ListView& target);
 
     desk::Session& session_;
@@ -56,8 +54,9 @@ private:
     desk::TabStrip& tabs_;
     today::TodayPanel& todayPanel_;
     screen::Ports ports_;
-    unsigned written_ = 0; ///< how many notes, since a note that waits must know of others
-    Note last_;            ///< that was written
+    // What was written during a yield, so that the note that waited is not written a second time.
+    unsigned written_ = 0;
+    Note last_;
 };
 
 } // namespace dn::notes
