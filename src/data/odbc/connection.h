@@ -19,7 +19,7 @@ class Session;
 struct TimeOuts {
     std::chrono::seconds connect{5};
     /// For each wait on the server, so that it also bounds the slowest statement.
-    std::chrono::seconds read{30};
+    std::chrono::seconds read{60};
 };
 
 class Connection final : public data::Connection {
