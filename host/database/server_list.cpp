@@ -17,13 +17,6 @@ std::string shown(data::Connection& connection, const std::string& statement)
     return rows && !rows->Eof() ? rows->value(1).toText() : std::string();
 }
 
-// Servers that were built for clusters and stand alone say that they are not ready, too.
-bool isReady(data::Connection& connection)
-{
-    return shown(connection, "SHOW GLOBAL VARIABLES LIKE 'wsrep_on'") != "ON" ||
-           shown(connection, "SHOW GLOBAL STATUS LIKE 'wsrep_ready'") == "ON";
-}
-
 std::unique_ptr<data::Connection> connectReady(const DatabaseChoice& choice)
 {
     auto connection = connect(choice);
@@ -39,6 +32,13 @@ std::unique_ptr<data::Connection> connectReady(const DatabaseChoice& choice)
 }
 
 } // namespace
+
+// Servers that were built for clusters and stand alone say that they are not ready, too.
+bool isReady(data::Connection& connection)
+{
+    return shown(connection, "SHOW GLOBAL VARIABLES LIKE 'wsrep_on'") != "ON" ||
+           shown(connection, "SHOW GLOBAL STATUS LIKE 'wsrep_ready'") == "ON";
+}
 
 std::unique_ptr<data::Connection> ServerList::connect()
 {

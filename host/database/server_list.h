@@ -15,6 +15,10 @@
 
 namespace dn::host {
 
+/// Whether it serves: false for a node of a cluster that lies outside of its main part.
+/// @throws data::Error
+bool isReady(data::Connection& connection);
+
 class ServerList {
 public:
     /// @param choices at least one.
