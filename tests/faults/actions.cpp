@@ -218,7 +218,6 @@ std::vector<Action> prospectCommands()
                  picksAnAgent(at);
                  at.presses("cmdProsAsignPros");
              },
-         .told = {{agents, "Seleccione un elemento"}},
          .emptyTells = "Seleccione un elemento"},
         {.name = "one passed on",
          .prepare = beforeLuz,
@@ -227,7 +226,6 @@ std::vector<Action> prospectCommands()
                  picksAnAgent(at);
                  at.presses("cmdProsAsignPros");
              },
-         .told = {{agents, "Seleccione un elemento"}},
          .emptyTells = "Seleccione un elemento"},
         {.name = "a colour on a prospect",
          .prepare = beforeLuz,
@@ -301,8 +299,7 @@ std::vector<Action> projectsAndLists()
         {.name = "mail lists",
          .prepare = beforeLuz,
          .act = exportsLists,
-         .leaves = {"Select Sys_PK, Nombre From Ejecutivo", "Select Sys_pk, Descripcion FROM Meta",
-                    "Select uf_Email", "SELECT Proyecto.IEjecutivo"}},
+         .leaves = {"Select uf_Email", "SELECT Proyecto.IEjecutivo"}},
         {.name = "the start",
          .prepare = [](AtWork&) {},
          .act = [](AtWork& at) { at.begins(ana, false); },

@@ -233,9 +233,11 @@ std::string Office::columnOf(const std::string& table, const std::string& statem
     const std::string lower = toLower(statement);
     if (names(lower, "qhoy") || names(lower, "qatascados")) return "uf_proxcontac";
     if (lower.starts_with("call")) return columns_.at(table).back();
+    // Several tables have columns of one name: what is said of this table counts, where tables are said at all.
+    const std::string ahead = lower.find(table + ".") == std::string::npos ? "" : table + ".";
     for (const std::string& name : columns_.at(table))
-        if (name != "sys_pk" && (names(lower, name))) return name;
-    return names(lower, "sys_pk") ? "sys_pk" : "";
+        if (name != "sys_pk" && names(lower, ahead + name)) return name;
+    return names(lower, ahead + "sys_pk") ? "sys_pk" : "";
 }
 
 } // namespace dn::tests

@@ -96,7 +96,7 @@ TEST(LastingConnection, counts_a_node_that_its_cluster_left_as_lost_until_it_is_
 
 TEST(LastingConnection, leaves_a_half_read_recordset_with_the_rows_that_it_holds)
 {
-    const auto fresh = [] { return connect(SharedServer::get().target("")); };
+    const auto fresh = [] { return connect(SharedServer::get().target("mysql")); };
     LastingConnection connection(fresh());
     const auto rows = connection.execute("SELECT seq FROM seq_1_to_100000");
     connection.renew(fresh());

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -101,6 +102,17 @@ protected:
     {
         list.clickRow(static_cast<std::size_t>(list.ListItems()(key).Index()) - 1);
     }
+    /// A picture in the folder "pantallas" below the working folder. Nothing in the bar is cut off.
+    void takes(const char* name)
+    {
+        QDir().mkpath("pantallas");
+        QApplication::processEvents();
+        EXPECT_TRUE(window->grab().save(QString("pantallas/%1.png").arg(name)));
+        for (const QAbstractButton* button : in("BarraDeConexion").findChildren<QAbstractButton*>())
+            EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width());
+        for (const QLabel* label : in("BarraDeConexion").findChildren<QLabel*>())
+            EXPECT_TRUE(!label->isVisible() || label->height() >= label->heightForWidth(label->width()));
+    }
     static std::string selected(screen::ListView& list)
     {
         const auto row = list.SelectedItem();
@@ -172,6 +184,7 @@ TEST_F(LosingTheServer, waits_for_its_time_or_for_the_button)
     ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
     EXPECT_THAT(in<QLabel>("lblMotivo").text().toStdString(),
                 AllOf(HasSubstr("No se pudo abrir la base de datos"), testing::Not(HasSubstr("clave-de-prueba"))));
+    takes("BarraPerdida");
     clicks("cmdReconectar");
     EXPECT_THAT(bar(), HasSubstr("Reconectando…"));
     EXPECT_FALSE(in("cmdReconectar").isEnabled());
@@ -179,6 +192,16 @@ TEST_F(LosingTheServer, waits_for_its_time_or_for_the_button)
     server->restart();
     clicks("cmdReconectar");
     EXPECT_TRUE(goesOn()) << bar();
+    takes("BarraRestablecida");
+}
+
+TEST_F(LosingTheServer, an_hourglass_that_a_failure_left_behind_keeps_nobody_waiting)
+{
+    opens(desk::prospectos);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    server->restart();
+    EXPECT_TRUE(goesOn()) << bar();
+    QGuiApplication::restoreOverrideCursor();
 }
 
 TEST_F(LosingTheServer, keeps_an_administrators_agent_filter_and_checks)
