@@ -28,6 +28,8 @@ DatabaseOptions databaseOptions(const ProgramOptions& options)
 {
     DatabaseOptions result;
     result.connect = options.connect.toStdString();
+    for (const QString& further : options.furtherServers)
+        result.further.push_back(further.toStdString());
     result.createSchema = options.createSchema;
     result.demoRows = options.demoRows;
     result.server.folder = options.dataFolder.toStdString();
