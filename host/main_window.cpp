@@ -14,6 +14,12 @@
 #include <QStandardPaths>
 
 namespace dn::host {
+namespace {
+
+constexpr std::int16_t prospectsTab = 0;
+constexpr std::int16_t todayTab = 2;
+
+} // namespace
 
 MainWindow::MainWindow(Database& database, const Worker& worker)
     : database_(database),
@@ -43,8 +49,8 @@ void MainWindow::start(std::optional<std::int16_t> tab)
     control().RefreshData();
     if (!tab) return;
     // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
-    if (*tab == desk::hoy) control().elements().top.lblItem(desk::prospectos).click();
-    control().elements().top.lblItem(*tab).click();
+    if (*tab == todayTab) control().openTab(prospectsTab);
+    control().openTab(*tab);
 }
 
 void MainWindow::sendMails(const std::filesystem::path& dataFolder)
@@ -83,17 +89,14 @@ void MainWindow::addMenus()
     });
 }
 
-// A click on the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
+// Opening the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
 void MainWindow::refresh()
 {
-    for (int i = 0; i < desk::TabStrip::count; ++i) {
-        screen::Label& tab = control().elements().top.lblItem(i);
-        if (tab.BackColor() == desk::TabStrip::activeColour) {
-            tab.click();
-            return;
-        }
-    }
-    control().RefreshRobot();
+    const std::int16_t tab = control().activeTab();
+    if (tab >= 0)
+        control().openTab(tab);
+    else
+        control().RefreshRobot();
 }
 
 void MainWindow::reportError(const std::exception& failure)

@@ -6,6 +6,7 @@
 
 #include "data/error.h"
 #include "data/mariadb/options.h"
+#include "data/streamed_recordset.h"
 
 #include <mysql.h>
 
@@ -21,6 +22,7 @@ public:
 
     MYSQL* handle() const { return handle_.get(); }
     bool lost() const { return lost_; }
+    Wire& wire() { return wire_; }
 
     /// Sends a statement and waits for the head of its first result. @throws Error
     void send(std::string_view statement);
@@ -34,6 +36,7 @@ private:
 
     std::unique_ptr<MYSQL, decltype(&mysql_close)> handle_;
     bool lost_ = false;
+    Wire wire_;
 };
 
 struct FreeResult {
