@@ -14,6 +14,7 @@
 #include "screen/qt/theme.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 
 #include <cstdio>
@@ -124,6 +125,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("dncontacts");
     QApplication::setApplicationDisplayName("DN Contactos");
     QApplication::setApplicationVersion(DN_VERSION);
+    QApplication::setDesktopFileName("dncontacts"); // by which a desktop finds the entry of its menu
+    QApplication::setWindowIcon(QIcon(":/dn/icons/dncontacts.svg"));
     dn::screen::qt::applyTheme(application);
     ProgramOptions options;
     try {

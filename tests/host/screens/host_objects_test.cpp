@@ -4,6 +4,8 @@
 // The host's objects as the control uses them: operations without a window, and a prospect that becomes an
 // opportunity.
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/host/screens/fixture.h"
