@@ -9,6 +9,7 @@
 //     widget->control().RefreshData();
 #pragma once
 
+#include "screen/qt/column_layout.h"
 #include "screen/qt/guard.h"
 
 #include <QWidget>
@@ -33,6 +34,12 @@ public:
     /// not treat. Without one, their text is shown in a box. Exceptions of methods that the host calls reach the
     /// host as exceptions.
     void onError(Guard::Handler handler);
+
+    /// How the operator has arranged the columns of each list. The control itself has no settings: a host that
+    /// keeps this hands it back at its next start.
+    ColumnLayouts columnLayouts() const;
+    /// Arranges the columns of the lists that are named. What does not fit a list leaves it as it is.
+    void columnLayouts(const ColumnLayouts& layouts);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
