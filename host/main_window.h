@@ -39,6 +39,9 @@ public:
 
     ctrDnContacts& control() { return widget_->control(); }
 
+    /// The control as a widget.
+    screen::qt::CtrDnContactsWidget& widget() { return *widget_; }
+
 private:
     void addMenus();
     void refresh();
