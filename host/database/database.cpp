@@ -29,10 +29,17 @@ void say(const Progress& progress, const std::string& text)
 /// Between two programs that find a new database at the same time. The server frees it with the connection.
 void lockSetUp(data::Connection& connection, Engine engine)
 {
-    connection.execute(engine == Engine::mariadb
-                           ? "SELECT GET_LOCK('dncontacts.esquema', 1800)"
-                           : "EXEC sp_getapplock @Resource = 'dncontacts.esquema', @LockMode = 'Exclusive', "
-                             "@LockOwner = 'Session', @LockTimeout = 1800000");
+    if (engine != Engine::mariadb)
+        connection.execute("EXEC sp_getapplock @Resource = 'dncontacts.esquema', @LockMode = 'Exclusive', "
+                           "@LockOwner = 'Session', @LockTimeout = 1800000");
+    const auto held = connection.execute(engine == Engine::mariadb
+                                             ? "SELECT GET_LOCK('dncontacts.esquema', 1800)"
+                                             : "SELECT APPLOCK_MODE('public', 'dncontacts.esquema', 'Session')");
+    const std::string answer = held && !held->Eof() ? std::string(held->value(0).raw()) : "";
+    if (answer != "1" && answer != "Exclusive")
+        throw HostError(
+            "Otro programa está creando las tablas de esta base de datos. Espere a que termine y vuelva a "
+            "intentarlo.");
 }
 
 void requireKnownVersion(int version)

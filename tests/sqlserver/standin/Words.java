@@ -32,6 +32,7 @@ final class Words {
 
     static final Map<String, Function> FUNCTIONS = Map.ofEntries(
             function("ABS", 1, "ABS($1)"),
+            function("APPLOCK_MODE", 3, "\u0001LOCK\u0001"),
             function("AVG", 1, "AVG($1)"),
             function("CONCAT", 2, 254, "CONCAT($*)"),
             function("COUNT", 1, "COUNT($1)"),
