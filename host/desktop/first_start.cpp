@@ -14,7 +14,7 @@ namespace {
 
 constexpr int textWidth = 520; // logical pixels
 constexpr int standardPort = 3306;
-constexpr int highestPort = 65'535;
+constexpr int lastPort = 65'535;
 
 enum Kind : int { mariadb, odbc };
 
@@ -100,7 +100,7 @@ QWidget* FirstStart::ownFields()
     kind_->addItems({"MariaDB o MySQL", "SQL Server u otro, por ODBC"});
     add("&Clase de servidor:", kind_, "cbClase");
     add("Ser&vidor:", server_, "txtServidor");
-    port_->setRange(1, highestPort);
+    port_->setRange(1, lastPort);
     port_->setValue(standardPort);
     add("Puert&o:", port_, "txtPuerto");
     add("&Base de datos:", name_, "txtBase");

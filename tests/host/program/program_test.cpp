@@ -188,15 +188,15 @@ TEST_F(Program, hands_the_number_of_a_call_to_the_desktop_where_it_was_asked_to)
 
 TEST_F(Program, has_a_name_for_everything_that_a_screen_reader_meets)
 {
-    const Outcome outcome = heard("--demo-rows 50 --agent 1 --user prueba",
-                                  "Prospectos Proyectos Hoy Organizaciones Contactos");
+    const Outcome outcome =
+        heard("--demo-rows 50 --agent 1 --user prueba", "Prospectos Proyectos Hoy Organizaciones Contactos");
     EXPECT_EQ(outcome.status, 0) << outcome.said;
 }
 
 TEST_F(Program, offers_sample_data_at_its_first_start_and_remembers_it)
 {
-    const Outcome first = atADisplay("--admin --size 900x600 --user prueba --data-folder '" + (home_ / "d").string() +
-                                         "' --demo-rows 50",
+    const Outcome first = atADisplay("--admin --size 900x600 --user prueba --data-folder '" +
+                                         (home_ / "d").string() + "' --demo-rows 50",
                                      "TOP=prueba END");
     EXPECT_EQ(first.status, 0) << first.said;
     EXPECT_FALSE(std::filesystem::exists(home_ / ".config/dncontacts/inicio.ini")) << "the options said it all";

@@ -19,7 +19,7 @@ namespace {
 
 using namespace dn::screen::qt;
 
-constexpr double readable = 4.5; // of WCAG 2, for texts of this size
+constexpr double legibleEnough = 4.5; // of WCAG 2, for texts of this size
 
 constexpr std::array stateColours{0x0000FFU, 0x004000U, 0xFF0000U, 0x800080U, 0xFF8080U}; // blue in the high byte
 
@@ -51,9 +51,9 @@ TEST_P(ThemeTest, texts_stand_out_from_what_they_stand_on)
           Pair{QPalette::Text, QPalette::AlternateBase}, Pair{QPalette::ButtonText, QPalette::Button},
           Pair{QPalette::HighlightedText, QPalette::Highlight},
           Pair{QPalette::ToolTipText, QPalette::ToolTipBase}})
-        EXPECT_GE(contrast(palette.color(ink), palette.color(paper)), stark ? 7 : readable)
+        EXPECT_GE(contrast(palette.color(ink), palette.color(paper)), stark ? 7 : legibleEnough)
             << ink << " on " << paper;
-    EXPECT_GE(contrast(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), readable);
+    EXPECT_GE(contrast(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), legibleEnough);
     EXPECT_GE(contrast(palette.color(QPalette::Highlight), palette.color(QPalette::Window)), 3) << "the focus";
 }
 
@@ -76,10 +76,10 @@ TEST_P(ThemeTest, the_colours_of_the_lists_can_be_read_and_told_apart)
         painter.describe(option, model().index(row, 0));
         const QColor paper = option.palette.color(second ? QPalette::AlternateBase : QPalette::Base);
         const QColor ink = option.palette.color(QPalette::Text);
-        EXPECT_GE(contrast(ink, paper), readable) << "row " << row;
+        EXPECT_GE(contrast(ink, paper), legibleEnough) << "row " << row;
         EXPECT_GE(
             contrast(option.palette.color(QPalette::HighlightedText), option.palette.color(QPalette::Highlight)),
-            readable)
+            legibleEnough)
             << "row " << row;
         const QColor given = fromColour(stateColours.at(static_cast<std::size_t>(row / 2)));
         EXPECT_NEAR(ink.hslHueF(), given.hslHueF(), 0.02) << "row " << row << ": it stays the colour that it was";
@@ -104,7 +104,7 @@ TEST_P(ThemeTest, a_white_strip_is_paper_and_a_coloured_one_stays_coloured)
     const QPalette palette = schemePalette(GetParam());
     EXPECT_EQ(colourAt(shown, {50, 25}), palette.color(QPalette::Base));
     EXPECT_GE(contrast(text.palette().color(text.foregroundRole()), text.palette().color(text.backgroundRole())),
-              readable);
+              legibleEnough);
     strip.BackColor(0x0000FF);
     EXPECT_EQ(colourAt(shown, {50, 25}), QColor(Qt::red));
     view.reset();
