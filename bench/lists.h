@@ -32,8 +32,8 @@ struct ListFigures {
     std::optional<Cost> tree;       ///< QTreeWidget, rows in memory
 };
 
-/// Measures a list; checks that every way gives the same rows.
-ListFigures benchList(BenchDatabase& database, const List& list, const Scale& scale, Report& report);
+/// Measures the five lists of an agent; checks that every way gives the same rows.
+std::vector<ListFigures> benchLists(BenchDatabase& database, const Scale& scale, Report& report);
 
 /// The bars of the lists, from what was measured at all numbers of rows.
 void judgeLists(const std::vector<ListFigures>& all, Report& report);

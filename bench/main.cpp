@@ -82,13 +82,11 @@ Options readOptions(const QApplication& application)
 
 void tell(const std::string& what) { std::fprintf(stderr, "%s\n", what.c_str()); }
 
-void benchLists(BenchDatabase& database, Results& results)
+void benchAllLists(BenchDatabase& database, Results& results)
 {
     for (const Scale& scale : database.scales())
-        for (const List& list : allLists()) {
-            tell(std::string(list.name) + ", " + std::to_string(scale.rows) + " rows");
-            results.lists.push_back(benchList(database, list, scale, results.report));
-        }
+        for (ListFigures& figures : benchLists(database, scale, results.report))
+            results.lists.push_back(std::move(figures));
     judgeLists(results.lists, results.report);
 }
 
@@ -125,7 +123,7 @@ void benchOnTheDatabase(const Options& options, Results& results)
 {
     BenchDatabase database(options.folder, options.largest, options.agents);
     results.serverVersion = database.version();
-    if (options.runs("lists")) benchLists(database, results);
+    if (options.runs("lists")) benchAllLists(database, results);
     if (options.runs("rows")) benchRows(database, results);
     if (options.runs("commands")) {
         tell("commands");

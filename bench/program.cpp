@@ -156,6 +156,8 @@ private:
     static int paintsOfOurs()
     {
         Workbench workbench;
+        workbench.list().Visible(true);
+        QCoreApplication::processEvents();
         workbench.fill(Texts(1000, std::vector<std::string>(17, "texto")));
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
