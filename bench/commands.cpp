@@ -6,6 +6,7 @@
 #include "bench/frames.h"
 #include "bench/measure.h"
 #include "data/failure_modes.h"
+#include "desk/elements.h"
 #include "screen/list_box.h"
 #include "screen/qt/panel_views.h"
 #include "screen/qt/ports.h"

@@ -7,6 +7,8 @@
 #include "bench/alternatives.h"
 #include "bench/bench_database.h"
 #include "bench/frames.h"
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "shell/ctr_dn_contacts.h"
 

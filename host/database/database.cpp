@@ -17,7 +17,7 @@ constexpr unsigned setUpReadTimeout = 3600;
 
 DatabaseChoice patient(DatabaseChoice choice)
 {
-    if (auto* target = std::get_if<MariadbTarget>(&choice)) target->readTimeout = setUpReadTimeout;
+    std::visit([](auto& target) { target.readTimeout = setUpReadTimeout; }, choice);
     return choice;
 }
 
@@ -29,10 +29,17 @@ void say(const Progress& progress, const std::string& text)
 /// Between two programs that find a new database at the same time. The server frees it with the connection.
 void lockSetUp(data::Connection& connection, Engine engine)
 {
-    connection.execute(engine == Engine::mariadb
-                           ? "SELECT GET_LOCK('dncontacts.esquema', 1800)"
-                           : "EXEC sp_getapplock @Resource = 'dncontacts.esquema', @LockMode = 'Exclusive', "
-                             "@LockOwner = 'Session', @LockTimeout = 1800000");
+    if (engine != Engine::mariadb)
+        connection.execute("EXEC sp_getapplock @Resource = 'dncontacts.esquema', @LockMode = 'Exclusive', "
+                           "@LockOwner = 'Session', @LockTimeout = 1800000");
+    const auto held = connection.execute(engine == Engine::mariadb
+                                             ? "SELECT GET_LOCK('dncontacts.esquema', 1800)"
+                                             : "SELECT APPLOCK_MODE('public', 'dncontacts.esquema', 'Session')");
+    const std::string answer = held && !held->Eof() ? std::string(held->value(0).raw()) : "";
+    if (answer != "1" && answer != "Exclusive")
+        throw HostError(
+            "Otro programa está creando las tablas de esta base de datos. Espere a que termine y vuelva a "
+            "intentarlo.");
 }
 
 void requireKnownVersion(int version)
@@ -115,20 +122,35 @@ void keep(std::vector<std::string>& warnings, std::optional<std::string> warning
     if (warning) warnings.push_back(std::move(*warning));
 }
 
+std::vector<DatabaseChoice> choicesOf(const DatabaseOptions& options)
+{
+    std::vector<DatabaseChoice> choices{parseDatabaseChoice(options.connect)};
+    for (const std::string& further : options.further)
+        choices.push_back(parseDatabaseChoice(further));
+    return choices;
+}
+
 } // namespace
+
+void Database::revive()
+{
+    if (server_) server_->revive();
+}
 
 Database openDatabase(const DatabaseOptions& options, const Progress& progress)
 try {
     Database database;
     if (options.connect.empty()) {
         database.server_ = std::make_unique<PrivateServer>(options.server, progress);
-        database.choice_ = database.server_->target(privateName);
+        database.servers_ =
+            std::make_unique<ServerList>(std::vector<DatabaseChoice>{database.server_->target(privateName)});
         database.created_ = prepareOwn(*database.server_, options, progress);
     } else {
-        database.choice_ = parseDatabaseChoice(options.connect);
-        database.created_ = prepareForeign(database.choice_, options, progress);
+        database.servers_ = std::make_unique<ServerList>(choicesOf(options));
+        database.servers_->connect(); // finds the one to prepare
+        database.created_ = prepareForeign(database.choice(), options, progress);
     }
-    database.connection_ = connect(database.choice_);
+    database.connection_ = std::make_unique<LastingConnection>(database.openConnection());
     keep(database.warnings_, letterCaseWarning(*database.connection_));
     keep(database.warnings_, missingWarning(*database.connection_));
     keep(database.warnings_, demoWarning(options, database.created_));

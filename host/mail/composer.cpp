@@ -249,7 +249,7 @@ void Composer::store()
     message_ = std::make_shared<Message>(compose());
     const auto sends = [message = message_, settings = letter_.settings,
                         files = attachments_->files()](SendProgress& progress) {
-        message->attachments = readAttachments(files, settings.limit);
+        message->attachments = readAttachments(files, settings.limit, progress);
         delivery(settings, *message)(progress);
     };
     sending_ = std::make_unique<Sending>(sends);

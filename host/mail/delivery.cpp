@@ -31,7 +31,10 @@ Sending::Work delivery(const MailSettings& settings, const Message& message)
 {
     if (settings.toOutbox())
         return [folder = settings.outbox, name = outboxName(message),
-                text = messageText(message, Purpose::draft)](SendProgress&) { putIntoOutbox(folder, name, text); };
+                text = messageText(message, Purpose::draft)](SendProgress& progress) {
+            progress.heedCancel();
+            putIntoOutbox(folder, name, text);
+        };
     return [settings, envelope = Envelope{message.sender, message.recipients},
             text = messageText(message, Purpose::sending)](SendProgress& progress) {
         sendBySmtp(settings, envelope, text, progress);

@@ -15,17 +15,23 @@
 
 namespace dn::host {
 
+/// The operator gave up ahead of the end.
+class SendCancelled : public HostError {
+public:
+    using HostError::HostError;
+};
+
 /// What both sides see.
 struct SendProgress {
     std::atomic<std::int64_t> done{0};
     std::atomic<std::int64_t> total{0}; ///< 0 while it is not known
     std::atomic<bool> cancelled{false}; ///< the operator gave up; the work may be too far on to heed it
-};
 
-/// The operator gave up ahead of the end.
-class SendCancelled : public HostError {
-public:
-    using HostError::HostError;
+    /// For the work, at a place where it can still be left. @throws SendCancelled
+    void heedCancel() const
+    {
+        if (cancelled) throw SendCancelled("Se canceló el envío.");
+    }
 };
 
 class Sending {

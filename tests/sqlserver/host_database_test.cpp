@@ -6,6 +6,8 @@
 
 #include "data/odbc/connection.h"
 #include "host/database/database.h"
+#include "host/database/database_choice.h"
+#include "host/database/host_error.h"
 #include "host/database/own_connection.h"
 #include "host/database/sample_data.h"
 #include "host/database/schema.h"
@@ -65,6 +67,24 @@ TEST_F(HostOnSqlServer, makes_the_tables_and_the_sample_data_when_asked_and_only
     EXPECT_EQ(count(connection, "ut_icontact"), "201");
 }
 
+TEST_F(HostOnSqlServer, makes_nothing_while_another_program_makes_the_tables)
+{
+    host::DatabaseOptions options = newDatabase("disputada");
+    options.createSchema = true;
+    auto other = host::connect(host::OdbcTarget{options.connect});
+    other->execute("EXEC sp_getapplock @Resource = 'dncontacts.esquema', @LockMode = 'Exclusive', @LockOwner = "
+                   "'Session', @LockTimeout = 0");
+    try {
+        host::openDatabase(options);
+        ADD_FAILURE() << "no error";
+    } catch (const host::HostError& refusal) {
+        EXPECT_THAT(refusal.what(), HasSubstr("Otro programa está creando las tablas"));
+    }
+    EXPECT_EQ(refusalOf(*other, "SELECT * FROM ut_icontact"), 208) << "there is no table yet";
+    other.reset();
+    EXPECT_TRUE(host::openDatabase(options).created());
+}
+
 TEST_F(HostOnSqlServer, what_is_left_out_has_the_same_defaults_as_elsewhere)
 {
     const auto connection = freshDatabase("omisiones");
@@ -86,7 +106,7 @@ TEST_F(HostOnSqlServer, a_procedure_stores_a_text_once_and_accepts_known_ones)
         EXPECT_FALSE(connection->execute(std::string("EXEC AddOrigenContacto '") + text + "';"));
     EXPECT_THAT(rowsOf(*connection, "SELECT uf_Origen FROM ut_OrigenContacto ORDER BY uf_Origen"),
                 ElementsAre(Row{"Año nuevo"}, Row{"Página web"}, Row{"Radio"}));
-    EXPECT_EQ(refusalOf(*connection, "EXEC AddOrigenContacto 'con ' comilla';"), 105);
+    EXPECT_EQ(refusalOf(*connection, "EXEC AddOrigenContacto 'con ' comilla';"), 102);
     EXPECT_EQ(refusalOf(*connection, "EXEC AddOrigenContacto '" + std::string(501, 'x') + "';"), 2628);
 }
 

@@ -11,6 +11,16 @@
 
 namespace dn::tests {
 
+namespace {
+
+std::function<void(std::string_view)>& observerOfAll()
+{
+    static std::function<void(std::string_view)> observer;
+    return observer;
+}
+
+} // namespace
+
 Answer& Answer::gives(Rows rows)
 {
     error_.reset();
@@ -88,10 +98,16 @@ void FakeConnection::failAt(std::size_t n, const std::string& text, const std::s
     failures_.insert_or_assign(count_ + n, data::Error(sqlState, nativeCode, text));
 }
 
+void FakeConnection::observeAll(std::function<void(std::string_view)> observer)
+{
+    observerOfAll() = std::move(observer);
+}
+
 std::unique_ptr<data::Recordset> FakeConnection::execute(std::string_view statement)
 {
     ++count_;
     statements_.emplace_back(statement);
+    if (observerOfAll()) observerOfAll()(statement);
     if (hook_) hook_(statement);
     data::requireText(statement);
     if (state_ == closed) throw data::connectionClosed();

@@ -67,6 +67,9 @@ public:
     /// Called with each statement ahead of its answer, to look at the screen as it is then.
     void beforeExecute(std::function<void(std::string_view)> hook) { hook_ = std::move(hook); }
 
+    /// Called with each statement of every FakeConnection there is, for as long as the program runs.
+    static void observeAll(std::function<void(std::string_view)> observer);
+
     /// Every statement that was asked for, in order, those that failed among them.
     const std::vector<std::string>& statements() const { return statements_; }
     void forgetStatements() { statements_.clear(); }

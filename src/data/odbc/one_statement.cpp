@@ -13,14 +13,16 @@
 namespace dn::data::odbc {
 namespace {
 
-/// Reserved words that begin a statement and stand in the middle of none of those that read or write rows.
-constexpr std::array starters{"INSERT",     "UPDATE",      "DELETE",   "EXEC",      "EXECUTE",    "DROP",
-                              "CREATE",     "ALTER",       "TRUNCATE", "MERGE",     "GRANT",      "REVOKE",
-                              "DENY",       "DECLARE",     "BACKUP",   "RESTORE",   "SHUTDOWN",   "KILL",
-                              "USE",        "WAITFOR",     "IF",       "WHILE",     "BEGIN",      "COMMIT",
-                              "ROLLBACK",   "SAVE",        "DBCC",     "BULK",      "PRINT",      "RAISERROR",
-                              "RETURN",     "GOTO",        "OPEN",     "CLOSE",     "DEALLOCATE", "REVERT",
-                              "CHECKPOINT", "RECONFIGURE", "READTEXT", "WRITETEXT", "UPDATETEXT", "SETUSER"};
+/// Reserved words that begin a statement and stand in the middle of none of those that are looked at.
+constexpr std::array starters{
+    "ADD",         "ALTER",    "BACKUP", "BEGIN",      "BREAK",      "BULK",     "CHECKPOINT", "CLOSE",
+    "COMMIT",      "CONTINUE", "CREATE", "DBCC",       "DEALLOCATE", "DECLARE",  "DELETE",     "DENY",
+    "DROP",        "DUMP",     "EXEC",   "EXECUTE",    "GOTO",       "GRANT",    "IF",         "INSERT",
+    "KILL",        "LINENO",   "LOAD",   "MERGE",      "OPEN",       "PRINT",    "RAISERROR",  "READTEXT",
+    "RECONFIGURE", "RESTORE",  "RETURN", "REVERT",     "REVOKE",     "ROLLBACK", "SAVE",       "SETUSER",
+    "SHUTDOWN",    "TRUNCATE", "UPDATE", "UPDATETEXT", "USE",        "WAITFOR",  "WHILE",      "WRITETEXT"};
+/// What begins with one of these has others inside, or words of theirs: only a semicolon tells there.
+constexpr std::array holdersOfOthers{"IF", "WHILE", "DECLARE", "MERGE", "GRANT", "DENY", "REVOKE"};
 
 template <class Words>
 bool isOneOf(std::string_view word, const Words& words)
@@ -131,26 +133,37 @@ private:
     bool doubtful_ = false;
 };
 
-/// Looks at one statement that reads or writes rows, word by word.
-class RowStatement {
+/// Looks at one statement, word by word.
+class Statement {
 public:
-    explicit RowStatement(std::string_view first) : first_(first), before_(first) {}
+    explicit Statement(std::string_view first) : first_(first), depth_(first == "(" ? 1 : 0) {}
 
     /// Whether a word begins another statement.
     bool endsAt(std::string_view word)
     {
         depth_ += word == "(" ? 1 : word == ")" ? -1 : 0;
-        const bool ends = depth_ <= 0 && before_ != "." && begins(word);
+        const bool ends = depth_ <= 0 && !isHead(word) && begins(word);
         before_ = word;
         return ends;
     }
 
 private:
+    /// The word that the statement would begin with, were it not for the expressions in its WITH.
+    bool isHead(std::string_view word)
+    {
+        constexpr std::array heads{"SELECT", "INSERT", "UPDATE", "DELETE"};
+        if (!equalsNoCase(first_, "WITH") || !isOneOf(word, heads)) return false;
+        first_ = word;
+        return true;
+    }
+
     bool begins(std::string_view word)
     {
         if (equalsNoCase(word, "VALUES")) source_ = true;
         if (equalsNoCase(word, "SELECT")) return beginsWithSelect();
         if (equalsNoCase(word, "SET")) return !equalsNoCase(first_, "UPDATE") || std::exchange(set_, true);
+        if (equalsNoCase(word, "FETCH")) return !isOneOf(before_, std::array{"ROW", "ROWS"});
+        if (equalsNoCase(word, "TRIGGER")) return isOneOf(before_, std::array{"ENABLE", "DISABLE"});
         return isOneOf(word, starters);
     }
 
@@ -163,8 +176,8 @@ private:
     }
 
     std::string_view first_;
-    std::string_view before_;
-    int depth_ = 0;
+    std::string_view before_; // behind the first
+    int depth_;
     bool source_ = false; // of an INSERT was seen
     bool set_ = false;    // of an UPDATE was seen
 };
@@ -173,17 +186,17 @@ private:
 
 bool isStacked(std::string_view text)
 {
-    constexpr std::array definitions{"CREATE", "ALTER"};
-    constexpr std::array ofRows{"SELECT", "INSERT", "UPDATE", "DELETE", "EXEC", "EXECUTE"};
     Words words(text);
     const std::string_view first = words.next();
-    if (isOneOf(first, definitions)) return false;
-    RowStatement statement(first);
+    // The body of a procedure or a trigger is made of statements.
+    if (isOneOf(first, std::array{"CREATE", "ALTER"})) return false;
+    const bool wordsTell = !isOneOf(first, holdersOfOthers);
+    Statement statement(first);
     bool ended = false;
     for (std::string_view word = words.next(); !word.empty(); word = words.next()) {
         if (ended && word != ";") return true;
         ended = ended || word == ";";
-        if (isOneOf(first, ofRows) && statement.endsAt(word)) return true;
+        if (wordsTell && statement.endsAt(word)) return true;
     }
     return words.doubtful();
 }

@@ -10,7 +10,8 @@
 namespace dn::data::odbc {
 
 /// Whether a text in Transact-SQL holds a statement behind its first one: anything behind a semicolon, or a bare
-/// one behind a SELECT, INSERT, UPDATE, DELETE or EXEC. A definition (CREATE, ALTER) may hold what it likes.
+/// one. A definition (CREATE, ALTER) may hold what it likes. Behind what has the words of others inside (IF,
+/// WHILE, DECLARE, MERGE, GRANT, DENY, REVOKE) a bare one is not seen; no statement of the control begins so.
 bool isStacked(std::string_view text);
 
 /// @throws Error for a text with more than one statement; nothing of it was sent then.

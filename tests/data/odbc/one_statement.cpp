@@ -25,8 +25,21 @@ TEST(OneStatement, KeepsWhatBelongsToItInside)
           "select (select 1), 'it''s; select'",
           "SELECT updated, [exec], setting, a.[select] FROM deletes ORDER BY a OFFSET 0 ROWS FETCH NEXT 5 ROWS "
           "ONLY",
-          "CREATE PROCEDURE p @a INT AS SET NOCOUNT ON; INSERT INTO t VALUES (@a); SELECT 1", "SET DATEFORMAT ymd",
-          "BEGIN TRANSACTION"})
+          "CREATE PROCEDURE p @a INT AS SET NOCOUNT ON; INSERT INTO t VALUES (@a); SELECT 1",
+          "SET DATEFORMAT ymd",
+          "BEGIN TRANSACTION",
+          "(SELECT 1) UNION (SELECT 2)",
+          "SELECT enable, disable FROM trigger_table",
+          "WITH c AS (SELECT 1 AS a) SELECT a FROM c UNION SELECT 2",
+          "WITH c (a) AS (SELECT 1) UPDATE t SET b = 1",
+          "WITH c AS (SELECT 1 AS a), d AS (SELECT 2 AS a) INSERT INTO t SELECT a FROM c",
+          "DISABLE TRIGGER t ON u",
+          "DROP TABLE t",
+          "DECLARE @a INT = (SELECT 1)",
+          "IF 1 = 1 UPDATE t SET a = 1",
+          "MERGE t USING u ON t.a = u.a WHEN MATCHED THEN UPDATE SET b = 1 WHEN NOT MATCHED THEN INSERT VALUES "
+          "(1);",
+          "GRANT SELECT, UPDATE ON t TO u"})
         EXPECT_FALSE(isStacked(text)) << text;
 }
 
@@ -41,10 +54,29 @@ TEST(OneStatement, IsNoLongerOneBehindASemicolon)
 // Transact-SQL needs no semicolon.
 TEST(OneStatement, IsNoLongerOneWithAnotherThatFollowsBare)
 {
-    for (const char* text : {"UPDATE t SET a='x' UPDATE t SET b = 1 --'", "UPDATE t SET a = 1 SET NOCOUNT ON",
-                             "SELECT 1 SELECT 2", "SELECT 1 DROP TABLE t", "INSERT INTO t VALUES (1) SELECT 2",
-                             "INSERT INTO t SELECT 1 SELECT 2", "EXEC p 'x' exec q",
-                             "DELETE FROM t WHERE a = 'x' waitfor delay '1:00'", "SELECT (1) IF 1 = 1 PRINT 'x'"})
+    for (const char* text : {"UPDATE t SET a='x' UPDATE t SET b = 1 --'",
+                             "UPDATE t SET a = 1 SET NOCOUNT ON",
+                             "SELECT 1 SELECT 2",
+                             "SELECT 1 DROP TABLE t",
+                             "INSERT INTO t VALUES (1) SELECT 2",
+                             "INSERT INTO t SELECT 1 SELECT 2",
+                             "EXEC p 'x' exec q",
+                             "DELETE FROM t WHERE a = 'x' waitfor delay '1:00'",
+                             "SELECT (1) IF 1 = 1 PRINT 'x'",
+                             "(SELECT 1) DROP TABLE t",
+                             "(SELECT 1) SELECT 2",
+                             "WITH c AS (SELECT 1 AS a) SELECT a FROM c DELETE FROM t",
+                             "WITH c AS (SELECT 1 AS a) SELECT a FROM c SELECT 2",
+                             "DROP TABLE t DROP TABLE u",
+                             "SET NOCOUNT ON SET NOCOUNT OFF",
+                             "USE otra DELETE FROM t",
+                             "COMMIT BEGIN TRANSACTION",
+                             "SELECT a FROM t DISABLE TRIGGER x ON t",
+                             "SELECT a FROM t enable trigger x ON t",
+                             "SELECT a FROM t FETCH NEXT FROM c",
+                             "SELECT 1 ADD SIGNATURE TO p BY CERTIFICATE c",
+                             "DROP TABLE t; SELECT 1",
+                             "DECLARE @a INT; SELECT @a"})
         EXPECT_TRUE(isStacked(text)) << text;
 }
 
@@ -53,7 +85,9 @@ TEST(OneStatement, HidesNothingBehindANumber)
     for (const char* text :
          {"UPDATE t SET a='x' WHERE 1=12DELETE FROM t--'", "UPDATE t SET a='x' WHERE 1=1.DELETE FROM t--'",
           "SELECT 1.DROP TABLE t", "SELECT 1.5DROP TABLE t", "SELECT .5DROP TABLE t", "SELECT .5 DROP TABLE t",
-          "SELECT $DROP TABLE t", "SELECT $1DROP TABLE t", "SELECT 1eDROP TABLE t", "SELECT 0x1FDROP TABLE t"})
+          "SELECT $DROP TABLE t", "SELECT $.DROP TABLE t", "SELECT \u20AC.DROP TABLE t",
+          "UPDATE t SET a='x' WHERE 1>$.DELETE FROM t--'", "SELECT $1DROP TABLE t", "SELECT 1eDROP TABLE t",
+          "SELECT 0x1FDROP TABLE t"})
         EXPECT_TRUE(isStacked(text)) << text;
     for (const char* text : {"SELECT 12, 1.5, .5, -3, $2.50 FROM t1 WHERE a2 = 0 AND b IN (1,2)",
                              "UPDATE t SET a=1,b=2.0 WHERE k=12", "SELECT TOP(1)a FROM t"})

@@ -3,6 +3,7 @@
 
 // A mail on its way: to a real mail server with its moods, and into the outbox.
 
+#include "host/mail/attachments.h"
 #include "host/mail/delivery.h"
 #include "host/mail/smtp.h"
 #include "tests/host/mail/mail_server.h"
@@ -311,6 +312,24 @@ TEST_F(Outbox, gets_a_file_for_each_mail_for_the_users_eyes_alone)
     stamp(message);
     EXPECT_EQ(sends(), "");
     EXPECT_EQ(files().size(), 2U);
+}
+
+TEST_F(Outbox, gets_nothing_of_a_mail_that_was_cancelled_ahead_of_it)
+{
+    SendProgress progress;
+    progress.cancelled = true;
+    EXPECT_THROW(delivery(settings, message)(progress), SendCancelled);
+    EXPECT_FALSE(fs::exists(settings.outbox));
+}
+
+TEST(Attachments, are_read_no_further_when_the_mail_is_cancelled)
+{
+    SendProgress progress;
+    const Folder folder;
+    const std::vector<fs::path> files{folder.holds("lista.pdf", std::string(700'000, 'x'))};
+    EXPECT_EQ(readAttachments(files, 1, progress).at(0).content, std::string(700'000, 'x'));
+    progress.cancelled = true;
+    EXPECT_THROW(readAttachments(files, 1, progress), SendCancelled);
 }
 
 TEST_F(Outbox, that_cannot_be_written_is_told)

@@ -11,6 +11,7 @@ import java.sql.SQLException;
 import java.util.Locale;
 import java.util.Map;
 import java.util.concurrent.ConcurrentHashMap;
+import java.util.concurrent.atomic.AtomicReference;
 
 /** A database in memory with its stored procedures; all sessions share it. */
 final class Database {
@@ -20,6 +21,8 @@ final class Database {
     /** To which a text without an N ahead of it is cut. */
     final Charset codePage;
     final Map<String, Procedure> procedures = new ConcurrentHashMap<>();
+    /** Who holds the lock of applications; one is modelled, whatever its name. */
+    final AtomicReference<Object> applicationLock = new AtomicReference<>();
     private final Connection first; // keeps it alive
 
     private Database(String name, String collation) throws SQLException {

@@ -52,6 +52,7 @@ final class Executor implements Runner {
     }
 
     void close() {
+        if (database != null) database.applicationLock.compareAndSet(this, null);
         try {
             if (engine != null) engine.close();
         } catch (SQLException ignored) {
@@ -87,6 +88,7 @@ final class Executor implements Runner {
         return words.replace("\u0001IDENTITY\u0001", "CAST(" + identity + " AS NUMERIC(38,0))")
                 .replace("\u0001DATEFORMAT\u0001", dateFormat)
                 .replace("\u0001DATABASE\u0001", "'" + database.name + "'")
+                .replace("\u0001LOCK\u0001", database.applicationLock.get() == this ? "'Exclusive'" : "'NoLock'")
                 .replace("\u0001ROWCOUNT\u0001", String.valueOf(rowCount))
                 .replace("\u0001TRANCOUNT\u0001", engine.getAutoCommit() ? "0" : "1")
                 .replace("\u0001VERSION\u0001", "'Stand-in for Microsoft SQL Server'")
@@ -185,10 +187,13 @@ final class Executor implements Runner {
         reply.procedureDone();
     }
 
-    /** The two of the server's own that are modelled; a lock is given to whoever asks. */
+    /** The two of the server's own that are modelled. A lock that another session holds is not waited for. */
     private boolean systemProcedure(String name, List<String> values) throws SQLException {
         switch (name) {
-            case "sp_getapplock" -> reply.procedureDone();
+            case "sp_getapplock" -> {
+                database.applicationLock.compareAndSet(null, this);
+                reply.procedureDone();
+            }
             case "sp_rename" -> {
                 try (Statement statement = engine.createStatement()) {
                     statement.execute("ALTER TABLE " + Cursor.quote(values.get(0)) + " RENAME TO "

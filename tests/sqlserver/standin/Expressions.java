@@ -16,9 +16,9 @@ abstract class Expressions extends Cursor {
     /** Types, and what the engine calls them; the second map has those with a length, of which MAX is none there. */
     private static final Map<String, String> PLAIN_TYPES = Map.ofEntries(Map.entry("INT", "INTEGER"),
             Map.entry("INTEGER", "INTEGER"), Map.entry("BIGINT", "BIGINT"), Map.entry("SMALLINT", "SMALLINT"),
-            Map.entry("TINYINT", "SMALLINT"), Map.entry("BIT", "BOOLEAN"), Map.entry("REAL", "REAL"),
+            Map.entry("TINYINT", "TINYINT"), Map.entry("BIT", "BOOLEAN"), Map.entry("REAL", "REAL"),
             Map.entry("MONEY", "NUMERIC(19,4)"), Map.entry("DATETIME", "TIMESTAMP(3)"),
-            Map.entry("SMALLDATETIME", "TIMESTAMP(0)"), Map.entry("DATE", "DATE"), Map.entry("TEXT", "VARCHAR"),
+            Map.entry("SMALLDATETIME", "TIMESTAMP(1)"), Map.entry("DATE", "DATE"), Map.entry("TEXT", "VARCHAR"),
             Map.entry("NTEXT", "VARCHAR_IGNORECASE"), Map.entry("UNIQUEIDENTIFIER", "UUID"));
     private static final Map<String, String> TEXT_TYPES = Map.of("CHAR", "CHAR", "VARCHAR", "VARCHAR", "NCHAR", "CHAR",
             "NVARCHAR", "VARCHAR_IGNORECASE", "BINARY", "VARBINARY", "VARBINARY", "VARBINARY");
@@ -293,6 +293,7 @@ abstract class Expressions extends Cursor {
         else if (TEXT_TYPES.containsKey(name)) write(TEXT_TYPES.get(name) + textLength(name));
         else if (name.equals("DECIMAL") || name.equals("NUMERIC")) write("NUMERIC" + digits("(18,0)"));
         else if (name.equals("DATETIME2")) write("TIMESTAMP" + digits("(7)"));
+        else if (name.equals("DATETIMEOFFSET")) write("TIMESTAMP" + digits("(7)") + " WITH TIME ZONE");
         else if (name.equals("TIME")) write("TIME" + digits("(7)"));
         else if (name.equals("FLOAT")) {
             digits("");
