@@ -46,6 +46,14 @@ function(dn_configure target)
     endif()
 endfunction()
 
+# dn_configure_library(TARGET): as dn_configure, for what also becomes a shared library: names hidden but for those that
+# src/base/export.h marks, and code that can lie anywhere.
+function(dn_configure_library target)
+    dn_configure(${target})
+    set_target_properties(${target} PROPERTIES
+        POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
 # dn_unite(TARGET): compiles its files in bundles, which read each header and instantiate each template once. Names of
 # one file that hide those of another are no mistake then, and builds without bundles look for real ones.
 function(dn_unite target)

@@ -196,12 +196,14 @@ TEST_F(DataGridViewTest, offers_copying_selecting_and_sorting_in_its_menu)
     std::vector<std::string> entries;
     for (const QAction* action : menu->actions())
         if (!action->isSeparator()) entries.push_back(action->text().toStdString());
-    EXPECT_THAT(entries, ElementsAre("Copiar", "Seleccionar todo", "Ordenar por «Nombre»", "Ordenar por «Correos»",
-                                     "Ordenar por «Telefonos»"));
+    ASSERT_THAT(entries, ElementsAre("Copiar", "Seleccionar todo", "&Ordenar por"));
     menu->actions()[1]->trigger();
     menu->actions()[0]->trigger();
     EXPECT_EQ(QApplication::clipboard()->text().count(u'\n'), 2);
-    menu->actions()[3]->trigger();
+    const QList<QAction*> columns = menu->actions().back()->menu()->actions();
+    ASSERT_EQ(columns.size(), 3);
+    EXPECT_EQ(columns[0]->text(), QStringLiteral("«Nombre»"));
+    columns[0]->trigger();
     EXPECT_EQ(cell(0, 0), "a");
     menu->close();
 }
