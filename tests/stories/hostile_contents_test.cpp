@@ -61,10 +61,13 @@ protected:
     screen::ListView& lvw() { return control.elements().prospects.lvw; }
 };
 
-constexpr int nextContact = 2; // sub-items of the prospects
+/// Sub-items of the prospects.
+namespace column {
+constexpr int nextContact = 2;
 constexpr int name = 3;
 constexpr int received = 11;
 constexpr int days = 12;
+} // namespace column
 
 TEST_F(HostileContents, every_type_in_every_column_of_the_prospects)
 {
@@ -79,14 +82,14 @@ TEST_F(HostileContents, every_type_in_every_column_of_the_prospects)
         for (int row = 1; row <= 3; ++row) {
             const screen::ListItem item = lvw().ListItems()(row);
             const bool null = item.Key() == "K2";
-            EXPECT_EQ(item.ListSubItems()(name).Text(), null ? "" : one.shown) << one.type;
+            EXPECT_EQ(item.ListSubItems()(column::name).Text(), null ? "" : one.shown) << one.type;
             EXPECT_EQ(item.ListSubItems().Count(), 16) << one.type;
             if (null) {
-                EXPECT_EQ(item.ListSubItems()(nextContact).Text(), "Agendar") << one.type;
+                EXPECT_EQ(item.ListSubItems()(column::nextContact).Text(), "Agendar") << one.type;
             }
         }
         eachRowIsItself();
-        clicksHeader(name + 1);
+        clicksHeader(column::name + 1);
         eachRowIsItself();
     }
 }
@@ -134,7 +137,7 @@ TEST_F(HostileContents, texts_of_ten_megabytes)
     enters(ana);
     ASSERT_THAT(keysOf(lvw()), SizeIs(2));
     lvw().clickRow(keysOf(lvw())[0] == "K2" ? 0 : 1);
-    EXPECT_EQ(lvw().SelectedItem()->ListSubItems()(name).Text().size(), size);
+    EXPECT_EQ(lvw().SelectedItem()->ListSubItems()(column::name).Text().size(), size);
     EXPECT_GT(sees("txtInfo").size(), 8 * size) << "name, mail, telephone, company, job title, comments, link";
     EXPECT_GT(sees("txtBit").size(), size);
     EXPECT_THAT(sees("txtBit").substr(0, 200), HasSubstr("fin"));
@@ -147,10 +150,11 @@ TEST_F(HostileContents, bytes_that_are_no_text)
     database(prospectRowOf(1, "x'FFC328EDA080F4908080'"));
     database(prospectRowOf(2, "x'00410D0A'"));
     enters(ana);
-    EXPECT_THAT(cellsOf(lvw(), name), testing::UnorderedElementsAre("\xFF\xC3\x28\xED\xA0\x80\xF4\x90\x80\x80",
-                                                                    std::string("\0A\r\n", 4)));
+    EXPECT_THAT(
+        cellsOf(lvw(), column::name),
+        testing::UnorderedElementsAre("\xFF\xC3\x28\xED\xA0\x80\xF4\x90\x80\x80", std::string("\0A\r\n", 4)));
     eachRowIsItself();
-    clicksHeader(name + 1);
+    clicksHeader(column::name + 1);
     eachRowIsItself();
 }
 
@@ -166,8 +170,8 @@ TEST_F(HostileContents, dates_of_no_calendar)
     std::map<std::string, std::string> shown;
     for (int row = 1; row <= 5; ++row) {
         const screen::ListItem item = lvw().ListItems()(row);
-        shown[std::string(item.Key())] = std::string(item.ListSubItems()(nextContact).Text()) + "|" +
-                                         std::string(item.ListSubItems()(received).Text());
+        shown[std::string(item.Key())] = std::string(item.ListSubItems()(column::nextContact).Text()) + "|" +
+                                         std::string(item.ListSubItems()(column::received).Text());
     }
     EXPECT_EQ(shown["K1"], "Agendar|") << "the zero date is a null";
     EXPECT_EQ(shown["K2"], "9999-12-31 23:59:59|9999-12-31");
@@ -185,7 +189,7 @@ TEST_F(HostileContents, two_hundred_columns_more)
     const ReplacedTable other(*beside, "ut_icontact", columns);
     database(prospectRowOf(1, "'a'"));
     enters(ana);
-    EXPECT_THAT(cellsOf(lvw(), name), ElementsAre("a"));
+    EXPECT_THAT(cellsOf(lvw(), column::name), ElementsAre("a"));
     eachRowIsItself();
 }
 
@@ -198,8 +202,8 @@ TEST_F(HostileContents, a_table_without_the_columns)
     database("INSERT INTO ut_icontact (Sys_PK, uf_IEjecutivo, uf_Status) VALUES (4, 7, 0)");
     enters(ana);
     EXPECT_THAT(keysOf(lvw()), ElementsAre("K4"));
-    EXPECT_THAT(cellsOf(lvw(), name), ElementsAre(""));
-    EXPECT_THAT(cellsOf(lvw(), days), ElementsAre(""));
+    EXPECT_THAT(cellsOf(lvw(), column::name), ElementsAre(""));
+    EXPECT_THAT(cellsOf(lvw(), column::days), ElementsAre(""));
     eachRowIsItself();
 }
 
