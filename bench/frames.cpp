@@ -11,7 +11,8 @@
 
 namespace dn::bench {
 
-PaintCounter::PaintCounter(QAbstractScrollArea& view) : QObject(&view)
+PaintCounter::PaintCounter(QAbstractScrollArea& view)
+    : QObject(&view), items_(qobject_cast<const QAbstractItemView*>(&view))
 {
     view.viewport()->installEventFilter(this);
 }
@@ -29,7 +30,11 @@ void PaintCounter::awaitPaint()
 
 bool PaintCounter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint) ++paints_;
+    if (event->type() == QEvent::Paint) {
+        ++paints_;
+        const bool rows = items_ != nullptr && items_->model() != nullptr && items_->model()->rowCount() > 0;
+        if (rows && !withRows_) withRows_ = std::chrono::steady_clock::now();
+    }
     return QObject::eventFilter(watched, event);
 }
 

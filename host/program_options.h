@@ -6,6 +6,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <cstdint>
@@ -15,6 +16,7 @@ namespace dn::host {
 
 struct ProgramOptions {
     QString connect;                     ///< another database; empty for the private one
+    QStringList furtherServers;          ///< of that database, in the order in which they are tried
     bool createSchema = false;           ///< make the tables there
     QString dataFolder;                  ///< of the private database; empty for the usual place
     std::optional<std::size_t> demoRows; ///< prospects of the sample data of a new database
@@ -24,7 +26,15 @@ struct ProgramOptions {
     std::optional<std::int16_t> tab; ///< tab to show first
     bool dial = false;               ///< hand the number of a call to the desktop
     QString screenshot;              ///< file to render the window to, instead of showing it
-    QSize size{1280, 800};           ///< of the window, in logical pixels
+    std::optional<QSize> size;       ///< of the window, in logical pixels
+    QString theme;                   ///< a name of `themes`; empty for what was chosen before
+
+    /// Whether the command line says which database to open, so that nobody needs to be asked. A picture, and who
+    /// names the agent, wants no question either.
+    bool saysWhichDatabase() const
+    {
+        return !connect.isEmpty() || createSchema || !dataFolder.isEmpty() || demoRows.has_value();
+    }
 
     /// Whether the command line says who works, so that nobody needs to be asked.
     bool saysWhoWorks() const { return agent.has_value() || admin; }

@@ -14,7 +14,7 @@ Connection::Connection(const Options& options) : session_(std::make_unique<Sessi
 
 Connection::~Connection() { session_->wire().cut(); }
 
-int Connection::State() const { return session_->lost() ? closed : open; }
+int Connection::State() const { return session_->lost() || session_->hungUp() ? closed : open; }
 
 std::unique_ptr<Recordset> Connection::execute(std::string_view statement)
 {

@@ -21,7 +21,11 @@ public:
     explicit Session(const Options& options);
 
     MYSQL* handle() const { return handle_.get(); }
+    /// Whether a statement found the server gone.
     bool lost() const { return lost_; }
+    /// Whether the server has closed its end, which shows without a statement. A server that hangs, or whose
+    /// machine is gone without a word, does not show so.
+    bool hungUp() const;
     Wire& wire() { return wire_; }
 
     /// Sends a statement and waits for the head of its first result. @throws Error

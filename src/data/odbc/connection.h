@@ -20,7 +20,7 @@ class Session;
 struct TimeOuts {
     std::chrono::seconds connect{5}; ///< for the way to the server and the login
     /// For each wait on the server, so that it also bounds the slowest statement.
-    std::chrono::seconds read{30};
+    std::chrono::seconds read{60};
 };
 
 /// A connection of its own to one server, closed with the object.

@@ -142,7 +142,7 @@ public:
     bool endsAt(std::string_view word)
     {
         depth_ += word == "(" ? 1 : word == ")" ? -1 : 0;
-        const bool ends = depth_ <= 0 && before_ != "." && !isHead(word) && begins(word);
+        const bool ends = depth_ <= 0 && !isHead(word) && begins(word);
         before_ = word;
         return ends;
     }

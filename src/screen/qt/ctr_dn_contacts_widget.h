@@ -10,6 +10,7 @@
 #pragma once
 
 #include "base/export.h"
+#include "screen/qt/column_layout.h"
 
 #include <QWidget>
 
@@ -39,6 +40,12 @@ public:
     /// not treat. Without one, their text is shown in a box. Exceptions of methods that the host calls reach the
     /// host as exceptions.
     void onError(std::function<void(const std::exception&)> handler);
+
+    /// How the operator has arranged the columns of each list. The control itself has no settings: a host that
+    /// keeps this hands it back at its next start.
+    ColumnLayouts columnLayouts() const;
+    /// Arranges the columns of the lists that are named. What does not fit a list leaves it as it is.
+    void columnLayouts(const ColumnLayouts& layouts);
 
     /// The frame as it was designed.
     QSize sizeHint() const override;

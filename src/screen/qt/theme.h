@@ -22,9 +22,13 @@ DN_EXPORT QFont controlFont();
 /// Gives a screen of the control, and all widgets in it, the look. A window of it is built first.
 DN_EXPORT void dress(QWidget& root);
 
-enum class Scheme { light, dark };
+/// The last two are of high contrast: black and white, no grey between a text and what it stands on.
+enum class Scheme { light, dark, whiteOnBlack, blackOnWhite };
 
 DN_EXPORT QPalette schemePalette(Scheme scheme);
+
+/// The scheme that is nearest to a desktop's own palette.
+Scheme schemeOf(const QPalette& desktop);
 
 /// For a program that is built around the control: the look, the palette and the toolkit's own Spanish texts
 /// for all its windows.
