@@ -28,7 +28,7 @@ enum class Scheme { light, dark, whiteOnBlack, blackOnWhite };
 DN_EXPORT QPalette schemePalette(Scheme scheme);
 
 /// The scheme that is nearest to a desktop's own palette.
-Scheme schemeOf(const QPalette& desktop);
+DN_EXPORT Scheme schemeOf(const QPalette& desktop);
 
 /// For a program that is built around the control: the look, the palette and the toolkit's own Spanish texts
 /// for all its windows.
