@@ -137,7 +137,9 @@ TEST_P(LayoutAtTheWindow, counters_can_be_read_on_every_mark)
         const auto& counters = widgetIn<QLabel>(widget, "lblCuenta");
         const QPalette colours = counters.palette();
         EXPECT_TRUE(counters.autoFillBackground());
-        EXPECT_GE(screen::qt::contrast(colours.color(QPalette::WindowText), colours.color(QPalette::Window)), 7)
+        EXPECT_GE(screen::qt::contrast(colours.color(counters.foregroundRole()),
+                                       colours.color(counters.backgroundRole())),
+                  7)
             << mark;
         if (mark == 1) pictured("red");
     }
