@@ -5,6 +5,11 @@
 
 #include "host/database/database.h"
 #include "host/database/server_folder.h"
+#include "host/desktop/beginning.h"
+#include "host/desktop/connection_test.h"
+#include "host/desktop/secret_keyring.h"
+#include "host/desktop/view_menu.h"
+#include "host/desktop/window_memory.h"
 #include "host/ending.h"
 #include "host/main_window.h"
 #include "host/picture.h"
@@ -14,6 +19,9 @@
 #include "screen/qt/theme.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 
 #include <cstdio>
@@ -36,13 +44,42 @@ DatabaseOptions databaseOptions(const ProgramOptions& options)
     return result;
 }
 
-Database open(const ProgramOptions& options)
+Database open(const DatabaseOptions& options)
 {
     WaitingNote note;
-    return openDatabase(databaseOptions(options), [&note](const std::string& step) {
+    return openDatabase(options, [&note](const std::string& step) {
         std::fprintf(stderr, "%s\n", step.c_str());
         note.tell(QString::fromStdString(step));
     });
+}
+
+/// What the options name; without any the operator's own choice, which he is asked for once.
+std::optional<Database> openChosen(const ProgramOptions& options, Beginning& beginning)
+{
+    const bool picture = !options.screenshot.isEmpty();
+    const bool firstTime = !beginning.knows();
+    if (picture || options.saysWhichDatabase() || (firstTime && options.saysWhoWorks()))
+        return open(databaseOptions(options));
+    std::optional<Database> database;
+    beginning.open([&](const std::string& connect, bool createSchema) {
+        DatabaseOptions chosen = databaseOptions(options);
+        chosen.connect = connect;
+        chosen.createSchema = createSchema;
+        database.emplace(open(chosen));
+    });
+    return database;
+}
+
+void addChoosing(MainWindow& window, Beginning& beginning)
+{
+    auto* const choose = new QAction("Elegir otra &base de datos…", &window);
+    QObject::connect(choose, &QAction::triggered, &window, [&window, &beginning] {
+        if (!beginning.chooseAgain(&window)) return;
+        QMessageBox::information(&window, QApplication::applicationDisplayName(),
+                                 "La próxima vez que abra el programa se usará la base de datos que eligió.");
+    });
+    QMenu* const file = window.menuBar()->actions().constFirst()->menu();
+    file->insertAction(file->actions().constLast(), choose);
 }
 
 void warn(const Database& database, bool silent)
@@ -54,29 +91,45 @@ void warn(const Database& database, bool silent)
     }
 }
 
-int run(const ProgramOptions& options)
+std::optional<Worker> whoWorks(const ProgramOptions& options, dn::data::Connection& connection)
 {
-    Database database = open(options);
+    const auto agents = readAgents(connection);
+    if (!options.screenshot.isEmpty() || options.saysWhoWorks()) return workerFrom(options, agents);
+    const QString file = settingsFile("ventana.ini");
+    std::optional<Worker> worker = askWhoWorks(agents, rememberedAgent(file));
+    if (worker) rememberAgent(file, worker->agent);
+    return worker;
+}
+
+int run(const ProgramOptions& options, const QPalette& desktop)
+{
     const bool picture = !options.screenshot.isEmpty();
+    const QString memoryFile = settingsFile("ventana.ini");
+    const QString theme = !options.theme.isEmpty() || picture ? options.theme : rememberedTheme(memoryFile);
+    if (!theme.isEmpty()) useTheme(themeNamed(theme), desktop);
+    SecretKeyring keyring;
+    Beginning beginning(settingsFile("inicio.ini"), keyring, testConnection);
+    std::optional<Database> chosen = openChosen(options, beginning);
+    if (!chosen) return 0;
+    Database& database = *chosen;
     warn(database, picture);
-    const auto agents = readAgents(database.connection());
-    std::optional<Worker> worker;
-    if (picture || options.saysWhoWorks())
-        worker = workerFrom(options, agents);
-    else
-        worker = askWhoWorks(agents);
+    const std::optional<Worker> worker = whoWorks(options, database.connection());
     if (!worker) return 0;
 
     MainWindow window(database, *worker);
-    window.resize(options.size);
+    window.resize(options.size.value_or(QSize(1280, 800)));
     window.sendMails(options.dataFolder.isEmpty() ? defaultDataFolder()
                                                   : std::filesystem::path(options.dataFolder.toStdString()));
     if (options.dial) window.dialCalls();
+    WindowMemory memory(window, window.widget(), memoryFile);
+    addViewMenu(*window.menuBar(), memory, memoryFile, theme, desktop);
+    addChoosing(window, beginning);
     if (picture) {
         window.start(options.tab);
         savePicture(window, options.screenshot);
         return 0;
     }
+    memory.restore(!options.size);
     // A window that closes while a box stands before it does not end the program by itself.
     const EndingSignals ending([&window] {
         window.close();
@@ -84,8 +137,10 @@ int run(const ProgramOptions& options)
     });
     window.show();
     window.start(options.tab);
-    if (!window.isVisible()) return 0; // closed while it started, which is no news to a loop that begins later
-    return QApplication::exec();
+    // Closed while it started, it would be no news to a loop that begins later.
+    const int status = window.isVisible() ? QApplication::exec() : 0;
+    memory.save();
+    return status;
 }
 
 // What the toolkit does not need a display for.
@@ -124,11 +179,14 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("dncontacts");
     QApplication::setApplicationDisplayName("DN Contactos");
     QApplication::setApplicationVersion(DN_VERSION);
+    QApplication::setDesktopFileName("dncontacts"); // by which a desktop finds the entry of its menu
+    QApplication::setWindowIcon(QIcon(":/dn/icons/dncontacts.svg"));
+    const QPalette desktop = QApplication::palette();
     dn::screen::qt::applyTheme(application);
     ProgramOptions options;
     try {
         options = readProgramOptions();
-        return run(options);
+        return run(options, desktop);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         if (options.screenshot.isEmpty() && QGuiApplication::platformName() != "offscreen")

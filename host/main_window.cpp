@@ -18,6 +18,12 @@
 #include <utility>
 
 namespace dn::host {
+namespace {
+
+constexpr std::int16_t prospectsTab = 0;
+constexpr std::int16_t todayTab = 2;
+
+} // namespace
 
 MainWindow::MainWindow(Database& database, const Worker& worker, Reconnection::Pauses pauses)
     : database_(database),
@@ -59,8 +65,8 @@ void MainWindow::start(std::optional<std::int16_t> tab)
     place_ = placeOf(control());
     if (!tab) return;
     // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
-    if (*tab == desk::hoy) control().elements().top.lblItem(desk::prospectos).click();
-    control().elements().top.lblItem(*tab).click();
+    if (*tab == todayTab) control().openTab(prospectsTab);
+    control().openTab(*tab);
 }
 
 void MainWindow::bind()
@@ -161,17 +167,14 @@ void MainWindow::addMenus()
     });
 }
 
-// A click on the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
+// Opening the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
 void MainWindow::refresh()
 {
-    for (int i = 0; i < desk::TabStrip::count; ++i) {
-        screen::Label& tab = control().elements().top.lblItem(i);
-        if (tab.BackColor() == desk::TabStrip::activeColour) {
-            tab.click();
-            return;
-        }
-    }
-    control().RefreshRobot();
+    const std::int16_t tab = control().activeTab();
+    if (tab >= 0)
+        control().openTab(tab);
+    else
+        control().RefreshRobot();
 }
 
 void MainWindow::reportError(const std::exception& failure)

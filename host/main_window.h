@@ -47,6 +47,8 @@ public:
     /// Whether the control stands on the connection as it is: not while a lost one is away, nor until the control
     /// was started anew on the one that came back.
     bool ready() const;
+    /// The control as a widget.
+    screen::qt::CtrDnContactsWidget& widget() { return *widget_; }
 
 private:
     void addMenus();

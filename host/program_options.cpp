@@ -4,6 +4,7 @@
 #include "host/program_options.h"
 
 #include "host/database/host_error.h"
+#include "host/desktop/themes.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -36,6 +37,8 @@ const QCommandLineOption dialOption("dial",
 const QCommandLineOption screenshotOption("screenshot", "Guarda la ventana en un archivo PNG y termina.",
                                           "archivo");
 const QCommandLineOption sizeOption("size", "Tamaño de la ventana en píxeles lógicos (1280x800).", "ANCHOxALTO");
+const QCommandLineOption
+    themeOption("theme", "Colores: auto, claro, oscuro, contraste (fondo negro) o contraste-claro.", "nombre");
 
 template <class Number>
 std::optional<Number> numberOf(const QCommandLineParser& parser, const QCommandLineOption& option, qint64 smallest,
@@ -70,7 +73,7 @@ ProgramOptions readProgramOptions()
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({connectOption, createSchemaOption, dataFolderOption, demoRowsOption, agentOption,
-                       adminOption, userOption, tabOption, dialOption, screenshotOption, sizeOption});
+                       adminOption, userOption, tabOption, dialOption, screenshotOption, sizeOption, themeOption});
     if (!parser.parse(QCoreApplication::arguments())) throw HostError(parser.errorText().toStdString());
     if (parser.isSet("help")) parser.showHelp();
     if (parser.isSet("version")) parser.showVersion();
@@ -91,6 +94,9 @@ ProgramOptions readProgramOptions()
     options.dial = parser.isSet(dialOption);
     options.screenshot = parser.value(screenshotOption);
     if (parser.isSet(sizeOption)) options.size = sizeOf(parser.value(sizeOption));
+    options.theme = parser.value(themeOption);
+    if (!options.theme.isEmpty() && !isTheme(options.theme))
+        throw HostError("El valor de --theme debe ser auto, claro, oscuro, contraste o contraste-claro.");
     return options;
 }
 

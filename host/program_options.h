@@ -26,7 +26,15 @@ struct ProgramOptions {
     std::optional<std::int16_t> tab; ///< tab to show first
     bool dial = false;               ///< hand the number of a call to the desktop
     QString screenshot;              ///< file to render the window to, instead of showing it
-    QSize size{1280, 800};           ///< of the window, in logical pixels
+    std::optional<QSize> size;       ///< of the window, in logical pixels
+    QString theme;                   ///< a name of `themes`; empty for what was chosen before
+
+    /// Whether the command line says which database to open, so that nobody needs to be asked. A picture, and who
+    /// names the agent, wants no question either.
+    bool saysWhichDatabase() const
+    {
+        return !connect.isEmpty() || createSchema || !dataFolder.isEmpty() || demoRows.has_value();
+    }
 
     /// Whether the command line says who works, so that nobody needs to be asked.
     bool saysWhoWorks() const { return agent.has_value() || admin; }

@@ -30,7 +30,7 @@ QString nameOf(const std::vector<Agent>& agents, std::int32_t key)
 // One window: who works, and with which rights.
 class WhoWorksDialog : public QDialog {
 public:
-    explicit WhoWorksDialog(const std::vector<Agent>& agents) : agents_(agents)
+    WhoWorksDialog(const std::vector<Agent>& agents, std::optional<std::int32_t> last) : agents_(agents)
     {
         setObjectName("QuienTrabaja");
         setWindowTitle("¿Quién trabaja?");
@@ -38,7 +38,7 @@ public:
         list_->setAccessibleName("Agentes");
         for (const Agent& agent : agents_)
             list_->addItem(agent.name);
-        list_->setCurrentRow(0);
+        list_->setCurrentRow(rowOf(last));
         admin_->setObjectName("chkAdmon");
 
         auto* buttons = new QDialogButtonBox(this);
@@ -76,6 +76,13 @@ public:
     }
 
 private:
+    int rowOf(std::optional<std::int32_t> key) const
+    {
+        const auto found =
+            std::find_if(agents_.begin(), agents_.end(), [&](const Agent& agent) { return agent.key == key; });
+        return found == agents_.end() ? 0 : static_cast<int>(found - agents_.begin());
+    }
+
     const std::vector<Agent>& agents_;
     QListWidget* list_ = new QListWidget(this);
     QCheckBox* admin_ = new QCheckBox("Entrar como &administrador", this);
@@ -108,9 +115,9 @@ Worker workerFrom(const ProgramOptions& options, const std::vector<Agent>& agent
     return worker;
 }
 
-std::optional<Worker> askWhoWorks(const std::vector<Agent>& agents)
+std::optional<Worker> askWhoWorks(const std::vector<Agent>& agents, std::optional<std::int32_t> last)
 {
-    WhoWorksDialog dialog(agents);
+    WhoWorksDialog dialog(agents, last);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.worker();
 }

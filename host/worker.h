@@ -35,7 +35,7 @@ std::vector<Agent> readAgents(data::Connection& connection);
 /// @throws HostError for a key that is no agent's.
 Worker workerFrom(const ProgramOptions& options, const std::vector<Agent>& agents);
 
-/// Asks in a window. @return nothing when the operator gives up.
-std::optional<Worker> askWhoWorks(const std::vector<Agent>& agents);
+/// Asks in a window. @param last who worked before, if that is known. @return nothing when the operator gives up.
+std::optional<Worker> askWhoWorks(const std::vector<Agent>& agents, std::optional<std::int32_t> last);
 
 } // namespace dn::host

@@ -17,7 +17,7 @@ constexpr unsigned setUpReadTimeout = 3600;
 
 DatabaseChoice patient(DatabaseChoice choice)
 {
-    if (auto* target = std::get_if<MariadbTarget>(&choice)) target->readTimeout = setUpReadTimeout;
+    std::visit([](auto& target) { target.readTimeout = setUpReadTimeout; }, choice);
     return choice;
 }
 

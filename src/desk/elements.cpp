@@ -119,6 +119,10 @@ DetailElements::DetailElements(Container& control)
     picRight.Move(12090, 1230, 3630, 8925);
     Combo1.Move(30, 75, 2295, 330);
     Combo1.Enabled(false);
+    Combo1.AccessibleName("Cambiar estado");
+    txtInfo.AccessibleName("Datos");
+    txtBit.AccessibleName("Bitácora");
+    txtText.AccessibleName("Nota nueva");
     cmdEditC.Move(2370, 75, 1170, 330);
     cmdEditC.Caption("Corregir");
     cmdEditC.Picture("edit");

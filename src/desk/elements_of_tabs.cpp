@@ -36,8 +36,10 @@ screen::Twips layOutCommands(std::initializer_list<Command> commands, screen::Tw
 constexpr screen::Twips stripLeft = 105;
 constexpr screen::Twips stripTop = 45;
 
-void layOutList(ListView& list)
+/// @param spoken what a screen reader calls it.
+void layOutList(ListView& list, const char* spoken)
 {
+    list.AccessibleName(spoken);
     list.Move(0, 1230, 12090, 8925);
     list.Visible(false);
 }
@@ -75,7 +77,7 @@ PersonElements::PersonElements(Container& control)
                     {&genProyectFromContact, "Crear proyecto", "project", 1800}},
                    30, 75);
     layOutCounter(lblInfoContacto, "infoContacto");
-    layOutList(lvwContactos);
+    layOutList(lvwContactos, "Contactos");
 }
 
 OrganisationElements::OrganisationElements(Container& control)
@@ -96,7 +98,7 @@ OrganisationElements::OrganisationElements(Container& control)
                     {&genProyectFromOrganization, "Crear proyecto", "project", 1800}},
                    30, 75);
     layOutCounter(lblinfoOrganizacion, "infoOrganizacion");
-    layOutList(lvwOrganizaciones);
+    layOutList(lvwOrganizaciones, "Organizaciones");
 }
 
 TodayElements::TodayElements(Container& control)
@@ -114,7 +116,7 @@ TodayElements::TodayElements(Container& control)
                    30, 75);
     cmdEditHoy.Shortcut("F2"); // as the command has that it stands in for
     layOutCounter(lblcuenta2, "info");
-    layOutList(lvwHoy);
+    layOutList(lvwHoy, "Trabajo del día");
     lvwHoy.AddColumn("Tipo", 2000);
     lvwHoy.AddColumn("Hora", 3000);
     lvwHoy.AddColumn("Contacto", 5000);
@@ -135,6 +137,7 @@ ProspectElements::ProspectElements(Container& control, TopElements& top)
                                     "contact-verified-reached", "due-past", "due-ahead"}),
       lvw(&control, "lvw")
 {
+    cbStatus.AccessibleName("Estado de los prospectos");
     cbStatus.Move(stripLeft, stripTop, 1800, commandHeight);
     const screen::Twips behind = layOutCommands({{&cmdProsNewPros, "Nuevo", "new", 1200},
                                                  {&cmdProsNewProj, "Crear proyecto", "project", 1800},
@@ -145,7 +148,7 @@ ProspectElements::ProspectElements(Container& control, TopElements& top)
     chkProsSelPros.Move(60, 15, 2100, commandHeight);
     layOutCommands({{&cmdProsDiscart, "Descartar", "discard", 1440}}, 2220, 15);
 
-    layOutList(lvw);
+    layOutList(lvw, "Prospectos");
     lvw.SmallIcons(&imgContactos);
     constexpr screen::Twips wide = 1440;
     constexpr screen::Twips narrow = 800;
@@ -173,6 +176,7 @@ ProjectElements::ProjectElements(Container& control, TopElements& top)
       ImageList1("ImageList1", {"project-frozen", "project-cold", "project-warm", "project-hot", "project-lost"}),
       lvwProy(&control, "lvwProy")
 {
+    cbProjStatusProj.AccessibleName("Estado de los proyectos");
     cbProjStatusProj.Move(stripLeft, stripTop, 2190, commandHeight);
     layOutCommands({{&cmdProjNewProj, "Nuevo proyecto", "project", 1740}, // all within 800 pixels
                     {&cmdNewProjEditProj, "Editar", "edit", 1110},
@@ -182,7 +186,7 @@ ProjectElements::ProjectElements(Container& control, TopElements& top)
                     {&cmdNewProjTool, "Herramientas", "tools", 1560}},
                    2355, stripTop);
 
-    layOutList(lvwProy);
+    layOutList(lvwProy, "Proyectos");
     lvwProy.SmallIcons(&ImageList1);
     lvwProy.AddColumn("Fecha y hora", 2000);
     lvwProy.AddColumn("Actividad", 1440);

@@ -33,24 +33,36 @@ bool haveColumn(const std::vector<CellRange>& ranges, std::size_t column)
     return std::any_of(ranges.begin(), ranges.end(), [&](const CellRange& range) { return has(range, column); });
 }
 
-std::vector<std::size_t> columnsOf(const std::vector<CellRange>& ranges, std::size_t count)
+std::vector<std::size_t> columnsOf(const std::vector<CellRange>& ranges, const CopyForm& form, std::size_t count)
 {
-    std::vector<std::size_t> columns;
-    for (std::size_t column = 0; column < count; ++column)
-        if (haveColumn(ranges, column)) columns.push_back(column);
+    std::vector<std::size_t> columns = form.order;
+    for (std::size_t column = 0; column < count && form.order.empty(); ++column)
+        columns.push_back(column);
+    std::erase_if(columns, [&](std::size_t column) { return column >= count || !haveColumn(ranges, column); });
     return columns;
+}
+
+std::string captions(const ListView& list, const std::vector<std::size_t>& columns)
+{
+    std::string out;
+    for (const std::size_t column : columns) {
+        if (column != columns.front()) out += '\t';
+        appendCell(out, list.ColumnHeaders()[column].Text);
+    }
+    return out + '\n';
 }
 
 } // namespace
 
 // Row by row, with the ranges that reach into the present one at hand: both rows and ranges may be many.
-std::string copiedText(const ListView& list, std::vector<CellRange> ranges)
+std::string copiedText(const ListView& list, std::vector<CellRange> ranges, const CopyForm& form)
 {
     const ListRows& rows = list.rows();
-    const std::vector<std::size_t> columns = columnsOf(ranges, list.ColumnHeaders().size());
+    const std::vector<std::size_t> columns = columnsOf(ranges, form, list.ColumnHeaders().size());
     std::sort(ranges.begin(), ranges.end(),
               [](const CellRange& left, const CellRange& right) { return left.firstRow < right.firstRow; });
     std::string out;
+    if (form.headers && !columns.empty()) out = captions(list, columns);
     std::vector<CellRange> here;
     auto next = ranges.begin();
     for (std::size_t position = 0;; ++position) {

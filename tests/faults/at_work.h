@@ -5,6 +5,8 @@
 // means to, and gives a window up when it comes back or stays open.
 #pragma once
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/faults/watched_connection.h"
 #include "tests/support/fake_host.h"

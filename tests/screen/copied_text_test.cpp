@@ -58,6 +58,18 @@ TEST_F(CopiedText, has_what_is_there_of_a_range)
     EXPECT_EQ(copied({{0, 0, 0, 1}}), "");
 }
 
+TEST_F(CopiedText, has_the_columns_as_they_were_moved_and_their_captions_where_asked_for)
+{
+    const auto form = [&](std::vector<CellRange> ranges, CopyForm wanted) {
+        return copiedText(list, std::move(ranges), wanted);
+    };
+    EXPECT_EQ(form({{0, 1, 0, 1}}, {{1, 0}, false}), "b@x\tb\na@x\ta");
+    EXPECT_EQ(form({{0, 0, 0, 1}}, {{1, 0}, true}), "Correos\tNombre\nb@x\tb");
+    EXPECT_EQ(form({{0, 0, 1, 1}}, {{}, true}), "Correos\nb@x");
+    EXPECT_EQ(form({{0, 0, 0, 1}}, {{1, 7, 0}, false}), "b@x\tb");
+    EXPECT_EQ(form({{0, 0, 5, 6}}, {{}, true}), "");
+}
+
 TEST_F(CopiedText, holds_a_text_together_that_would_fall_apart)
 {
     addRow(list, "K4", {"dos\nlíneas", "con \"comillas\""});

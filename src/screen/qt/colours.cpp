@@ -3,6 +3,9 @@
 
 #include "screen/qt/colours.h"
 
+#include <QPalette>
+#include <QWidget>
+
 #include <algorithm>
 #include <cmath>
 
@@ -54,6 +57,20 @@ QColor mixed(const QColor& one, const QColor& other, float share)
     return QColor::fromRgbF(one.redF() + (other.redF() - one.redF()) * share,
                             one.greenF() + (other.greenF() - one.greenF()) * share,
                             one.blueF() + (other.blueF() - one.blueF()) * share);
+}
+
+void dressInColour(QWidget& widget, std::optional<Colour> back)
+{
+    const bool paper = back == white;
+    QPalette colours;
+    if (back && !paper) {
+        const QColor colour = fromColour(*back);
+        colours.setColor(QPalette::Window, colour);
+        colours.setColor(QPalette::WindowText, inkOn(colour));
+    }
+    widget.setPalette(colours);
+    widget.setBackgroundRole(paper ? QPalette::Base : QPalette::Window);
+    widget.setForegroundRole(paper ? QPalette::Text : QPalette::WindowText);
 }
 
 QColor inkOn(const QColor& background)

@@ -8,6 +8,10 @@
 
 #include <QColor>
 
+#include <optional>
+
+class QWidget;
+
 namespace dn::screen::qt {
 
 /// @param colour as the elements hold it, blue in the high byte.
@@ -21,6 +25,10 @@ QColor legible(const QColor& colour, const QColor& background);
 
 /// A colour between two: 0 is the one, 1 the other.
 QColor mixed(const QColor& one, const QColor& other, float share);
+
+/// Gives a widget the colour of its element for a background, with an ink that can be read on it. White is paper:
+/// it takes the colour that the theme gives to fields and lists.
+void dressInColour(QWidget& widget, std::optional<Colour> back);
 
 /// Black or white, whichever reads better on the background.
 QColor inkOn(const QColor& background);

@@ -3,11 +3,16 @@
 
 #include "screen/qt/ctr_dn_contacts_widget.h"
 
+#include "screen/qt/guard.h"
+#include "screen/qt/list_view_view.h"
 #include "screen/qt/panel_views.h"
 #include "screen/qt/ports.h"
+#include "screen/qt/text.h"
 #include "screen/qt/theme.h"
 #include "shell/ctr_dn_contacts.h"
+#include "shell/list_commands.h"
 
+#include <QHeaderView>
 #include <QVBoxLayout>
 
 namespace dn::screen::qt {
@@ -32,6 +37,8 @@ CtrDnContactsWidget::CtrDnContactsWidget(QWidget* parent) : QWidget(parent), par
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(parts_->view.get());
+    for (auto* const list : findChildren<ListViewView*>())
+        list->offer(shell::commandsOf(toUtf8(list->objectName()), control().elements()));
     dress(*this);
 }
 
@@ -39,7 +46,25 @@ CtrDnContactsWidget::~CtrDnContactsWidget() = default;
 
 ctrDnContacts& CtrDnContactsWidget::control() { return parts_->control; }
 
-void CtrDnContactsWidget::onError(Guard::Handler handler) { parts_->guard.onError(std::move(handler)); }
+void CtrDnContactsWidget::onError(std::function<void(const std::exception&)> handler)
+{
+    parts_->guard.onError(std::move(handler));
+}
+
+ColumnLayouts CtrDnContactsWidget::columnLayouts() const
+{
+    ColumnLayouts layouts;
+    for (const auto* const list : findChildren<ListViewView*>())
+        layouts[toUtf8(list->objectName())] = columnLayoutOf(*list->horizontalHeader());
+    return layouts;
+}
+
+void CtrDnContactsWidget::columnLayouts(const ColumnLayouts& layouts)
+{
+    for (const auto& [name, layout] : layouts)
+        if (auto* const list = findChild<ListViewView*>(fromUtf8(name)); list != nullptr)
+            arrangeColumns(*list->horizontalHeader(), layout);
+}
 
 QSize CtrDnContactsWidget::sizeHint() const { return {1048, 677}; } // the frame as designed
 

@@ -62,7 +62,7 @@ public:
     void setEditorData(QWidget* editor, const QModelIndex& index) const override
     {
         auto& field = *qobject_cast<QLineEdit*>(editor);
-        const QString text = index.data().toString();
+        const QString text = index.data(Qt::EditRole).toString();
         if (const screen::DataGrid* const grid = view_.grid(); grid != nullptr) {
             const auto room = grid->room(static_cast<std::size_t>(index.row()), index.column());
             field.setMaxLength(static_cast<int>(std::max(room, static_cast<std::size_t>(text.size()))));
@@ -102,6 +102,7 @@ DataGridView::DataGridView(screen::DataGrid& grid, QWidget* parent, Guard& guard
     setAutoScroll(true);
     setShowGrid(true);
     setCornerButtonEnabled(true);
+    horizontalHeader()->setSectionsMovable(false); // the keys go from cell to cell in the columns' own order
     // A press on a caption sorts; the table's own answer would select its column and another row.
     disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, nullptr);
     disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
@@ -176,7 +177,7 @@ void DataGridView::showSelected(int row)
     selectionModel()->setCurrentIndex(shownRows().index(row, column), QItemSelectionModel::ClearAndSelect);
 }
 
-void DataGridView::fillMenu(QMenu& menu)
+void DataGridView::addCopying(QMenu& menu, const QModelIndex& /*cell*/)
 {
     QAction* const copy = menu.addAction(QStringLiteral("Copiar"), QKeySequence(QKeySequence::Copy), this,
                                          [this] { copySelected(); });
@@ -184,8 +185,6 @@ void DataGridView::fillMenu(QMenu& menu)
     QAction* const all = menu.addAction(QStringLiteral("Seleccionar todo"), QKeySequence(QKeySequence::SelectAll),
                                         this, [this] { selectAll(); });
     all->setEnabled(shownRows().rowCount() > 0);
-    menu.addSeparator();
-    ListViewView::fillMenu(menu);
 }
 
 } // namespace dn::screen::qt

@@ -31,7 +31,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showSelected(int row) override;
-    void fillMenu(QMenu& menu) override;
+    void addCopying(QMenu& menu, const QModelIndex& cell) override;
 
 private:
     bool handleKey(const QKeyEvent& event);

@@ -63,13 +63,7 @@ void LabelView::mirror(const screen::Label& label)
     setAlignment(horizontal(label.Alignment()) | Qt::AlignVCenter);
     setFrameShape(label.BorderStyle() != 0 ? QFrame::Box : QFrame::NoFrame);
     setAutoFillBackground(label.BackColor().has_value());
-    QPalette colours;
-    if (label.BackColor()) {
-        const QColor back = fromColour(*label.BackColor());
-        colours.setColor(QPalette::Window, back);
-        colours.setColor(QPalette::WindowText, inkOn(back));
-    }
-    setPalette(colours);
+    dressInColour(*this, label.BackColor());
     if (label.AutoSize()) resize(sizeHint());
 }
 

@@ -64,9 +64,10 @@ void ListCellPainter::initStyleOption(QStyleOptionViewItem* option, const QModel
     if (!foreground.isValid()) return;
     const QColor colour = foreground.value<QBrush>().color();
     const QPalette& palette = option->palette;
-    const QColor base = palette.color(QPalette::Base);
+    const bool second = (option->features & QStyleOptionViewItem::Alternate) != 0;
+    const QColor paper = palette.color(second ? QPalette::AlternateBase : QPalette::Base);
     const bool enabled = (option->state & QStyle::State_Enabled) != 0;
-    const QColor ink = enabled ? legible(colour, base) : mixed(colour, base, 0.5F);
+    const QColor ink = enabled ? legible(colour, paper) : mixed(colour, paper, 0.5F);
     const QColor selected = legible(colour, palette.color(QPalette::Highlight));
     option->palette.setColor(QPalette::Text, ink);
     option->palette.setColor(QPalette::HighlightedText, selected);

@@ -3,23 +3,18 @@
 
 // What the operator does on a list view: clicks, keys, and the pointer that rests on a cell.
 
-#include "screen/copied_text.h"
 #include "screen/qt/list_cell_painter.h"
 #include "screen/qt/list_view_model.h"
 #include "screen/qt/list_view_view.h"
 #include "screen/qt/text.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QHelpEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace dn::screen::qt {
 
@@ -35,17 +30,19 @@ QRect ListViewView::checkRect(int row) const
     return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this);
 }
 
-// A check box is pressed and released; elsewhere a row is clicked as soon as the button goes down.
+// A check box is pressed and released; elsewhere a row is clicked as soon as the button goes down. The menu of the
+// context is that of the row below the pointer, which is clicked unless it is in hand already.
 void ListViewView::mousePressEvent(QMouseEvent* event)
 {
     pressedCheck_ = -1;
-    if (event->button() != Qt::LeftButton) return;
+    const bool right = event->button() == Qt::RightButton;
+    if (event->button() != Qt::LeftButton && !right) return;
     model_->publish();
     const int row = rowAt(event->pos().y());
     if (row < 0) return;
-    if (checkRect(row).contains(event->pos()))
+    if (!right && checkRect(row).contains(event->pos()))
         pressedCheck_ = row;
-    else if (columnAt(event->pos().x()) >= 0)
+    else if (columnAt(event->pos().x()) >= 0 && !(right && row == currentIndex().row()))
         click(row);
 }
 
@@ -75,29 +72,6 @@ void ListViewView::mouseDoubleClickEvent(QMouseEvent* event)
         bond_.gesture([&](auto& it) { it.doubleClickRow(static_cast<std::size_t>(index.row())); });
 }
 
-void ListViewView::contextMenuEvent(QContextMenuEvent* event)
-{
-    auto* const menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(*menu);
-    if (menu->isEmpty())
-        delete menu;
-    else
-        menu->popup(event->globalPos());
-}
-
-// The headers for who works with the keyboard: the menu key lists the columns to sort by,
-// where a list can be sorted.
-void ListViewView::fillMenu(QMenu& menu)
-{
-    const screen::ListView* const list = bond_.element();
-    if (list == nullptr || list->ColumnClick.listeners() == 0) return;
-    for (const ColumnHeader& header : list->ColumnHeaders())
-        menu.addAction(
-            QStringLiteral("Ordenar por «%1»").arg(fromUtf8(header.Text)), this,
-            [this, column = header.Index - 1] { bond_.gesture([&](auto& it) { it.clickHeader(column); }); });
-}
-
 void ListViewView::keyPressEvent(QKeyEvent* event)
 {
     model_->publish();
@@ -112,17 +86,6 @@ void ListViewView::keyPressEvent(QKeyEvent* event)
         keyboardSearch(text);
     else
         event->ignore();
-}
-
-void ListViewView::copySelected() const
-{
-    const screen::ListView* const list = bond_.element();
-    if (list == nullptr) return;
-    std::vector<CellRange> ranges;
-    for (const QItemSelectionRange& range : selectionModel()->selection())
-        ranges.push_back({static_cast<std::size_t>(range.top()), static_cast<std::size_t>(range.bottom()),
-                          static_cast<std::size_t>(range.left()), static_cast<std::size_t>(range.right())});
-    if (!ranges.empty()) QGuiApplication::clipboard()->setText(fromUtf8(copiedText(*list, std::move(ranges))));
 }
 
 bool ListViewView::handleKey(const QKeyEvent& event)

@@ -71,6 +71,7 @@ void ListViewView::arrange()
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setMinimumSectionSize(16);
+    horizontalHeader()->setSectionsMovable(true);
 }
 
 void ListViewView::mirror(const screen::ListView& list)

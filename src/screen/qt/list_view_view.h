@@ -5,12 +5,14 @@
 // and becomes a gesture, and the selection that it shows is only ever the element's.
 #pragma once
 
+#include "screen/button.h"
 #include "screen/list_view.h"
 #include "screen/qt/bond.h"
 
 #include <QTableView>
 
 #include <optional>
+#include <vector>
 
 class QMenu;
 
@@ -19,11 +21,17 @@ namespace dn::screen::qt {
 class ListViewModel;
 
 class ListViewView : public QTableView {
+    Q_OBJECT
+
 public:
     ListViewView(screen::ListView& list, QWidget* parent, Guard& guard);
 
     /// Where the check box of a row is drawn; empty for a list without check boxes.
     QRect checkRect(int row) const;
+
+    /// Offers buttons in the menu of the context: those that show, enabled as they are.
+    /// @param commands those of one panel together. They outlive this view.
+    void offer(std::vector<screen::Button*> commands) { commands_ = std::move(commands); }
 
     void keyboardSearch(const QString& text) override;
 
@@ -36,8 +44,9 @@ protected:
     Guard& guard() const { return bond_.guard(); }
     /// Shows a row as the list's selected one.
     virtual void showSelected(int row);
-    /// What the menu of the context offers; it goes with its closing.
-    virtual void fillMenu(QMenu& menu);
+    /// Adds what can be copied to the menu of the context.
+    /// @param cell on which the menu came up; not valid where the keyboard called it.
+    virtual void addCopying(QMenu& menu, const QModelIndex& cell);
     /// Copies the cells that are selected, as a spreadsheet takes them.
     void copySelected() const;
     void reveal(int row);
@@ -64,11 +73,17 @@ private:
     void pressSpace(int row);
     std::optional<int> target(int key) const;
     QString tipAt(const QModelIndex& index) const;
+    QMenu* contextMenu(const QModelIndex& cell);
+    void addCommands(QMenu& menu);
+    void addSorting(QMenu& menu);
+    void copyRows(bool checkedOnly) const;
+    std::vector<std::size_t> columnOrder() const;
 
     ListViewModel* model_; // owned by this as its parent
     int pressedCheck_ = -1;
     std::optional<int> linesAbove_; ///< those above the selected row, if it was in view when the rows went away
     bool mirroring_ = false;
+    std::vector<screen::Button*> commands_;
     Bond<screen::ListView> bond_;
     Subscription revealed_;
 };

@@ -24,13 +24,7 @@ PanelView::PanelView(screen::PicturePanel& panel, QWidget* parent, Guard& guard)
 void PanelView::mirror(const screen::PicturePanel& panel)
 {
     setFrameStyle(panel.framed() ? QFrame::StyledPanel | QFrame::Raised : QFrame::NoFrame);
-    QPalette colours;
-    if (panel.BackColor()) { // the texts on it follow
-        const QColor back = fromColour(*panel.BackColor());
-        colours.setColor(QPalette::Window, back);
-        colours.setColor(QPalette::WindowText, inkOn(back));
-    }
-    setPalette(colours);
+    dressInColour(*this, panel.BackColor()); // the texts on it follow
 }
 
 ControlView::ControlView(screen::UserControl& control, QWidget* parent, Guard& guard)

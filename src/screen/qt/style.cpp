@@ -76,14 +76,15 @@ void drawField(const QStyleOption& option, QPainter& painter)
             looks.enabled ? base : mixed(base, option.palette.color(QPalette::Window), 0.6F));
 }
 
-/// The colours of a mark that is set, and of one that is not.
-void setMarkColours(QPainter& painter, const QStyleOption& option, const Looks& looks)
+/// Sets the colours of a mark that is set, or of one that is not. @return what the sign in it is drawn with.
+QColor setMarkColours(QPainter& painter, const QStyleOption& option, const Looks& looks)
 {
     const QColor base = option.palette.color(QPalette::Base);
     const QColor edge = mixed(looks.line, option.palette.color(QPalette::WindowText), 0.25F);
     const QColor full = looks.enabled ? looks.accent : looks.line;
     painter.setPen(looks.on ? full : looks.hover || looks.focus ? looks.accent : edge);
     painter.setBrush(looks.on ? full : base);
+    return inkOn(full);
 }
 
 void drawCheckMark(const QStyleOption& option, QPainter& painter)
@@ -91,14 +92,14 @@ void drawCheckMark(const QStyleOption& option, QPainter& painter)
     const Looks looks(option);
     const SmoothPainter smooth(painter);
     const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    setMarkColours(painter, option, looks);
+    const QColor sign = setMarkColours(painter, option, looks);
     painter.drawRoundedRect(box, 2.5, 2.5);
     if (!looks.on) return;
     QPainterPath tick(box.topLeft() + QPointF(box.width() * 0.22, box.height() * 0.52));
     tick.lineTo(box.topLeft() + QPointF(box.width() * 0.42, box.height() * 0.72));
     tick.lineTo(box.topLeft() + QPointF(box.width() * 0.78, box.height() * 0.30));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(sign, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(tick);
 }
 
@@ -107,11 +108,11 @@ void drawOptionMark(const QStyleOption& option, QPainter& painter)
     const Looks looks(option);
     const SmoothPainter smooth(painter);
     const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    setMarkColours(painter, option, looks);
+    const QColor sign = setMarkColours(painter, option, looks);
     painter.drawEllipse(box);
     if (!looks.on) return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::white);
+    painter.setBrush(sign);
     painter.drawEllipse(box.center(), box.width() * 0.2, box.height() * 0.2);
 }
 

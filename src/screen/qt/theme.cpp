@@ -3,6 +3,7 @@
 
 #include "screen/qt/theme.h"
 
+#include "screen/qt/colours.h"
 #include "screen/qt/spanish.h"
 #include "screen/qt/style.h"
 
@@ -46,8 +47,9 @@ QPalette paletteOf(const Tones& tones)
     palette.setColor(QPalette::Dark, tones.dark);
     palette.setColor(QPalette::ToolTipBase, tones.base);
     palette.setColor(QPalette::Highlight, tones.highlight);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, tones.dim);
+    palette.setColor(QPalette::HighlightedText, inkOn(tones.highlight));
+    palette.setColor(QPalette::PlaceholderText, legible(tones.dim, tones.base));
+    palette.setColor(QPalette::Link, legible(tones.highlight, tones.window));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, tones.dim);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.mid);
@@ -74,18 +76,35 @@ void dress(QWidget& root)
 
 QPalette schemePalette(Scheme scheme)
 {
-    if (scheme == Scheme::dark)
+    switch (scheme) {
+    case Scheme::dark:
         return paletteOf({0xFF23272E, 0xFF1B1E24, 0xFF20242B, 0xFFE4E7EB, 0xFF2F353E, 0xFF444B57, 0xFF12151A,
-                          0xFF2F6DB5, 0xFF808894});
+                          0xFF3372BE, 0xFF808894});
+    case Scheme::whiteOnBlack:
+        return paletteOf({0xFF000000, 0xFF000000, 0xFF101010, 0xFFFFFFFF, 0xFF000000, 0xFFFFFFFF, 0xFFFFFFFF,
+                          0xFFFFE000, 0xFFB0B0B0});
+    case Scheme::blackOnWhite:
+        return paletteOf({0xFFFFFFFF, 0xFFFFFFFF, 0xFFF4F4F4, 0xFF000000, 0xFFFFFFFF, 0xFF000000, 0xFF000000,
+                          0xFF000060, 0xFF505050});
+    case Scheme::light:
+        break;
+    }
     return paletteOf({0xFFF3F5F7, 0xFFFFFFFF, 0xFFF7F9FB, 0xFF1F2933, 0xFFFDFDFE, 0xFFC3CBD4, 0xFF8E99A6,
                       0xFF2B6CB0, 0xFF8A94A0});
 }
 
-void applyTheme(QApplication& application)
+// A palette of high contrast has nothing but black and white; others stay a little below.
+Scheme schemeOf(const QPalette& desktop)
 {
-    const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
-    applyTheme(application, dark ? Scheme::dark : Scheme::light);
+    constexpr double stark = 20;
+    const QColor window = desktop.color(QPalette::Window);
+    const bool dark = window.lightness() < 128;
+    if (contrast(window, desktop.color(QPalette::WindowText)) >= stark)
+        return dark ? Scheme::whiteOnBlack : Scheme::blackOnWhite;
+    return dark ? Scheme::dark : Scheme::light;
 }
+
+void applyTheme(QApplication& application) { applyTheme(application, schemeOf(QApplication::palette())); }
 
 void applyTheme(QApplication& application, Scheme scheme)
 {

@@ -55,6 +55,12 @@ protected:
         return execute("python3 '" DN_AT_A_DISPLAY "' '" DN_PROGRAM "' " + arguments + " -- " + steps);
     }
 
+    /// Runs it with a screen reader, which presses these tabs one after the other.
+    Outcome heard(const std::string& arguments, const std::string& tabs) const
+    {
+        return execute("dbus-run-session -- '" DN_SCREEN_READER "' '" DN_PROGRAM "' " + arguments + " -- " + tabs);
+    }
+
     /// Puts a program of that name ahead of all others, which writes its argument into a file. @return the file.
     std::filesystem::path insteadOf(const std::string& program) const
     {
@@ -123,6 +129,7 @@ TEST_F(Program, says_in_spanish_what_is_wrong_with_its_options)
         {"--demo-rows muchos", "debe ser un número entero"},
         {"--size grande", "ANCHOxALTO"},
         {"sobra", "No se entiende «sobra»"},
+        {"--theme rosa", "auto, claro, oscuro, contraste o contraste-claro"},
         {"--data-folder /proc/no/existe", "carpeta de datos"},
     };
     for (const auto& [arguments, text] : wrong) {
@@ -177,6 +184,26 @@ TEST_F(Program, hands_the_number_of_a_call_to_the_desktop_where_it_was_asked_to)
     const Outcome dialling = atADisplay("--dial" + who, call + "FILE='" + called.string() + "' " + ends);
     EXPECT_EQ(dialling.status, 0) << dialling.said;
     EXPECT_THAT(read(called), testing::MatchesRegex("tel:[+]?[0-9]{5,15}\n"));
+}
+
+TEST_F(Program, has_a_name_for_everything_that_a_screen_reader_meets)
+{
+    const Outcome outcome =
+        heard("--demo-rows 50 --agent 1 --user prueba", "Prospectos Proyectos Hoy Organizaciones Contactos");
+    EXPECT_EQ(outcome.status, 0) << outcome.said;
+}
+
+TEST_F(Program, offers_sample_data_at_its_first_start_and_remembers_it)
+{
+    const Outcome first = atADisplay("--admin --size 900x600 --user prueba --data-folder '" +
+                                         (home_ / "d").string() + "' --demo-rows 50",
+                                     "TOP=prueba END");
+    EXPECT_EQ(first.status, 0) << first.said;
+    EXPECT_FALSE(std::filesystem::exists(home_ / ".config/dncontacts/inicio.ini")) << "the options said it all";
+    const Outcome asked = atADisplay("", "TOP=Bienvenida KEYS=Return:trabaja KEYS=Return:DN END");
+    EXPECT_THAT(read(home_ / ".config/dncontacts/inicio.ini"), HasSubstr("tipo=ejemplo")) << asked.said;
+    const Outcome again = atADisplay("--user prueba", "TOP=trabaja END");
+    EXPECT_THAT(again.said, Not(HasSubstr("never came"))) << again.said;
 }
 
 TEST_F(Program, ends_when_told_to_while_a_box_stands_before_its_window)

@@ -14,6 +14,7 @@
 #include "screen/timer.h"
 #include "tests/screen/qt/stage.h"
 
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QEventLoop>
 #include <QProgressBar>
@@ -64,6 +65,9 @@ TEST_F(SmallViewsTest, texts_on_a_coloured_panel_stay_legible)
     show();
     EXPECT_EQ(widget<QWidget>("lbl").palette().color(QPalette::WindowText), QColor(Qt::white));
     panel.BackColor(0xFFFFFF);
+    const QPalette usual = QApplication::palette(); // white is paper
+    EXPECT_EQ(widget<QWidget>("lbl").palette().color(QPalette::WindowText), usual.color(QPalette::WindowText));
+    panel.BackColor(0xF0F0F0);
     EXPECT_EQ(widget<QWidget>("lbl").palette().color(QPalette::WindowText), QColor(Qt::black));
     view.reset();
 }

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/desktop/beginning.h"
+
+#include "host/desktop/password_box.h"
+
+#include <exception>
+#include <utility>
+
+namespace dn::host {
+
+Beginning::Beginning(QString file, Keyring& keyring, FirstStart::ConnectionTest test)
+    : file_(std::move(file)), keyring_(keyring), test_(std::move(test))
+{
+}
+
+bool Beginning::open(const Opener& opener)
+{
+    std::optional<StartChoice> known = readStartChoice(file_);
+    std::optional<StartAnswer> answer;
+    if (known) answer = remembered(*known);
+    QString problem;
+    for (;;) {
+        if (!answer) answer = ask(known, problem, nullptr);
+        if (!answer) return false;
+        try {
+            opener(answer->choice.own ? connectText(answer->choice.database, answer->password) : "",
+                   answer->createSchema);
+            break;
+        } catch (const std::exception& failure) {
+            problem = QString::fromUtf8(failure.what());
+        }
+        known = answer->choice;
+        answer.reset();
+    }
+    keep(*answer);
+    return true;
+}
+
+bool Beginning::chooseAgain(QWidget* over)
+{
+    const std::optional<StartAnswer> answer = ask(readStartChoice(file_), {}, over);
+    if (answer) keep(*answer);
+    return answer.has_value();
+}
+
+std::optional<StartAnswer> Beginning::ask(const std::optional<StartChoice>& before, const QString& problem,
+                                          QWidget* over)
+{
+    FirstStart window(test_, keyring_.answers(), over);
+    if (before) window.fillWith(*before);
+    if (!problem.isEmpty()) window.complain(problem);
+    if (window.exec() != QDialog::Accepted) return std::nullopt;
+    return window.answer();
+}
+
+/// The choice with its password; nothing when that is not to be had, which brings up the window of the first
+/// start.
+std::optional<StartAnswer> Beginning::remembered(const StartChoice& choice)
+{
+    StartAnswer answer;
+    answer.choice = choice;
+    if (!choice.own) return answer;
+    const std::string account = accountOf(choice.database);
+    if (const auto password = keyring_.find(account)) {
+        answer.password = *password;
+        answer.keepPassword = true;
+        return answer;
+    }
+    const auto typed = askPassword(QString::fromStdString(account), keyring_.answers());
+    if (!typed) return std::nullopt;
+    answer.password = typed->password;
+    answer.keepPassword = typed->keep;
+    return answer;
+}
+
+// A choice that cannot be written down is asked for again next time: no reason to keep anybody from his work.
+void Beginning::keep(const StartAnswer& answer)
+{
+    writeStartChoice(file_, answer.choice);
+    if (!answer.choice.own) return;
+    const std::string account = accountOf(answer.choice.database);
+    if (!answer.keepPassword)
+        keyring_.forget(account);
+    else if (keyring_.find(account) != answer.password)
+        keyring_.keep(account, answer.password);
+}
+
+} // namespace dn::host

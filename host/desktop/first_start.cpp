@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/desktop/first_start.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace dn::host {
+namespace {
+
+constexpr int textWidth = 520; // logical pixels
+constexpr int standardPort = 3306;
+constexpr int lastPort = 65'535;
+
+enum Kind : int { mariadb, odbc };
+
+QLabel* paragraph(const QString& text, QWidget* parent)
+{
+    auto* const label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+/// What an option means, below it and in line with its caption.
+QLabel* explanation(const QString& text, QWidget* parent)
+{
+    constexpr int indent = 22;
+    QLabel* const label = paragraph(text, parent);
+    label->setContentsMargins(indent, 0, 0, 4);
+    return label;
+}
+
+} // namespace
+
+FirstStart::FirstStart(ConnectionTest test, bool canKeep, QWidget* over) : QDialog(over), test_(std::move(test))
+{
+    setObjectName("PrimerInicio");
+    setWindowTitle("Bienvenida");
+    build(canKeep);
+    for (auto* const choice : {sample_, own_})
+        connect(choice, &QRadioButton::toggled, this, [this] { follow(); });
+    connect(kind_, &QComboBox::currentIndexChanged, this, [this] { follow(); });
+    connect(tryButton_, &QPushButton::clicked, this, [this] { tryOut(); });
+    sample_->setChecked(true);
+    follow();
+    sample_->setFocus();
+}
+
+void FirstStart::build(bool canKeep)
+{
+    sample_->setObjectName("optEjemplo");
+    own_->setObjectName("optPropia");
+    auto* const buttons = new QDialogButtonBox(this);
+    buttons->addButton("&Empezar", QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton("&Salir", QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(paragraph("Este programa lleva sus prospectos, sus proyectos y sus llamadas. ¿Con qué datos "
+                                "quiere trabajar? Después le preguntará quién es usted.",
+                                this));
+    layout->addWidget(sample_);
+    layout->addWidget(explanation("Todo queda en su carpeta y no hace falta instalar nada más. Puede cambiar y "
+                                  "borrar lo que quiera.",
+                                  this));
+    layout->addWidget(own_);
+    layout->addWidget(explanation("La de su empresa, en un servidor MariaDB, MySQL o SQL Server.", this));
+    fields_ = ownFields();
+    layout->addWidget(fields_);
+    if (!canKeep) {
+        keep_->setText("No hay llavero en este escritorio: la clave se pide cada vez");
+        keep_->setEnabled(false);
+    }
+    keep_->setChecked(canKeep);
+    result_->setObjectName("lblResultado");
+    result_->setTextFormat(Qt::PlainText);
+    result_->setWordWrap(true);
+    layout->addWidget(result_);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    result_->setFixedWidth(textWidth);
+}
+
+QWidget* FirstStart::ownFields()
+{
+    auto* const fields = new QWidget(this);
+    form_ = new QFormLayout(fields);
+    form_->setContentsMargins(22, 0, 0, 0);
+    const auto add = [this](const QString& label, QWidget* field, const QString& name) {
+        field->setObjectName(name);
+        field->setAccessibleName(QString(label).remove(u'&').remove(u':'));
+        form_->addRow(label, field);
+    };
+    kind_->addItems({"MariaDB o MySQL", "SQL Server u otro, por ODBC"});
+    add("&Clase de servidor:", kind_, "cbClase");
+    add("Ser&vidor:", server_, "txtServidor");
+    port_->setRange(1, lastPort);
+    port_->setValue(standardPort);
+    add("Puert&o:", port_, "txtPuerto");
+    add("&Base de datos:", name_, "txtBase");
+    text_->setPlaceholderText("DRIVER=FreeTDS;SERVER=…;DATABASE=…");
+    add("Ca&dena de conexión:", text_, "txtCadena");
+    add("&Usuario:", user_, "txtUsuario");
+    password_->setEchoMode(QLineEdit::Password);
+    add("C&lave:", password_, "txtClave");
+    keep_->setObjectName("chkGuardar");
+    form_->addRow(keep_);
+    create_->setObjectName("chkCrear");
+    form_->addRow(create_);
+    tryButton_->setObjectName("cmdProbar");
+    tryButton_->setAutoDefault(false);
+    auto* const row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(tryButton_);
+    form_->addRow(row);
+    return fields;
+}
+
+// Only what the choice asks for shows.
+void FirstStart::follow()
+{
+    const bool byOdbc = kind_->currentIndex() == odbc;
+    fields_->setVisible(own_->isChecked());
+    for (QWidget* const field :
+         {static_cast<QWidget*>(server_), static_cast<QWidget*>(port_), static_cast<QWidget*>(name_)})
+        form_->setRowVisible(field, !byOdbc);
+    form_->setRowVisible(text_, byOdbc);
+    say({}, false);
+}
+
+void FirstStart::fillWith(const StartChoice& choice)
+{
+    (choice.own ? own_ : sample_)->setChecked(true);
+    if (!choice.own) return;
+    kind_->setCurrentIndex(choice.database.odbc ? odbc : mariadb);
+    server_->setText(choice.database.server);
+    port_->setValue(choice.database.port);
+    name_->setText(choice.database.name);
+    text_->setText(choice.database.text);
+    user_->setText(choice.database.user);
+}
+
+void FirstStart::complain(const QString& problem) { say(problem, true); }
+
+OwnDatabase FirstStart::database() const
+{
+    OwnDatabase database;
+    database.odbc = kind_->currentIndex() == odbc;
+    database.user = user_->text().trimmed();
+    if (database.odbc) {
+        database.text = text_->text().trimmed();
+        return database;
+    }
+    database.server = server_->text().trimmed();
+    database.port = port_->value();
+    database.name = name_->text().trimmed();
+    return database;
+}
+
+StartAnswer FirstStart::answer() const
+{
+    StartAnswer answer;
+    answer.choice.own = own_->isChecked();
+    if (!answer.choice.own) return answer;
+    answer.choice.database = database();
+    answer.password = password_->text().toStdString();
+    answer.keepPassword = keep_->isEnabled() && keep_->isChecked();
+    answer.createSchema = create_->isChecked();
+    return answer;
+}
+
+void FirstStart::tryOut()
+{
+    if (const QString problem = problemOf(database()); !problem.isEmpty()) {
+        complain(problem);
+        return;
+    }
+    say("Probando…", false);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    try {
+        say(test_(connectText(database(), password_->text().toStdString())), false);
+    } catch (const std::exception& failure) {
+        complain(QString::fromUtf8(failure.what()));
+    }
+    QApplication::restoreOverrideCursor();
+}
+
+void FirstStart::accept()
+{
+    const QString problem = own_->isChecked() ? problemOf(database()) : QString();
+    if (problem.isEmpty())
+        QDialog::accept();
+    else
+        complain(problem);
+}
+
+// A sign ahead of the text, for whoever does not tell the colours apart.
+void FirstStart::say(const QString& text, bool isProblem)
+{
+    result_->setText(text.isEmpty() || !isProblem ? text : "⚠ " + text);
+    result_->setVisible(!text.isEmpty());
+}
+
+} // namespace dn::host

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The window of the first start: sample data, or a database of the operator's own with its connection tried out.
+#pragma once
+
+#include "host/desktop/start_choice.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+
+#include <functional>
+#include <string>
+
+class QFormLayout;
+
+namespace dn::host {
+
+/// What the operator decided.
+struct StartAnswer {
+    StartChoice choice;
+    std::string password;
+    bool keepPassword = false;
+    bool createSchema = false;
+};
+
+class FirstStart : public QDialog {
+public:
+    /// Tells what a connection text leads to; throws what is wrong with it.
+    using ConnectionTest = std::function<QString(const std::string& connect)>;
+
+    /// @param canKeep whether there is a keyring for the password.
+    FirstStart(ConnectionTest test, bool canKeep, QWidget* over = nullptr);
+
+    /// Fills the window with what was chosen before.
+    void fillWith(const StartChoice& choice);
+    /// Tells what went wrong with the last choice.
+    void complain(const QString& problem);
+
+    StartAnswer answer() const;
+
+    void accept() override;
+
+private:
+    void build(bool canKeep);
+    QWidget* ownFields();
+    QWidget* testRow();
+    void follow();
+    void tryOut();
+    void say(const QString& text, bool isProblem);
+    OwnDatabase database() const;
+
+    ConnectionTest test_;
+    QRadioButton* sample_ = new QRadioButton("&Probar con datos de ejemplo", this);
+    QRadioButton* own_ = new QRadioButton("Usar &mi propia base de datos", this);
+    QWidget* fields_ = nullptr;
+    QFormLayout* form_ = nullptr;
+    QComboBox* kind_ = new QComboBox(this);
+    QLineEdit* server_ = new QLineEdit(this);
+    QSpinBox* port_ = new QSpinBox(this);
+    QLineEdit* name_ = new QLineEdit(this);
+    QLineEdit* text_ = new QLineEdit(this);
+    QLineEdit* user_ = new QLineEdit(this);
+    QLineEdit* password_ = new QLineEdit(this);
+    QCheckBox* keep_ = new QCheckBox("&Guardar la clave en el llavero del escritorio", this);
+    QCheckBox* create_ = new QCheckBox("Crear las &tablas (en una base vacía)", this);
+    QPushButton* tryButton_ = new QPushButton("P&robar la conexión", this);
+    QLabel* result_ = new QLabel(this);
+};
+
+} // namespace dn::host

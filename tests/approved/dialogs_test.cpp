@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The looks of the nine dialogs, and of the window of the first start.
+
+#include "dialogs/dlg_agendar_contacto.h"
+#include "dialogs/dlg_corregir.h"
+#include "dialogs/dlg_dir_mail.h"
+#include "dialogs/dlg_filtro.h"
+#include "dialogs/dlg_nuevo_pros.h"
+#include "dialogs/dlg_que_h.h"
+#include "dialogs/dlg_sel_agente.h"
+#include "dialogs/dlg_show.h"
+#include "dialogs/dlg_tools.h"
+#include "host/desktop/first_start.h"
+#include "screen/qt/form_view.h"
+#include "screen/qt/guard.h"
+#include "tests/approved/approval.h"
+#include "tests/screen/qt/accessible_tree.h"
+#include "tests/support/fake_connection.h"
+#include "tests/support/fake_ports.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace dn::tests {
+namespace {
+
+using testing::IsEmpty;
+
+void looksAndReads(QWidget& window, const char* name)
+{
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QApplication::processEvents();
+    QApplication::processEvents();
+    looksAsApproved(window, name);
+    EXPECT_THAT(cutOff(window), IsEmpty()) << name;
+    EXPECT_THAT(unnamed(window), IsEmpty()) << name;
+    EXPECT_THAT(unreached(window), IsEmpty()) << name;
+}
+
+class DialogLooks : public testing::Test {
+protected:
+    DialogLooks()
+    {
+        QApplication::setCursorFlashTime(0);
+        cnn.onContaining("Agente").gives({"Sys_PK", "Nombre"},
+                                         {{whole(7), text("Ana")}, {whole(9), text("Beto")}});
+        cnn.onContaining("uf_Interes").gives({"uf_Interes"}, {{text("Silos")}});
+        cnn.onContaining("uf_Origen").gives({"uf_Origen"}, {{text("Llamada")}});
+        cnn.onContaining("uf_Referencia").gives({"uf_Referencia"}, {{text("Un amigo")}});
+    }
+
+    template <class Dialog>
+    void looks(Dialog& dialog, const char* name)
+    {
+        ports.events.expectModal(name, [&](screen::Form& form) {
+            screen::qt::FormView view(form, nullptr, guard);
+            looksAndReads(view, name);
+            form.closeWindow();
+        });
+        dialog.Show();
+    }
+
+    FakeConnection cnn;
+    FakePorts ports;
+    screen::qt::Guard guard;
+};
+
+TEST_F(DialogLooks, of_a_new_prospect)
+{
+    dialogs::dlgNuevoPros dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgNuevoPros");
+}
+
+TEST_F(DialogLooks, of_the_next_contact)
+{
+    dialogs::dlgAgendarContacto dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgAgendarContacto");
+}
+
+TEST_F(DialogLooks, of_a_correction)
+{
+    dialogs::dlgCorregir dialog(ports.ports());
+    dialog.txtNombre.Text("Luz Ñúñez");
+    dialog.txtCorreo.Text("luz@example.com");
+    looks(dialog, "dlgCorregir");
+}
+
+TEST_F(DialogLooks, of_the_agents)
+{
+    dialogs::dlgSelAgente dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgSelAgente");
+}
+
+TEST_F(DialogLooks, of_what_comes_next)
+{
+    dialogs::dlgQueH dialog(ports.ports());
+    looks(dialog, "dlgQueH");
+}
+
+TEST_F(DialogLooks, of_the_addresses)
+{
+    dialogs::dlgDirMail dialog(ports.ports());
+    dialog.AddItem("luz@example.com");
+    dialog.AddItem("ventas@example.com");
+    looks(dialog, "dlgDirMail");
+}
+
+TEST_F(DialogLooks, of_the_group_tool)
+{
+    dialogs::dlgTools dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgTools");
+}
+
+TEST_F(DialogLooks, of_the_filter)
+{
+    dialogs::dlgFiltro dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgFiltro");
+}
+
+TEST_F(DialogLooks, of_the_mail_lists)
+{
+    FakeRecordset rows(Rows{{"uf_Email", "uf_Nombre", "uf_Telefono", "uf_Empresa"},
+                            {{text("luz@example.com"), text("Luz Ñúñez"), text("961 111 2233"), text("Silos")}}});
+    dialogs::dlgShow dialog(ports.ports());
+    dialog.rsContactos = &rows;
+    looks(dialog, "dlgShow");
+}
+
+TEST_F(DialogLooks, of_the_first_start)
+{
+    host::FirstStart window([](const std::string&) { return QString(); }, true);
+    looksAndReads(window, "primer-inicio");
+    host::StartChoice own;
+    own.own = true;
+    own.database = {.server = "db.example.com", .name = "ventas", .text = {}, .user = "ana"};
+    window.fillWith(own);
+    window.complain(QStringLiteral("No se pudo abrir la base de datos."));
+    looksAndReads(window, "primer-inicio-propia");
+}
+
+} // namespace
+} // namespace dn::tests

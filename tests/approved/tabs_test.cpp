@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The looks of the five tabs, of a call, and of the themes. Database and clock are fakes, so that nothing in a
+// picture depends on the day.
+
+#include "screen/qt/guard.h"
+#include "screen/qt/panel_views.h"
+#include "screen/qt/theme.h"
+#include "tests/approved/approval.h"
+#include "tests/screen/qt/accessible_tree.h"
+#include "tests/support/project_fixture.h"
+
+#include <QApplication>
+#include <QTest>
+
+namespace dn::tests {
+namespace {
+
+/// The control's own view, over ports of a test.
+class Looks : public ProjectTest {
+protected:
+    Looks()
+    {
+        QApplication::setCursorFlashTime(0);
+        prospects(
+            {prospect(12, {{"uf_Nombre", text("Luz Ñúñez")},
+                           {"uf_EMail", text("luz@example.com")},
+                           {"uf_Telefono", text("961 111 2233")},
+                           {"uf_Empresa", text("Silos del Sureste")},
+                           {"uf_Puesto", text("Compras")},
+                           {"uf_Fecha", date("2026-03-01")},
+                           {"uf_proxcontac", date("2026-03-13 10:00:00")},
+                           {"uf_correoverif", boolean(true)},
+                           {"uf_color", whole(1)},
+                           {"e_dias", whole(13)}}),
+             prospect(13, {{"uf_Nombre", text("Mario Paz")},
+                           {"uf_Fecha", date("2026-03-02")},
+                           {"uf_proxcontac", date("2026-03-15 12:30:00")},
+                           {"uf_contactado", boolean(true)},
+                           {"uf_color", whole(2)}}),
+             prospect(14, {{"uf_Nombre", text("Rosa Díaz")}, {"uf_color", whole(3)}}),
+             prospect(15, {{"uf_Nombre", text("Toño Gil")}, {"uf_color", whole(4)}}),
+             prospect(16, {{"uf_Nombre", text("Zoe Luna")}, {"uf_proxcontac", date("2026-03-20 09:00:00")}})});
+        activities({activity(41, {{"FInicio", date("2026-03-14 16:00:00")},
+                                  {"Actividad", text("Llamada")},
+                                  {"Asunto", text("Presentar la propuesta")},
+                                  {"Meta", text("Venta de licencias")},
+                                  {"Organizacion", text("Silos del Sureste")},
+                                  {"Descripcion", text("Ampliación de la planta")},
+                                  {"UF_monto", number("125000.50")},
+                                  {"UF_Status1", whole(3)},
+                                  {"UF_Color", whole(3)},
+                                  {"contacto", text("Luz Ñúñez ")}}),
+                    activity(42, {{"FInicio", date("2026-03-16 10:00:00")},
+                                  {"Asunto", text("Visita")},
+                                  {"UF_Status1", whole(4)},
+                                  {"Organizacion", text("Molinos Díaz")}})});
+        projects({project(43, {{"Meta", text("Renovación")}, {"Organizacion", text("Granero")}})});
+        contactData({{"Tel1", text("961 111 2233")}, {"PN_Nombre", text("Luz")}});
+        const std::vector<std::string> queue{"ejecutivo", "Tipo",    "Sys_PK",   "cita",
+                                             "Contacto",  "empresa", "telefono", "email"};
+        cnn.onContaining("from qhoy")
+            .gives(queue, {{whole(7), text("Contacto"), whole(12), null, text("Luz Ñúñez"),
+                            text("Silos del Sureste"), text("961 111 2233"), text("luz@example.com")},
+                           {whole(7), text("Proyecto"), whole(41), date("2026-03-13 16:00:00"), text("Luz Ñúñez"),
+                            text("Silos del Sureste"), text("961 111 2233"), text("luz@example.com")},
+                           {whole(7), text("Contacto"), whole(13), date("2026-03-14 12:30:00"), text("Mario Paz"),
+                            text(""), text(""), text("")}});
+    }
+    ~Looks() override { QApplication::setPalette(schemePalette(screen::qt::Scheme::light)); }
+
+    void opensTab(int tab)
+    {
+        start(7, true);
+        if (tab == desk::hoy) elements().top.lblItem(desk::prospectos).click();
+        elements().top.lblItem(tab).click();
+    }
+
+    void looks(const char* name)
+    {
+        screen::qt::ControlView view(control.root(), nullptr, guard);
+        view.resize(1100, 560);
+        screen::qt::dress(view);
+        view.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+        QApplication::processEvents();
+        QApplication::processEvents(); // the lists publish their rows once a turn
+        looksAsApproved(view, name);
+        EXPECT_THAT(cutOff(view), testing::IsEmpty()) << name;
+        EXPECT_THAT(unnamed(view), testing::IsEmpty()) << name;
+        EXPECT_THAT(unreached(view), testing::IsEmpty()) << name;
+    }
+
+    screen::qt::Guard guard;
+};
+
+TEST_F(Looks, of_the_prospects)
+{
+    opensTab(desk::prospectos);
+    looks("prospectos");
+}
+
+TEST_F(Looks, of_the_projects)
+{
+    opensTab(desk::proyectos);
+    looks("proyectos");
+}
+
+TEST_F(Looks, of_the_day)
+{
+    opensTab(desk::hoy);
+    looks("hoy");
+}
+
+TEST_F(Looks, of_the_organisations)
+{
+    cnn.onContaining("rganizacion")
+        .gives({"Sys_PK", "Codigo", "Nombre", "NombreComercial", "Tel1"},
+               {{whole(1), text("O-1"), text("Silos del Sureste"), text("Silos"), text("961 111 2233")}});
+    opensTab(desk::organizaciones);
+    looks("organizaciones");
+}
+
+TEST_F(Looks, of_the_persons)
+{
+    cnn.onContaining("ersona").gives(
+        {"Sys_PK", "Codigo", "Nombre", "Apellido1", "Apellido2", "EMail"},
+        {{whole(1), text("P-1"), text("Luz"), text("Ñúñez"), null, text("luz@example.com")}});
+    opensTab(desk::contactos);
+    looks("contactos");
+}
+
+TEST_F(Looks, of_a_call)
+{
+    opensTab(desk::prospectos);
+    lvw().clickRow(0);
+    elements().detail.cmdCall.press();
+    looks("llamada");
+    elements().call.cmdContesta.press();
+    looks("llamada-contestada");
+    elements().call.cmdCallCon(6).press();
+    looks("llamada-resumen");
+}
+
+TEST_F(Looks, of_the_prospects_in_the_dark)
+{
+    QApplication::setPalette(schemePalette(screen::qt::Scheme::dark));
+    opensTab(desk::prospectos);
+    looks("prospectos-oscuro");
+}
+
+TEST_F(Looks, of_the_prospects_in_high_contrast)
+{
+    QApplication::setPalette(schemePalette(screen::qt::Scheme::whiteOnBlack));
+    opensTab(desk::prospectos);
+    looks("prospectos-contraste");
+}
+
+TEST(Approval, sees_a_letter_and_no_soft_edge)
+{
+    QImage approved(100, 40, QImage::Format_RGB32);
+    approved.fill(Qt::white);
+    QImage taken = approved;
+    for (int x = 0; x < 100; ++x)
+        taken.setPixel(x, 3, qRgb(210, 210, 210));
+    EXPECT_EQ(differing(taken, approved), 0);
+    for (int y = 5; y < 14; ++y)
+        taken.setPixel(20, y, qRgb(0, 0, 0));
+    EXPECT_EQ(differing(taken, approved), 9);
+    EXPECT_EQ(differing(taken.copy(0, 0, 99, 40), approved), 99 * 40);
+}
+
+} // namespace
+} // namespace dn::tests

@@ -1,0 +1,127 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: The ctrDnContacts authors
+# SPDX-License-Identifier: Apache-2.0
+"""Meets a program as a screen reader does: over the accessibility bus, on a display of its own.
+
+    dbus-run-session -- screen_reader.py PROGRAM [ARGUMENT...] -- TAB...
+
+Waits for the program's window, presses each tab by its name through the bus, and walks the window. Prints each
+control without a name, or that the keyboard does not reach, and fails when there is one; fails as well when the walk
+met fewer kinds of controls than a window of this program has. It runs on the system's own Python, which has the bus.
+"""
+import os
+import re
+import subprocess
+import sys
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402  (the version comes first)
+
+PATIENCE = 30  # seconds
+LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
+ROLE = Atspi.Role
+NAMED = {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.CHECK_BOX, ROLE.RADIO_BUTTON, ROLE.TEXT, ROLE.ENTRY,
+         ROLE.PASSWORD_TEXT, ROLE.COMBO_BOX, ROLE.LIST, ROLE.TABLE, ROLE.TREE_TABLE, ROLE.PAGE_TAB, ROLE.SPIN_BUTTON,
+         ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
+NO_FOCUS = {ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
+PROGRAMMERS = re.compile(r"(cb|chk|cmd|lbl|lvw|pic|txt)[A-Z]?\w*")  # names that say nothing to an operator
+EXPECTED = {ROLE.PUSH_BUTTON, ROLE.TEXT, ROLE.COMBO_BOX, ROLE.TABLE, ROLE.FRAME, ROLE.MENU_ITEM}
+
+
+def wait(what, condition):
+    deadline = time.monotonic() + PATIENCE
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > deadline:
+            raise RuntimeError("never came: " + what)
+        time.sleep(0.05)
+
+
+def children(node):
+    return [child for child in (node.get_child_at_index(i) for i in range(node.get_child_count())) if child]
+
+
+def shows(node):
+    states = node.get_state_set()
+    return states.contains(Atspi.StateType.SHOWING) or node.get_role() in (ROLE.FRAME, ROLE.MENU_ITEM)
+
+
+def walk(node, inside=()):
+    """Each node that shows, with those around it; the cells of a table are data, the list of a combo box its own."""
+    yield node, inside
+    if node.get_role() in (ROLE.TABLE, ROLE.TREE_TABLE, ROLE.COMBO_BOX):
+        return
+    for child in children(node):
+        if shows(child):
+            yield from walk(child, inside + (node,))
+
+
+def window_of(pid):
+    for application in children(Atspi.get_desktop(0)):
+        if application.get_process_id() == pid:
+            return next((one for one in children(application) if one.get_role() == ROLE.FRAME), None)
+    return None
+
+
+def examine(window, place, met):
+    faults = []
+    for node, inside in walk(window):
+        role = node.get_role()
+        if role not in NAMED or (role == ROLE.FRAME and inside):  # panels are frames too
+            continue
+        met.add(role)
+        told = f"{place}: {node.get_role_name()} in {' / '.join(one.get_name() or one.get_role_name() for one in inside)}"
+        if not node.get_name().strip() or PROGRAMMERS.fullmatch(node.get_name()):
+            faults.append(f"no name: {told}")
+        elif role not in NO_FOCUS and not node.get_state_set().contains(Atspi.StateType.FOCUSABLE):
+            faults.append(f"not reached by the keyboard: {told}: {node.get_name()}")
+    return faults
+
+
+def press(window, name):
+    found = wait(name, lambda: next((node for node, _ in walk(window) if node.get_name() == name), None))
+    if not found.do_action(0):
+        raise RuntimeError("cannot be pressed: " + name)
+
+
+def main():
+    parting = sys.argv.index("--", 1)
+    command, tabs = sys.argv[1:parting], sys.argv[parting + 1:]
+    read, write = os.pipe()
+    started = [subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x800x24", "-nolisten", "tcp",
+                                 "-noreset"],
+                                pass_fds=[write], stderr=subprocess.DEVNULL)]
+    os.close(write)
+    try:
+        os.environ["DISPLAY"] = ":" + os.read(read, 16).decode().strip()
+        started.append(subprocess.Popen([LAUNCHER, "--launch-immediately"], stderr=subprocess.DEVNULL))
+        program = subprocess.Popen(command, env={**os.environ, "QT_QPA_PLATFORM": "xcb",
+                                                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
+        started.append(program)
+        window = wait("the window", lambda: window_of(program.pid))
+        faults, met = [], set()
+        for tab in tabs:
+            press(window, tab)
+            faults += examine(window, tab, met)
+        missing = EXPECTED - met
+        if missing:
+            faults.append("never met: " + ", ".join(role.value_nick for role in missing))
+        print("\n".join(faults))
+        program.terminate()
+        return 1 if faults else program.wait(PATIENCE)
+    except (RuntimeError, OSError, subprocess.TimeoutExpired) as failure:
+        print(failure)
+        return 99
+    finally:
+        for process in reversed(started):
+            if process.poll() is None:
+                process.kill()
+                process.wait()
+
+
+sys.exit(main())

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/screen/qt/accessible_tree.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QMetaEnum>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <array>
+
+namespace dn::tests {
+namespace {
+
+constexpr std::array workedWith{
+    QAccessible::PushButton, QAccessible::CheckBox,   QAccessible::RadioButton, QAccessible::EditableText,
+    QAccessible::ComboBox,   QAccessible::List,       QAccessible::Table,       QAccessible::Tree,
+    QAccessible::PageTab,    QAccessible::SpinBox,    QAccessible::Slider,      QAccessible::ProgressBar,
+    QAccessible::MenuItem,   QAccessible::ButtonMenu, QAccessible::Dialog,      QAccessible::Window,
+};
+
+bool isWorkedWith(const QAccessibleInterface& part)
+{
+    return std::find(workedWith.begin(), workedWith.end(), part.role()) != workedWith.end();
+}
+
+/// What belongs to a field of the toolkit's own and is reached as that field: its line, its list, its arrows.
+bool isPartOfField(const QObject* object)
+{
+    const auto* const widget = qobject_cast<const QWidget*>(object);
+    for (const QWidget* around = widget == nullptr ? nullptr : widget->parentWidget(); around != nullptr;
+         around = around->parentWidget())
+        if (qobject_cast<const QComboBox*>(around) != nullptr ||
+            qobject_cast<const QAbstractSpinBox*>(around) != nullptr || around->inherits("QCalendarWidget"))
+            return true;
+    return object != nullptr && object->objectName().startsWith(QLatin1String("qt_"));
+}
+
+std::string describe(const QAccessibleInterface& part)
+{
+    const QObject* const object = part.object();
+    const QString role = QString::fromLatin1(QMetaEnum::fromType<QAccessible::Role>().valueToKey(part.role()));
+    return (role + " (" + (object == nullptr ? QString() : object->objectName()) + ")").toStdString();
+}
+
+/// The width of a caption with its picture; the margins of a push button may be narrower than the style likes
+/// them.
+int neededBy(const QAbstractButton& button)
+{
+    if (button.text().isEmpty()) return 0;
+    if (qobject_cast<const QPushButton*>(&button) == nullptr) return button.minimumSizeHint().width();
+    constexpr int gap = 4;
+    const int picture = button.icon().isNull() ? 0 : button.iconSize().width() + gap;
+    return button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + picture;
+}
+
+template <class Visit>
+void walk(QAccessibleInterface& part, const Visit& visit)
+{
+    if (part.state().invisible) return;
+    visit(part);
+    if (part.role() == QAccessible::Table || part.role() == QAccessible::Tree) return; // its cells are data
+    for (int i = 0; i < part.childCount(); ++i)
+        if (QAccessibleInterface* const child = part.child(i); child != nullptr) walk(*child, visit);
+}
+
+} // namespace
+
+std::vector<std::string> unnamed(QWidget& window)
+{
+    std::vector<std::string> found;
+    walk(*QAccessible::queryAccessibleInterface(&window), [&](const QAccessibleInterface& part) {
+        const QString name = part.text(QAccessible::Name).trimmed();
+        const bool named = !name.isEmpty() && (part.object() == nullptr || name != part.object()->objectName());
+        if (isWorkedWith(part) && !named && !isPartOfField(part.object())) found.push_back(describe(part));
+    });
+    return found;
+}
+
+std::vector<std::string> cutOff(QWidget& window)
+{
+    std::vector<std::string> found;
+    for (const QWidget* child : window.findChildren<QWidget*>()) {
+        if (child->objectName().startsWith(QLatin1String("qt_")) || !child->isVisibleTo(&window)) continue;
+        int needed = 0;
+        if (const auto* const label = qobject_cast<const QLabel*>(child); label != nullptr && !label->wordWrap())
+            needed = label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(child); button != nullptr)
+            needed = neededBy(*button);
+        if (needed > child->width()) found.push_back(child->objectName().toStdString());
+    }
+    return found;
+}
+
+std::vector<std::string> unreached(QWidget& window)
+{
+    std::vector<std::string> found;
+    walk(*QAccessible::queryAccessibleInterface(&window), [&](const QAccessibleInterface& part) {
+        const auto* const widget = qobject_cast<const QWidget*>(part.object());
+        const bool passive = part.role() == QAccessible::ProgressBar || part.role() == QAccessible::MenuItem ||
+                             part.role() == QAccessible::Dialog || part.role() == QAccessible::Window;
+        if (!isWorkedWith(part) || passive || widget == nullptr || isPartOfField(widget)) return;
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0) found.push_back(describe(part));
+    });
+    return found;
+}
+
+} // namespace dn::tests
