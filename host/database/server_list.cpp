@@ -59,7 +59,7 @@ std::unique_ptr<data::Connection> ServerList::connect()
 
 std::string ServerList::description() const
 {
-    const std::string one = describe(present());
+    std::string one = describe(present());
     if (count() == 1) return one;
     return one + " (servidor " + std::to_string(present_ + 1) + " de " + std::to_string(count()) + ")";
 }
