@@ -66,12 +66,18 @@ double BenchDatabase::serverCpu() const { return cpuOfProcess(database_.server()
 
 const std::vector<List>& allLists()
 {
+    // The projects come last: they are another agent's.
     static const std::vector<List> lists{{desk::prospectos, "prospects"},
-                                         {desk::proyectos, "projects"},
                                          {desk::hoy, "queue of the day"},
                                          {desk::organizaciones, "organisations"},
-                                         {desk::contactos, "persons"}};
+                                         {desk::contactos, "persons"},
+                                         {desk::proyectos, "projects"}};
     return lists;
+}
+
+std::int32_t ownerOf(desk::Tab tab, const Scale& scale)
+{
+    return tab == desk::proyectos ? scale.projectAgent() : scale.agent;
 }
 
 std::vector<std::string> statementsOf(desk::Tab tab, std::int32_t agent)

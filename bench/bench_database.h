@@ -47,6 +47,9 @@ struct List {
 };
 const std::vector<List>& allLists();
 
+/// Whose list that is at a number of rows.
+std::int32_t ownerOf(desk::Tab tab, const Scale& scale);
+
 /// The statements that the control sends for a list of an agent.
 std::vector<std::string> statementsOf(desk::Tab tab, std::int32_t agent);
 

@@ -98,7 +98,7 @@ void benchRows(BenchDatabase& database, Results& results)
     const Scale& most = database.scales().back();
     tell("memory, filling and sorting");
     benchMemory(database, many, results.report);
-    benchFilling(database, many, 2, results.report);
+    benchFilling(database, many, 1, results.report);
     tell("refresh and finding");
     benchRefresh(database, many, most, rounds, results.report);
     benchFinding(database, thousand, most, rounds, results.report);

@@ -112,21 +112,24 @@ std::vector<Scale> scalesUpTo(std::size_t largest)
     return scales;
 }
 
-// The agent himself is written last: he stands for the completeness of his rows.
+// The agents themselves are written last: they stand for the completeness of their rows.
 void makeScaleRows(data::Connection& connection, const Scale& scale)
 {
     const std::string agent = std::to_string(scale.agent);
+    const std::string projectAgent = std::to_string(scale.projectAgent());
     if (numberOf(connection, "SELECT COUNT(*) FROM Agente WHERE Sys_PK = " + agent) > 0) return;
-    clear(connection, "= " + agent);
-    const Source source{agent, "seq_1_to_" + std::to_string(scale.rows),
-                        "IF(s.seq % 2 = 0, NULL, NOW() - INTERVAL (s.seq * 7919) % 500000 MINUTE)"};
+    clear(connection, "IN (" + agent + ", " + projectAgent + ")");
+    Source source{agent, "seq_1_to_" + std::to_string(scale.rows),
+                  "IF(s.seq % 2 = 0, NULL, NOW() - INTERVAL (s.seq * 7919) % 500000 MINUTE)"};
     connection.execute(prospectsFrom(source));
     connection.execute(personsFrom(source));
     connection.execute(organisationsFrom(source));
+    source.agent = projectAgent;
     connection.execute(projectsFrom(source));
-    connection.execute(activitiesOf("p.IEjecutivo = " + agent));
-    connection.execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (" + agent + ", 'Medida " +
-                       std::to_string(scale.rows) + "')");
+    connection.execute(activitiesOf("p.IEjecutivo = " + projectAgent));
+    const std::string name = "'Medida " + std::to_string(scale.rows);
+    connection.execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (" + projectAgent + ", " + name +
+                       " proyectos'), (" + agent + ", " + name + "')");
     for (const char* table : {"ut_icontact", "Persona", "Organizacion", "Proyecto", "actividad"})
         connection.execute(std::string("ANALYZE TABLE ") + table);
 }

@@ -18,10 +18,14 @@ namespace dn::bench {
 constexpr std::int32_t firstScaleAgent = 1001;
 constexpr std::int32_t firstLoadAgent = 2001;
 
-/// An agent who owns that many rows in each of the five lists.
+/// An agent who owns that many prospects, all of them in the queue of the day, persons and organisations, and
+/// another who owns as many projects: with both, the server would spend its time on finding out that no project is
+/// due.
 struct Scale {
     std::int32_t agent = 0;
     std::size_t rows = 0;
+
+    std::int32_t projectAgent() const { return agent + 100; }
 };
 
 /// The agents with 1,000 rows, ten times as many, and so on up to `largest`.

@@ -63,19 +63,25 @@ void Workbench::goTo(desk::Tab tab)
 Load Workbench::load()
 {
     counter_->awaitRows();
-    const auto start = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::time_point start;
+    double cpu = 0;
     Load load;
-    load.cost = measure([&] {
+    load.whole = measure([&] {
+        start = std::chrono::steady_clock::now();
+        cpu = processCpuNow();
         desk::Elements& elements = control().elements();
         if (tab_ == desk::proyectos)
             elements.projects.cbProjStatusProj.pick(0);
         else
             elements.top.lblItem(tab_).click();
-        view_->viewport()->update(); // as above
+        view_->viewport()->update(); // the rows may have been painted in a yield of the control already
         awaitRows();
     });
-    const std::chrono::duration<double, std::milli> first = counter_->paintedRows().value() - start;
-    load.firstRow = first.count();
+    const PaintCounter::Frame& first = counter_->paintedRows().value();
+    const std::chrono::duration<double, std::milli> passed = first.time - start;
+    load.firstRow = passed.count();
+    const bool all = static_cast<std::size_t>(first.rows) == rows();
+    load.cost = all ? Cost{first.cpu - cpu, passed.count()} : load.whole;
     return load;
 }
 

@@ -22,7 +22,8 @@ namespace dn::bench {
 
 /// What a load cost.
 struct Load {
-    Cost cost;           ///< to the frame that shows all rows
+    Cost cost;           ///< to the end of the first frame that shows all rows
+    Cost whole;          ///< until the control is at rest: detail and timeline of the selected row, one frame more
     double firstRow = 0; ///< milliseconds by the clock to the end of the first paint that has rows
 };
 
@@ -33,7 +34,9 @@ public:
 
     /// Binds the control to the database as that agent and shows the tab, which loads its list.
     void open(BenchDatabase& database, std::int32_t agent);
-    /// Goes to another tab, whose list is measured from now on.
+    /// Measures the list of another tab from now on, which the next load shows.
+    void look(desk::Tab tab);
+    /// Goes to the tab and loads its list.
     void goTo(desk::Tab tab);
 
     /// The load from its statement to the first painted frame, as a click on the tab runs it; for the projects, as
@@ -60,7 +63,6 @@ public:
     bool showsSelection() const;
 
 private:
-    void look(desk::Tab tab);
     void awaitRows();
 
     screen::qt::CtrDnContactsWidget widget_;

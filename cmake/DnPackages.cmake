@@ -50,7 +50,9 @@ supervisor through everybody's. The program opens a private database with
 sample data, or another one on MariaDB, MySQL or SQL Server. Its texts are
 Spanish.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION misc)
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "libqt6svg6, mariadb-server-core, mariadb-client-core, fonts-roboto-unhinted | fonts-dejavu-core")
+# What is found at run time only: the drawings' engine, the private server, and a font narrow enough for the fixed frame.
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS
+    "libqt6svg6, mariadb-server-core, mariadb-client-core, fonts-roboto-unhinted")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "odbc-mariadb, tdsodbc")
 
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "sales-force workbench control, shared libraries

@@ -100,7 +100,7 @@ bool MainWindow::ready() const
 void MainWindow::resumeWhenAtRest()
 {
     constexpr int hourglassAtMost = 10;
-    const bool connected = reconnection_.state() == Reconnection::State::connected;
+    const bool connected = reconnection_.state() == Reconnection::State::connected && isOpen();
     if (connected && (!atRest() || (isLoading() && looks_++ < hourglassAtMost))) {
         QTimer::singleShot(100, this, [this] { resumeWhenAtRest(); });
         return;

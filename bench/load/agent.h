@@ -6,6 +6,7 @@
 
 #include "bench/load/load.h"
 #include "bench/load/watched_connection.h"
+#include "desk/elements.h"
 #include "shell/ctr_dn_contacts.h"
 
 #include <functional>

@@ -52,6 +52,7 @@ public:
 
 private:
     std::string folded_;
+    std::size_t anchor_; ///< of `folded_`, where a search looks first; its size for none
     bool ascii_;
 };
 

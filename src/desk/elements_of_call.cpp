@@ -90,6 +90,7 @@ CallElements::CallElements(Container& control)
     cmdOkCall.Shortcut("F8");
 
     PG.Range(0, 100);
+    PG.AccessibleName("Llamando");
     Timer1.Interval(25);
     Timer1.Moves(PG, 101); // from 0 to 100
 }

@@ -184,15 +184,15 @@ struct Count {
     std::size_t statements = 0;
 };
 
-// The dear ones at every statement of the first action alone, and else at the last changing one; or, in the short
-// form, at nothing else.
+// The dear ones at the first statement of the first action that can meet with them; where all are asked for at
+// every statement of the first actions, and at the first one of each of the others.
 bool isDue(const Fault& fault, std::size_t action, std::size_t number, const Course& undisturbed)
 {
-    if (!fault.dear() || everything()) return true;
-    if (action != 0) return false;
-    for (std::size_t i = 0; i < number; ++i)
-        if (fault.meets(undisturbed.sent[i].text)) return false;
-    return true;
+    constexpr std::size_t firstActions = 4;
+    if (!fault.dear() || (everything() && action < firstActions)) return true;
+    if (action != 0 && !everything()) return false;
+    return std::none_of(undisturbed.sent.begin(), undisturbed.sent.begin() + static_cast<std::ptrdiff_t>(number),
+                        [&](const Sent& earlier) { return fault.meets(earlier.text); });
 }
 
 void writeTable(const std::vector<std::pair<std::string, Count>>& counts, std::size_t statements)

@@ -25,7 +25,8 @@ std::unique_ptr<data::Connection> connectAs(const MariaServer& server, std::stri
     options.user = user;
     options.password = password;
     options.database = database;
-    options.readTimeOut = options.writeTimeOut = std::chrono::seconds(1);
+    // Longer than any wait for a lock: a statement that is given up ahead of the server may run all the same.
+    options.readTimeOut = options.writeTimeOut = std::chrono::seconds(2);
     return std::make_unique<data::mariadb::Connection>(options);
 }
 

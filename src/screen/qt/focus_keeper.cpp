@@ -91,7 +91,10 @@ FocusKeeper::FocusKeeper(QWidget& root, const std::vector<View>& views) : root_(
         elements_.insert(&widget, view.element);
         wires_.push_back(view.element->ended.connect([this, &widget] { forget(&widget); }));
         if (labels(*view.element)) label = dynamic_cast<LabelView*>(&widget);
-        if (!takesFocus(widget)) continue;
+        if (!takesFocus(widget)) {
+            widget.setAccessibleName(fromUtf8(view.element->AccessibleName()));
+            continue;
+        }
         nameIt(view, label != nullptr ? spoken(*label) : QString());
         if (label != nullptr) label->stepTo(&widget);
         label = nullptr;

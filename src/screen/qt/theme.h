@@ -25,15 +25,16 @@ DN_EXPORT void dress(QWidget& root);
 /// The last two are of high contrast: black and white, no grey between a text and what it stands on.
 enum class Scheme { light, dark, whiteOnBlack, blackOnWhite };
 
+/// The colours of all widgets in a scheme.
 DN_EXPORT QPalette schemePalette(Scheme scheme);
 
 /// The scheme that is nearest to a desktop's own palette.
-Scheme schemeOf(const QPalette& desktop);
+DN_EXPORT Scheme schemeOf(const QPalette& desktop);
 
 /// For a program that is built around the control: the look, the palette and the toolkit's own Spanish texts
-/// for all its windows.
-/// @param scheme nothing chosen: light or dark as the desktop's own palette is.
+/// for all its windows, in the scheme that is nearest to the desktop's own palette.
 DN_EXPORT void applyTheme(QApplication& application);
+/// The same in a scheme that was chosen.
 DN_EXPORT void applyTheme(QApplication& application, Scheme scheme);
 
 } // namespace dn::screen::qt

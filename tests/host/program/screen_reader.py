@@ -93,7 +93,8 @@ def main():
     parting = sys.argv.index("--", 1)
     command, tabs = sys.argv[1:parting], sys.argv[parting + 1:]
     read, write = os.pipe()
-    started = [subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x800x24", "-nolisten", "tcp"],
+    started = [subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x800x24", "-nolisten", "tcp",
+                                 "-noreset"],
                                 pass_fds=[write], stderr=subprocess.DEVNULL)]
     os.close(write)
     try:
