@@ -136,6 +136,7 @@ TEST_F(Looks, of_a_call)
     opensTab(desk::prospectos);
     lvw().clickRow(0);
     elements().detail.cmdCall.press();
+    elements().call.Timer1.Enabled(false); // the bar stands still
     looks("llamada");
     elements().call.cmdContesta.press();
     looks("llamada-contestada");
