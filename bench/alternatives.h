@@ -13,10 +13,25 @@
 
 namespace dn::bench {
 
+using Statements = std::vector<std::string>;
+
+/// What a fetch brought, for the check of the answers.
+struct Fetched {
+    Cost cost;
+    std::size_t rows = 0;
+    std::size_t cells = 0;
+    std::string firstKey; ///< the first row's Sys_PK
+};
+
 /// Fetches the rows of statements with libmariadb, buffered on the client (`mysql_store_result`), and reads every
 /// cell.
-/// @param cells takes the number of cells read, for the check of the answer.
-Cost bareFetch(const BenchDatabase& database, const std::vector<std::string>& statements, std::size_t& cells);
+Fetched bareFetch(const BenchDatabase& database, const Statements& statements);
+
+/// Milliseconds by the clock from the statement to its first row, at a client that streams (`mysql_use_result`).
+double bareFirstRow(const BenchDatabase& database, const std::string& statement);
+
+/// Fetches the same with the control's own driver, and asks for every cell once.
+Fetched driverFetch(const BenchDatabase& database, const Statements& statements);
 
 /// What a `QSqlQueryModel` reads of its rows ahead of the first frame.
 enum class Reading {
@@ -25,14 +40,19 @@ enum class Reading {
                 ///< once
 };
 
-/// `QSqlQueryModel` on QMYSQL with a `QTableView`: all rows fetched, to the first painted frame.
-/// @param rows takes the number of rows in the model.
-Cost sqlQueryModel(const BenchDatabase& database, Reading reading, std::size_t& rows);
+/// `QSqlQueryModel` on QMYSQL with a `QTableView`: all rows fetched, to the first painted frame. A model for each
+/// statement; the view shows the first.
+/// @param rows takes the number of rows in the models.
+Cost sqlQueryModel(const BenchDatabase& database, const Statements& statements, Reading reading,
+                   std::size_t& rows);
 
 /// Rows of texts in memory, as a loader would hold them.
 using Texts = std::vector<std::vector<std::string>>;
 
 /// A `QTreeWidget` filled item by item from the rows, to the first painted frame.
 Cost treeWidget(const Texts& texts);
+
+/// The same tree sorted by each of its columns, one after the other, to the painted frame.
+std::vector<Cost> treeWidgetSorts(const Texts& texts);
 
 } // namespace dn::bench

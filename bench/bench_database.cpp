@@ -3,61 +3,100 @@
 
 #include "bench/bench_database.h"
 
+#include "bench/processes.h"
+#include "directories/kind.h"
 #include "directories/statement.h"
+#include "projects/project_statement.h"
 #include "prospects/prospect_statement.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
 namespace dn::bench {
 namespace {
 
-host::Database open(const std::string& folder, std::size_t rows)
+constexpr std::size_t sampleRows = 3000;
+
+host::Database open(const std::string& folder)
 {
     host::DatabaseOptions options;
-    options.demoRows = rows;
+    options.demoRows = sampleRows;
     options.server.folder = folder;
-    options.server.bufferPoolMegabytes = 512;
+    options.server.bufferPoolMegabytes = 2048;
     return host::openDatabase(options,
                               [](const std::string& step) { std::fprintf(stderr, "%s\n", step.c_str()); });
 }
 
+std::string queueStatement(const char* view, std::int32_t agent)
+{
+    return std::string("select * from ") + view + " where ejecutivo=" + std::to_string(agent) +
+           " order by cita, tipo, sys_pk";
+}
+
 } // namespace
 
-BenchDatabase::BenchDatabase(const std::string& folder, std::size_t rows)
-    : database_(open(folder, rows)), rows_(rows)
+BenchDatabase::BenchDatabase(const std::string& folder, std::size_t largest, std::size_t loadAgents)
+    : database_(open(folder)), scales_(scalesUpTo(largest))
 {
-    if (database_.server() == nullptr) throw std::runtime_error("the benchmarks need the private server");
+    if (database_.server() == nullptr || !database_.server()->owned())
+        throw std::runtime_error("the benchmarks need a server of their own");
     target_ = std::get<host::MariadbTarget>(database_.choice());
-    agent_ = connection().execute("SELECT MIN(Sys_PK) FROM Agente")->value(0).toInt32();
-    connection().execute("UPDATE ut_icontact SET uf_IEjecutivo = " + std::to_string(agent_) + ", uf_Status = 0");
-    const auto counted = connection().execute("SELECT COUNT(*) FROM ut_icontact")->value(0).toWhole();
-    if (counted != static_cast<std::int64_t>(rows))
-        throw std::runtime_error("the folder holds " + std::to_string(counted) + " prospects and not " +
-                                 std::to_string(rows));
-    makePersons();
+    target_.readTimeout = 600; // the server sorts a million rows for long
+    connection_ = host::connect(target_);
+    connection().execute("SET GLOBAL max_connections = 400");
+    for (const Scale& scale : scales_) {
+        std::fprintf(stderr, "rows of the agent with %zu\n", scale.rows);
+        makeScaleRows(connection(), scale);
+    }
+    makeLoadRows(connection(), loadAgents);
 }
 
-// A person for each prospect. A former run left as many as there are, or the sample data fewer.
-void BenchDatabase::makePersons()
+const Scale& BenchDatabase::scale(std::size_t rows) const
 {
-    const auto counted = connection().execute("SELECT COUNT(*) FROM Persona")->value(0).toWhole();
-    if (counted == static_cast<std::int64_t>(rows_)) return;
-    connection().execute("DELETE FROM Persona");
-    connection().execute(
-        "INSERT INTO Persona (Codigo, Nombre, Apellido1, Apellido2, EMail, Tel_Casa, Tel_Movil, Domicilio, "
-        "Colonia, "
-        "CodPostal, IEjecutivo) SELECT CONCAT('P-', Sys_PK), SUBSTRING_INDEX(uf_Nombre, ' ', 1), "
-        "SUBSTRING_INDEX(uf_Nombre, ' ', -1), uf_Ciudad, uf_EMail, uf_Telefono, uf_Telefono, CONCAT('Calle ', "
-        "uf_Ciudad, ' ', Sys_PK), uf_Estado, LPAD(Sys_PK % 100000, 5, '0'), " +
-        std::to_string(agent_) + " FROM ut_icontact");
+    const auto found =
+        std::find_if(scales_.begin(), scales_.end(), [rows](const Scale& scale) { return scale.rows == rows; });
+    if (found == scales_.end()) throw std::out_of_range("no agent has " + std::to_string(rows) + " rows");
+    return *found;
 }
 
-std::string BenchDatabase::personStatement() const
+std::string BenchDatabase::version() { return connection().execute("SELECT VERSION()")->value(0).toText(); }
+
+double BenchDatabase::serverCpu() const { return cpuOfProcess(database_.server()->pid()); }
+
+const std::vector<List>& allLists()
 {
-    return directories::directoryStatement(directories::persons, true, agent_);
+    // The projects come last: they are another agent's.
+    static const std::vector<List> lists{{desk::prospectos, "prospects"},
+                                         {desk::hoy, "queue of the day"},
+                                         {desk::organizaciones, "organisations"},
+                                         {desk::contactos, "persons"},
+                                         {desk::proyectos, "projects"}};
+    return lists;
 }
 
-std::string BenchDatabase::statement() const { return prospects::prospectStatement(true, agent_, 0); }
+std::int32_t ownerOf(desk::Tab tab, const Scale& scale)
+{
+    return tab == desk::proyectos ? scale.projectAgent() : scale.agent;
+}
+
+std::vector<std::string> statementsOf(desk::Tab tab, std::int32_t agent)
+{
+    switch (tab) {
+    case desk::prospectos:
+        return {prospects::prospectStatement(true, agent, 0)};
+    case desk::proyectos:
+        return {projects::pendingActivitiesStatement(true, agent, projects::anyStatus),
+                projects::projectsStatement(agent, projects::anyStatus)};
+    case desk::hoy:
+        return {queueStatement("qhoy", agent), queueStatement("qatascados", agent)};
+    case desk::organizaciones:
+        return {directories::directoryStatement(directories::organisations, true, agent)};
+    case desk::contactos:
+        return {directories::directoryStatement(directories::persons, true, agent)};
+    default:
+        return {};
+    }
+}
 
 } // namespace dn::bench

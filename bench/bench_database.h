@@ -1,42 +1,56 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The rows that all benchmarks share: a private server with sample prospects, all of one agent and one status, and
-// as many persons of the same agent.
+// The server and the rows that all benchmarks share. They are kept between runs.
 #pragma once
 
+#include "bench/scale_rows.h"
+#include "desk/tab_strip.h"
 #include "host/database/database.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace dn::bench {
 
 class BenchDatabase {
 public:
     /// Makes the server and the rows in a folder, or takes those that a former run left there.
-    BenchDatabase(const std::string& folder, std::size_t rows);
+    /// @param largest the most rows of one agent. @param loadAgents agents for the load.
+    BenchDatabase(const std::string& folder, std::size_t largest, std::size_t loadAgents);
 
-    data::Connection& connection() { return database_.connection(); }
-    /// The agent who owns every row.
-    std::int32_t agent() const { return agent_; }
-    std::size_t rows() const { return rows_; }
+    /// For the control. It waits longer for the server than a program would.
+    data::Connection& connection() { return *connection_; }
+    const std::vector<Scale>& scales() const { return scales_; }
+    /// The agent with that many rows. @throws std::out_of_range
+    const Scale& scale(std::size_t rows) const;
     /// Where the alternatives reach the same server.
     const host::MariadbTarget& target() const { return target_; }
-    /// The statement that the control sends for the prospects.
-    std::string statement() const;
-    /// The statement that the control sends for the persons.
-    std::string personStatement() const;
+    std::string version();
+    /// Milliseconds of processor that the server has used.
+    double serverCpu() const;
 
 private:
-    void makePersons();
-
     host::Database database_;
     host::MariadbTarget target_;
-    std::int32_t agent_ = 0;
-    std::size_t rows_;
+    std::unique_ptr<data::Connection> connection_; // goes ahead of its server
+    std::vector<Scale> scales_;
 };
+
+/// The five lists, by the names of their load routines.
+struct List {
+    desk::Tab tab{};
+    const char* name = "";
+};
+const std::vector<List>& allLists();
+
+/// Whose list that is at a number of rows.
+std::int32_t ownerOf(desk::Tab tab, const Scale& scale);
+
+/// The statements that the control sends for a list of an agent.
+std::vector<std::string> statementsOf(desk::Tab tab, std::int32_t agent);
 
 } // namespace dn::bench

@@ -5,12 +5,12 @@
 #pragma once
 
 #include "bench/bench_database.h"
-#include "bench/report.h"
+#include "bench/report/report.h"
 
 namespace dn::bench {
 
-/// Sorts and checks all rows, clicks one, opens a long timeline, discards and assigns a thousand.
-/// Leaves the rows open and assigned as it found them, without the reasons of earlier discards.
-void benchCommands(BenchDatabase& database, int rounds, Report& report);
+/// Checks all rows of an agent, clicks one, opens a long timeline, discards and assigns the thousand rows of the
+/// agent who has as many. Leaves the rows open and assigned as it found them.
+void benchCommands(BenchDatabase& database, const Scale& scale, int rounds, Report& report);
 
 } // namespace dn::bench

@@ -4,7 +4,7 @@
 // What it costs to write mail lists to files.
 #pragma once
 
-#include "bench/report.h"
+#include "bench/report/report.h"
 
 namespace dn::bench {
 

@@ -10,24 +10,21 @@
 #include <ctime>
 
 namespace dn::bench {
-namespace {
 
-double cpuMilliseconds()
+double processCpuNow()
 {
     timespec time{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
-} // namespace
-
 Cost measure(const std::function<void()>& work)
 {
     malloc_trim(0); // or the work would pay for tidying up what ran before it left behind
     const auto wallBefore = std::chrono::steady_clock::now();
-    const double cpuBefore = cpuMilliseconds();
+    const double cpuBefore = processCpuNow();
     work();
-    const double cpu = cpuMilliseconds() - cpuBefore;
+    const double cpu = processCpuNow() - cpuBefore;
     const std::chrono::duration<double, std::milli> wall = std::chrono::steady_clock::now() - wallBefore;
     return {cpu, wall.count()};
 }

@@ -15,6 +15,9 @@ struct Cost {
     double wall = 0; ///< milliseconds
 };
 
+/// Milliseconds of processor that this process has used, all threads.
+double processCpuNow();
+
 /// Runs the work once.
 Cost measure(const std::function<void()>& work);
 

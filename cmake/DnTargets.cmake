@@ -25,6 +25,9 @@ if(DN_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+if(DN_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 if(DN_COVERAGE)
     add_compile_options(--coverage)
     add_link_options(--coverage)
@@ -41,6 +44,14 @@ function(dn_configure target)
     if(DN_UNITY STREQUAL "all")
         dn_unite(${target})
     endif()
+endfunction()
+
+# dn_configure_library(TARGET): as dn_configure, for what also becomes a shared library: names hidden but for those that
+# src/base/export.h marks, and code that can lie anywhere.
+function(dn_configure_library target)
+    dn_configure(${target})
+    set_target_properties(${target} PROPERTIES
+        POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
 # dn_unite(TARGET): compiles its files in bundles, which read each header and instantiate each template once. Names of

@@ -19,6 +19,7 @@
 #include "screen/qt/theme.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -35,6 +36,8 @@ DatabaseOptions databaseOptions(const ProgramOptions& options)
 {
     DatabaseOptions result;
     result.connect = options.connect.toStdString();
+    for (const QString& further : options.furtherServers)
+        result.further.push_back(further.toStdString());
     result.createSchema = options.createSchema;
     result.demoRows = options.demoRows;
     result.server.folder = options.dataFolder.toStdString();
@@ -176,6 +179,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("dncontacts");
     QApplication::setApplicationDisplayName("DN Contactos");
     QApplication::setApplicationVersion(DN_VERSION);
+    QApplication::setDesktopFileName("dncontacts"); // by which a desktop finds the entry of its menu
+    QApplication::setWindowIcon(QIcon(":/dn/icons/dncontacts.svg"));
     const QPalette desktop = QApplication::palette();
     dn::screen::qt::applyTheme(application);
     ProgramOptions options;

@@ -3,6 +3,7 @@
 
 #include "host/main_window.h"
 
+#include "host/connection_bar.h"
 #include "host/dialler.h"
 #include "host/mail/mailer.h"
 #include "shell/ctr_dn_contacts.h"
@@ -12,26 +13,63 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include <utility>
 
 namespace dn::host {
+namespace {
 
-MainWindow::MainWindow(Database& database, const Worker& worker)
+constexpr std::int16_t prospectsTab = 0;
+constexpr std::int16_t todayTab = 2;
+
+} // namespace
+
+MainWindow::MainWindow(Database& database, const Worker& worker, Reconnection::Pauses pauses)
     : database_(database),
       worker_(worker),
       screens_([&database] { return database.openConnection(); }, this),
+      reconnection_(database, std::move(pauses)),
+      bar_(new ConnectionBar(reconnection_, this)),
       widget_(new screen::qt::CtrDnContactsWidget(this))
 {
     setObjectName("VentanaPrincipal");
     setWindowTitle(worker.user + (worker.admin ? " (administrador)" : ""));
-    setCentralWidget(widget_);
+    auto* const below = new QWidget(this);
+    auto* const layout = new QVBoxLayout(below);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar_);
+    layout->addWidget(widget_, 1);
+    setCentralWidget(below);
     widget_->onError([this](const std::exception& failure) { reportError(failure); });
     addMenus();
+    watches_.push_back(reconnection_.alive.connect([this] {
+        if (atRest() && !isLoading()) place_ = placeOf(control());
+    }));
+    watches_.push_back(reconnection_.back.connect([this] {
+        if (!std::exchange(waiting_, true)) QTimer::singleShot(0, this, [this] { resumeWhenAtRest(); });
+    }));
 }
 
-// The control goes ahead of the factory that it may ask.
-MainWindow::~MainWindow() { delete widget_; }
+// The control goes ahead of the factory that it may ask, and the bar ahead of what it listens to.
+MainWindow::~MainWindow()
+{
+    delete widget_;
+    delete bar_;
+}
 
 void MainWindow::start(std::optional<std::int16_t> tab)
+{
+    bind();
+    place_ = placeOf(control());
+    if (!tab) return;
+    // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
+    if (*tab == todayTab) control().openTab(prospectsTab);
+    control().openTab(*tab);
+}
+
+void MainWindow::bind()
 {
     control().hostObjects(&screens_);
     control().SetObjects(&database_.connection(), worker_.agent, worker_.admin, worker_.user.toStdString());
@@ -41,10 +79,56 @@ void MainWindow::start(std::optional<std::int16_t> tab)
         if (const auto templates = mailSettings_().templates; !templates.empty())
             control().TemplatePath(templates.string()); // the binding has set a folder that is not this program's
     control().RefreshData();
-    if (!tab) return;
-    // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
-    if (*tab == desk::hoy) control().elements().top.lblItem(desk::prospectos).click();
-    control().elements().top.lblItem(*tab).click();
+}
+
+// Nobody's window is open, and no call is in hand, whose end goes by the selected row.
+bool MainWindow::atRest()
+{
+    return QApplication::activeModalWidget() == nullptr && QApplication::activePopupWidget() == nullptr &&
+           !control().Call_Progress();
+}
+
+bool MainWindow::isLoading() { return QGuiApplication::overrideCursor() != nullptr; }
+
+bool MainWindow::ready() const
+{
+    return reconnection_.state() == Reconnection::State::connected && isOpen() && !waiting_ && !leading_;
+}
+
+// What the control does meanwhile goes over the new connection already. An hourglass is that of a load in its
+// yield, which is over soon, or one that a failure left behind, which is not.
+void MainWindow::resumeWhenAtRest()
+{
+    constexpr int hourglassAtMost = 10;
+    const bool connected = reconnection_.state() == Reconnection::State::connected && isOpen();
+    if (connected && (!atRest() || (isLoading() && looks_++ < hourglassAtMost))) {
+        QTimer::singleShot(100, this, [this] { resumeWhenAtRest(); });
+        return;
+    }
+    looks_ = 0;
+    if (connected) resume();
+    waiting_ = leading_ && isOpen(); // lost and found again meanwhile
+    if (waiting_) QTimer::singleShot(100, this, [this] { resumeWhenAtRest(); });
+}
+
+bool MainWindow::isOpen() const { return database_.connection().State() == data::Connection::open; }
+
+void MainWindow::resume()
+{
+    if (!leading_) {
+        leading_ = restored(placeOf(control()), place_);
+        leading_->checked = checkedProspects(control());
+    }
+    try {
+        bind();
+        const bool noteIsBack = returnTo(control(), *leading_);
+        if (!isOpen()) return; // lost again: there is a next time
+        if (!noteIsBack) bar_->keepNote(QString::fromStdString(leading_->note));
+    } catch (const std::exception& failure) {
+        if (!isOpen()) return;
+        reportError(failure);
+    }
+    leading_.reset();
 }
 
 void MainWindow::sendMails(const std::filesystem::path& dataFolder)
@@ -83,17 +167,14 @@ void MainWindow::addMenus()
     });
 }
 
-// A click on the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
+// Opening the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
 void MainWindow::refresh()
 {
-    for (int i = 0; i < desk::TabStrip::count; ++i) {
-        screen::Label& tab = control().elements().top.lblItem(i);
-        if (tab.BackColor() == desk::TabStrip::activeColour) {
-            tab.click();
-            return;
-        }
-    }
-    control().RefreshRobot();
+    const std::int16_t tab = control().activeTab();
+    if (tab >= 0)
+        control().openTab(tab);
+    else
+        control().RefreshRobot();
 }
 
 void MainWindow::reportError(const std::exception& failure)

@@ -7,7 +7,9 @@
 #include "host/database/database.h"
 #include "host/mail/mail_settings.h"
 #include "host/program_options.h"
+#include "host/reconnection.h"
 #include "host/screens/screens_factory.h"
+#include "host/work_place.h"
 #include "host/worker.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "screen/signal.h"
@@ -20,10 +22,13 @@
 
 namespace dn::host {
 
+class ConnectionBar;
+
 class MainWindow : public QMainWindow {
 public:
     /// @param database outlives the window.
-    MainWindow(Database& database, const Worker& worker);
+    /// @param pauses between the attempts to reach a database that was lost; none: the usual ones.
+    MainWindow(Database& database, const Worker& worker, Reconnection::Pauses pauses = {});
     ~MainWindow() override;
 
     /// Hands the connection, the worker and the host's screens to the control and shows its first screen.
@@ -39,20 +44,36 @@ public:
 
     ctrDnContacts& control() { return widget_->control(); }
 
+    /// Whether the control stands on the connection as it is: not while a lost one is away, nor until the control
+    /// was started anew on the one that came back.
+    bool ready() const;
     /// The control as a widget.
     screen::qt::CtrDnContactsWidget& widget() { return *widget_; }
 
 private:
     void addMenus();
+    void bind();
+    bool atRest();
+    static bool isLoading();
+    bool isOpen() const;
+    void resumeWhenAtRest();
+    void resume();
     void refresh();
     void reportError(const std::exception& failure);
 
     Database& database_;
     Worker worker_;
     ScreensFactory screens_;
+    Reconnection reconnection_;
+    ConnectionBar* bar_;
     screen::qt::CtrDnContactsWidget* widget_;
+    WorkPlace place_;                  // while the connection stood, a moment ago
+    std::optional<WorkPlace> leading_; // where to take the operator back to; until it is done
+    bool waiting_ = false;             // for the control to be at rest
+    int looks_ = 0;                    // how often it was not
     screen::Subscription calls_;
     std::function<MailSettings()> mailSettings_;
+    screen::Subscriptions watches_;
 };
 
 } // namespace dn::host

@@ -6,6 +6,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <cstdint>
@@ -15,6 +16,7 @@ namespace dn::host {
 
 struct ProgramOptions {
     QString connect;                     ///< another database; empty for the private one
+    QStringList furtherServers;          ///< of that database, in the order in which they are tried
     bool createSchema = false;           ///< make the tables there
     QString dataFolder;                  ///< of the private database; empty for the usual place
     std::optional<std::size_t> demoRows; ///< prospects of the sample data of a new database

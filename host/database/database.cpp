@@ -17,7 +17,7 @@ constexpr unsigned setUpReadTimeout = 3600;
 
 DatabaseChoice patient(DatabaseChoice choice)
 {
-    if (auto* target = std::get_if<MariadbTarget>(&choice)) target->readTimeout = setUpReadTimeout;
+    std::visit([](auto& target) { target.readTimeout = setUpReadTimeout; }, choice);
     return choice;
 }
 
@@ -122,20 +122,35 @@ void keep(std::vector<std::string>& warnings, std::optional<std::string> warning
     if (warning) warnings.push_back(std::move(*warning));
 }
 
+std::vector<DatabaseChoice> choicesOf(const DatabaseOptions& options)
+{
+    std::vector<DatabaseChoice> choices{parseDatabaseChoice(options.connect)};
+    for (const std::string& further : options.further)
+        choices.push_back(parseDatabaseChoice(further));
+    return choices;
+}
+
 } // namespace
+
+void Database::revive()
+{
+    if (server_) server_->revive();
+}
 
 Database openDatabase(const DatabaseOptions& options, const Progress& progress)
 try {
     Database database;
     if (options.connect.empty()) {
         database.server_ = std::make_unique<PrivateServer>(options.server, progress);
-        database.choice_ = database.server_->target(privateName);
+        database.servers_ =
+            std::make_unique<ServerList>(std::vector<DatabaseChoice>{database.server_->target(privateName)});
         database.created_ = prepareOwn(*database.server_, options, progress);
     } else {
-        database.choice_ = parseDatabaseChoice(options.connect);
-        database.created_ = prepareForeign(database.choice_, options, progress);
+        database.servers_ = std::make_unique<ServerList>(choicesOf(options));
+        database.servers_->connect(); // finds the one to prepare
+        database.created_ = prepareForeign(database.choice(), options, progress);
     }
-    database.connection_ = connect(database.choice_);
+    database.connection_ = std::make_unique<LastingConnection>(database.openConnection());
     keep(database.warnings_, letterCaseWarning(*database.connection_));
     keep(database.warnings_, missingWarning(*database.connection_));
     keep(database.warnings_, demoWarning(options, database.created_));

@@ -5,8 +5,9 @@
 #pragma once
 
 #include "data/connection.h"
-#include "host/database/database_choice.h"
+#include "host/database/lasting_connection.h"
 #include "host/database/private_server.h"
+#include "host/database/server_list.h"
 
 #include <cstddef>
 #include <memory>
@@ -17,9 +18,10 @@
 namespace dn::host {
 
 struct DatabaseOptions {
-    std::string connect;       ///< another's database, see `parseDatabaseChoice`; empty: the private server
-    ServerOptions server;      ///< of the private server
-    bool createSchema = false; ///< in another's database, which must be empty of our tables
+    std::string connect;              ///< another's database, see `parseDatabaseChoice`; empty: the private server
+    std::vector<std::string> further; ///< other servers of that database, for when the former ones do not work
+    ServerOptions server;             ///< of the private server
+    bool createSchema = false;        ///< in another's database, which must be empty of our tables
     /// Prospects of the sample data that a new database gets. Without a number the private database gets 3,000 and
     /// another's none.
     std::optional<std::size_t> demoRows;
@@ -31,11 +33,14 @@ public:
     Database(Database&&) = default;
     Database& operator=(Database&&) = delete; // it would stop a server ahead of its connection
 
-    /// The control's connection.
-    data::Connection& connection() { return *connection_; }
-    /// A further connection to the same database, for the host's own screens.
+    /// The control's connection. It stays the same object when the database is reached anew.
+    LastingConnection& connection() { return *connection_; }
+    /// A further connection to the same database, for the host's own screens. May be called on any thread.
     /// @throws HostError
-    std::unique_ptr<data::Connection> openConnection() const { return connect(choice_); }
+    std::unique_ptr<data::Connection> openConnection() const { return servers_->connect(); }
+    /// Starts the private server again where it has ended; else nothing. Call it from the main thread.
+    /// @throws HostError
+    void revive();
 
     /// What the operator should know: Spanish texts, most often none.
     const std::vector<std::string>& warnings() const { return warnings_; }
@@ -44,16 +49,16 @@ public:
     /// Whether the tables were made by this call.
     bool created() const { return created_; }
     /// Where the database lies, for whoever reaches it by a client of his own.
-    const DatabaseChoice& choice() const { return choice_; }
-    std::string description() const { return describe(choice_); }
+    const DatabaseChoice& choice() const { return servers_->present(); }
+    std::string description() const { return servers_->description(); }
 
 private:
     friend Database openDatabase(const DatabaseOptions& options, const Progress& progress);
     Database() = default;
 
     std::unique_ptr<PrivateServer> server_; // first, so that it goes last
-    DatabaseChoice choice_;
-    std::unique_ptr<data::Connection> connection_;
+    std::unique_ptr<ServerList> servers_;
+    std::unique_ptr<LastingConnection> connection_;
     std::vector<std::string> warnings_;
     bool created_ = false;
 };

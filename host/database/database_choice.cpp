@@ -52,7 +52,7 @@ std::unique_ptr<data::Connection> open(const DatabaseChoice& choice)
 {
     return std::visit(Overloaded{[](const MariadbTarget& target) { return openMariadb(target); },
                                  [](const OdbcTarget& target) {
-                                     auto connection = openOdbc(target.text);
+                                     auto connection = openOdbc(target);
                                      setDateOrder(*connection);
                                      return connection;
                                  }},

@@ -25,9 +25,11 @@ struct MariadbTarget {
     unsigned readTimeout = 60;
 };
 
-/// Whatever ODBC reaches, by its connection string.
+/// Whatever ODBC reaches, by its connection string. Times are in seconds.
 struct OdbcTarget {
     std::string text;
+    unsigned connectTimeout = 10;
+    unsigned readTimeout = 60;
 };
 
 using DatabaseChoice = std::variant<MariadbTarget, OdbcTarget>;

@@ -23,9 +23,12 @@ std::unique_ptr<data::Connection> openMariadb(const MariadbTarget& target)
     return std::make_unique<data::mariadb::Connection>(options);
 }
 
-std::unique_ptr<data::Connection> openOdbc(const std::string& text)
+std::unique_ptr<data::Connection> openOdbc(const OdbcTarget& target)
 {
-    return std::make_unique<data::odbc::Connection>(text);
+    data::odbc::TimeOuts timeOuts;
+    timeOuts.connect = std::chrono::seconds(target.connectTimeout);
+    timeOuts.read = std::chrono::seconds(target.readTimeout);
+    return std::make_unique<data::odbc::Connection>(target.text, timeOuts);
 }
 
 } // namespace dn::host

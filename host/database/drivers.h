@@ -7,16 +7,16 @@
 #include "data/connection.h"
 
 #include <memory>
-#include <string>
 
 namespace dn::host {
 
 struct MariadbTarget;
+struct OdbcTarget;
 
 /// @throws data::Error when the server refuses or does not answer in time.
 std::unique_ptr<data::Connection> openMariadb(const MariadbTarget& target);
 
-/// @param text an ODBC connection string. @throws data::Error as above.
-std::unique_ptr<data::Connection> openOdbc(const std::string& text);
+/// @throws data::Error as above.
+std::unique_ptr<data::Connection> openOdbc(const OdbcTarget& target);
 
 } // namespace dn::host

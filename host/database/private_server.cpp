@@ -73,6 +73,13 @@ PrivateServer::PrivateServer(ServerOptions options, const Progress& progress)
     if (!join()) start(progress);
 }
 
+void PrivateServer::revive()
+{
+    if (owned() && !process_.ended()) return;
+    const FileLock lock(folder_.lock, options_.lockPatience);
+    if (!join()) start({});
+}
+
 PrivateServer::~PrivateServer() { process_.stop(options_.stopPatience); }
 
 MariadbTarget PrivateServer::target(const std::string& database) const

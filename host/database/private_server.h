@@ -41,6 +41,10 @@ public:
     /// Stops the server when this object started it; one that was joined goes on.
     ~PrivateServer();
 
+    /// Starts the server again, or joins another's, where it has ended. Call it from the main thread.
+    /// @throws HostError as the constructor.
+    void revive();
+
     const ServerFolder& folder() const { return folder_; }
     /// Whether this object started the server.
     bool owned() const { return process_.pid() > 0; }

@@ -52,9 +52,10 @@ void install(const ServerFolder& folder, const ServerBinaries& programs, const f
     for (const std::string& option : layoutOptions(fresh))
         arguments.push_back(option);
     // The folder, closed to others, guards the server: accounts tied to a name of the system would break when the
-    // user's home moves to another name.
+    // user's home moves to another name. A machine that cannot look up its own name is good enough, too: nothing
+    // here goes over the network (--force).
     for (const char* option :
-         {"--auth-root-authentication-method=normal", "--skip-test-db", "--skip-name-resolve"})
+         {"--auth-root-authentication-method=normal", "--skip-test-db", "--skip-name-resolve", "--force"})
         arguments.emplace_back(option);
     // The installer is a server, and a server that starts removes every temporary table in its folder: in one that
     // is shared, those of another installation as well. A variable, since the script cannot hand on an option with

@@ -22,7 +22,7 @@ namespace {
 /// @param most bytes; a file with more is not read any further.
 Attachment readAttachment(const QString& path, qint64 most, const SendProgress& progress)
 {
-    constexpr qint64 piece = 256 * 1024; // bytes; from a folder on the network each may take its time
+    constexpr qint64 piece = 262'144; // bytes; from a folder on the network each may take its time
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) refuse(file);
     QByteArray content;

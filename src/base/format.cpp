@@ -15,12 +15,18 @@ namespace {
 constexpr std::array<std::string_view, 12> months{"ene", "feb", "mar", "abr", "may", "jun",
                                                   "jul", "ago", "sep", "oct", "nov", "dic"};
 
+// The last two digits.
+void appendPair(std::string& text, int number)
+{
+    text += static_cast<char>('0' + number / 10 % 10);
+    text += static_cast<char>('0' + number % 10);
+}
+
+// @param width 2 or 4.
 void appendPadded(std::string& text, int number, int width)
 {
-    std::array<char, 4> digits{};
-    for (int i = width - 1; i >= 0; --i, number /= 10)
-        digits[static_cast<std::size_t>(i)] = static_cast<char>('0' + number % 10);
-    text.append(digits.data(), static_cast<std::size_t>(width));
+    if (width > 2) appendPair(text, number / 100);
+    appendPair(text, number);
 }
 
 // The run of one letter at the front of a pattern.

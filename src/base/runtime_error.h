@@ -5,12 +5,15 @@
 // value that does not fit. Its text is Spanish, because a trap shows it to the operator as it stands.
 #pragma once
 
+#include "base/export.h"
+
 #include <stdexcept>
 #include <string>
 
 namespace dn {
 
-class RuntimeError : public std::runtime_error {
+/// A mistake in the use of the control or of one of its elements.
+class DN_EXPORT RuntimeError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <locale>
 #include <vector>
 
@@ -61,9 +63,18 @@ private:
     std::vector<char16_t> table_ = std::vector<char16_t>(0x10000);
 };
 
+// Eight bytes at a time: every cell that is searched is asked.
 bool isAscii(std::string_view text)
 {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    std::uint64_t all = 0;
+    for (; text.size() >= sizeof(all); text.remove_prefix(sizeof(all))) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data(), sizeof(word));
+        all |= word;
+    }
+    for (const char c : text)
+        all |= static_cast<unsigned char>(c);
+    return (all & 0x8080'8080'8080'8080U) == 0;
 }
 
 char foldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -77,15 +88,31 @@ bool startsWithFolded(std::string_view text, std::string_view folded)
     return true;
 }
 
-bool containsAsciiNoCase(std::string_view text, std::string_view folded)
+bool startsWithAscii(std::string_view text, std::string_view folded)
+{
+    return std::equal(folded.begin(), folded.end(), text.begin(),
+                      [](char wanted, char c) { return wanted == foldAscii(c); });
+}
+
+// The place of the first character that has no other case, if there is one.
+std::size_t anchorOf(std::string_view folded)
+{
+    const auto hasCase = [](char c) { return c >= 'a' && c <= 'z'; };
+    return static_cast<std::size_t>(std::ranges::find_if_not(folded, hasCase) - folded.begin());
+}
+
+// Goes from one anchor to the next, which is many characters at a step.
+bool containsAsciiNoCase(std::string_view text, std::string_view folded, std::size_t anchor)
 {
     if (folded.size() > text.size()) return false;
     const std::size_t last = text.size() - folded.size();
     for (std::size_t i = 0; i <= last; ++i) {
-        std::size_t k = 0;
-        while (k < folded.size() && foldAscii(text[i + k]) == folded[k])
-            ++k;
-        if (k == folded.size()) return true;
+        if (anchor < folded.size()) {
+            const std::size_t found = text.find(folded[anchor], i + anchor);
+            if (found == std::string_view::npos || found - anchor > last) return false;
+            i = found - anchor;
+        }
+        if (startsWithAscii(text.substr(i), folded)) return true;
     }
     return false;
 }
@@ -179,14 +206,17 @@ bool equalsNoCase(std::string_view left, std::string_view right)
     return left.empty() && right.empty();
 }
 
-NoCasePattern::NoCasePattern(std::string_view pattern) : folded_(toLower(pattern)), ascii_(isAscii(folded_)) {}
+NoCasePattern::NoCasePattern(std::string_view pattern)
+    : folded_(toLower(pattern)), anchor_(anchorOf(folded_)), ascii_(isAscii(folded_))
+{
+}
 
 bool NoCasePattern::isIn(std::string_view text) const
 {
     if (folded_.empty()) return true;
     // The Kelvin sign and the dotted capital I fold to ASCII, so an ASCII pattern alone does not make the text
     // ASCII.
-    if (ascii_ && isAscii(text)) return containsAsciiNoCase(text, folded_);
+    if (ascii_ && isAscii(text)) return containsAsciiNoCase(text, folded_, anchor_);
     for (; !text.empty(); takeCharacter(text))
         if (startsWithFolded(text, folded_)) return true;
     return false;

@@ -5,6 +5,8 @@
 // nothing else, comparisons that fold case in all of Unicode and keep accents apart.
 #pragma once
 
+#include "base/export.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -16,32 +18,32 @@ namespace dn {
 inline constexpr std::string_view crlf = "\r\n";
 
 /// Characters, not bytes. A byte that belongs to no valid sequence counts as one character.
-std::size_t length(std::string_view text);
+DN_INTERNAL std::size_t length(std::string_view text);
 
 /// Without the blanks (U+0020) at both ends.
-std::string_view trimmed(std::string_view text);
+DN_INTERNAL std::string_view trimmed(std::string_view text);
 
 /// Without any of the places where `part`, which is not empty, stands; what comes together by that stays.
-std::string without(std::string_view text, std::string_view part);
+DN_INTERNAL std::string without(std::string_view text, std::string_view part);
 
 /// Reads the character at the front and takes it off. Invalid bytes come one at a time as U+DC80 to U+DCFF, so
 /// that they stay distinct from each other and from every valid text.
 /// @param text not empty.
-char32_t takeCharacter(std::string_view& text);
+DN_INTERNAL char32_t takeCharacter(std::string_view& text);
 
 /// Appends a character in UTF-8; U+DC80 to U+DCFF give back the invalid byte that they stand for.
-void appendCharacter(std::string& text, char32_t character);
+DN_INTERNAL void appendCharacter(std::string& text, char32_t character);
 
 /// Small letter of a character by the simple folding of the C++ library; every other character as it is.
-char32_t foldCase(char32_t character);
+DN_INTERNAL char32_t foldCase(char32_t character);
 
 /// The text with every character folded; for comparing, and for `lower case` where a procedure asks for it.
-std::string toLower(std::string_view text);
+DN_INTERNAL std::string toLower(std::string_view text);
 
-bool equalsNoCase(std::string_view left, std::string_view right);
+DN_INTERNAL bool equalsNoCase(std::string_view left, std::string_view right);
 
 /// A text to look for without regard to case; for a search that is repeated over many texts.
-class NoCasePattern {
+class DN_INTERNAL NoCasePattern {
 public:
     explicit NoCasePattern(std::string_view pattern);
 
@@ -50,10 +52,11 @@ public:
 
 private:
     std::string folded_;
+    std::size_t anchor_; ///< of `folded_`, where a search looks first; its size for none
     bool ascii_;
 };
 
 /// Whether `text` holds `part`, without regard to case. An empty part is held by every text.
-bool containsNoCase(std::string_view text, std::string_view part);
+DN_INTERNAL bool containsNoCase(std::string_view text, std::string_view part);
 
 } // namespace dn

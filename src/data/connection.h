@@ -4,6 +4,7 @@
 // The connection through which every statement of the control runs. The host opens it, lends it and keeps it.
 #pragma once
 
+#include "base/export.h"
 #include "data/recordset.h"
 
 #include <memory>
@@ -11,11 +12,12 @@
 
 namespace dn::data {
 
-class Connection {
+/// A connection to the host's database: over one of the drivers, or of the host's own.
+class DN_EXPORT Connection {
 public:
     /// The value of `State` for an open connection.
     static constexpr int open = 1;
-    static constexpr int closed = 0;
+    static constexpr int closed = 0; ///< any other value of `State`, this one most often
 
     Connection() = default;
     Connection(const Connection&) = delete;

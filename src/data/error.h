@@ -4,6 +4,8 @@
 // The one error of the database connections, whichever driver carries them.
 #pragma once
 
+#include "base/export.h"
+
 #include <stdexcept>
 #include <string>
 
@@ -11,8 +13,9 @@ namespace dn::data {
 
 /// A statement that the server refused, or a server that did not answer. `what()` is the server's own text,
 /// UTF-8, without the drivers' bracketed prefixes: a trap shows it to the operator as it stands.
-class Error : public std::runtime_error {
+class DN_EXPORT Error : public std::runtime_error {
 public:
+    /// @param sqlState five characters. @param nativeCode the server's number. @param text the server's own.
     Error(std::string sqlState, int nativeCode, const std::string& text)
         : std::runtime_error(text), sqlState_(std::move(sqlState)), nativeCode_(nativeCode)
     {

@@ -10,6 +10,8 @@
 //   none                neither: the failure reaches the caller, and at last the host.
 #pragma once
 
+#include "base/export.h"
+
 #include <exception>
 #include <functional>
 #include <string>
@@ -19,10 +21,10 @@ namespace dn::data {
 
 /// Called with each failure that a resumeNext passes over; for tests and for a host that wants to count them.
 /// Nothing is kept by the control itself. An empty function takes the observer away.
-void observePassedOver(std::function<void(const std::exception&)> observer);
+DN_EXPORT void observePassedOver(std::function<void(const std::exception&)> observer);
 
 namespace detail {
-void passedOver(const std::exception& failure);
+DN_EXPORT void passedOver(const std::exception& failure);
 }
 
 /// Runs one statement; a failure is passed over.

@@ -8,6 +8,8 @@
 // in. A block that was passed is freed or filled again.
 #pragma once
 
+#include "base/export.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -17,7 +19,7 @@
 
 namespace dn::data {
 
-class RowMemory {
+class DN_INTERNAL RowMemory {
 public:
     explicit RowMemory(std::size_t columns) : columns_(columns) {}
 

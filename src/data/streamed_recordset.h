@@ -8,6 +8,7 @@
 // recordset takes its remaining rows into memory; the loop over it never notices.
 #pragma once
 
+#include "base/export.h"
 #include "data/error.h"
 #include "data/recordset.h"
 #include "data/row_memory.h"
@@ -20,7 +21,7 @@
 namespace dn::data {
 
 /// A driver's result on the wire. Its destructor reads off whatever is left of it.
-class RowSource {
+class DN_INTERNAL RowSource {
 public:
     RowSource() = default;
     RowSource(const RowSource&) = delete;
@@ -35,7 +36,7 @@ public:
 class StreamedRecordset;
 
 /// The wire of a connection: knows which recordset still reads from it.
-class Wire {
+class DN_INTERNAL Wire {
 public:
     /// Ahead of a statement: that recordset takes its remaining rows into memory.
     void clear();
@@ -47,12 +48,12 @@ private:
     StreamedRecordset* reader_ = nullptr;
 };
 
-struct Column {
+struct DN_INTERNAL Column {
     std::string name;
     Value::Kind kind = Value::Kind::text; ///< of all its cells that are not null
 };
 
-class StreamedRecordset final : public Recordset {
+class DN_INTERNAL StreamedRecordset final : public Recordset {
 public:
     enum class Reading : std::uint8_t {
         batches, ///< the rest is read as the loop goes on

@@ -8,6 +8,7 @@
 // by the host; the control says with each operation what it reads back.
 #pragma once
 
+#include "base/export.h"
 #include "data/connection.h"
 
 #include <any>
@@ -21,7 +22,7 @@ namespace dn {
 using HostObject = std::shared_ptr<void>;
 
 /// Holds the connection for the host's screens.
-class ConexionCRM {
+class DN_EXPORT ConexionCRM {
 public:
     virtual ~ConexionCRM() = default;
     /// @param connection lives as long as the host keeps it; nothing when the control was given none.
@@ -29,14 +30,17 @@ public:
 };
 
 /// The host's screens for persons and organisations.
-class UI_CRM {
+class DN_EXPORT UI_CRM {
 public:
     virtual ~UI_CRM() = default;
 
     /// Tells the screens which agent works. Called at every change of agent, with 0 for "< Sin asignar >".
     virtual void SetAgente(std::int32_t agente) = 0;
+    /// Called once at the binding. @param path as `InitUICRM` took it.
     virtual void SetPathXML(const std::string& path) = 0;
+    /// The holder of the connection: most simply the one that was handed over.
     virtual std::shared_ptr<ConexionCRM> Conexion() = 0;
+    /// Called first at the binding, with a holder of which the factory has made a new one.
     virtual void Conexion(std::shared_ptr<ConexionCRM> holder) = 0;
     /// Called once at the binding, after SetFXLands.
     virtual void Abrir() = 0;
@@ -54,6 +58,7 @@ public:
     virtual void NuevaPersona(HostObject& object, std::int32_t& agente, std::any& result) = 0;
     /// Opens a person, as EditarOrganizacion does.
     virtual void EditarPersona(std::int32_t& key, std::int32_t& agente, std::any& result) = 0;
+    /// Called once at the binding. @param lands as `InitUICRM` took it.
     virtual void SetFXLands(const HostObject& lands) = 0;
     /// Shows what hangs together with a directory entry.
     /// @param kind 0 a person, 1 an organisation. @param caption of the window.
@@ -66,7 +71,7 @@ public:
 };
 
 /// The host's screens for projects.
-class UIProyectos {
+class DN_EXPORT UIProyectos {
 public:
     virtual ~UIProyectos() = default;
 
@@ -79,6 +84,7 @@ public:
                               std::int32_t ciudad, const std::string& telefono, const std::string& text3,
                               const std::string& email, const std::string& text4, std::int32_t agente,
                               std::int32_t& result) = 0;
+    /// Opens a project. @param key of the project.
     virtual void EditarProyecto(std::int32_t key) = 0;
     /// @param motor 1 MySQL or MariaDB, 2 SQL Server, 0 not found out.
     virtual void SetMotorBD(std::int16_t motor) = 0;
@@ -90,7 +96,7 @@ public:
 };
 
 /// Writes, sends and keeps mails. A new object serves each mail and each look at the history.
-class CorreoHost {
+class DN_EXPORT CorreoHost {
 public:
     virtual ~CorreoHost() = default;
 
@@ -109,17 +115,18 @@ public:
 };
 
 /// The agent that a directory entry belongs to.
-class EjecutivoRegistro {
+class DN_EXPORT EjecutivoRegistro {
 public:
     virtual ~EjecutivoRegistro() = default;
-    virtual std::int32_t Llave() = 0;
+    virtual std::int32_t Llave() = 0; ///< his key in the table `Agente`
 };
 
 /// A person of the directory, read ahead of its screen.
-class PersonaRegistro {
+class DN_EXPORT PersonaRegistro {
 public:
     virtual ~PersonaRegistro() = default;
 
+    /// Called first. @param connection the control's own.
     virtual void Conexion(data::Connection* connection) = 0;
     /// Loads the person. @param text the control passes empty. @param object the control passes none.
     /// @param mode the control passes 3. @param result true on success.
@@ -134,13 +141,18 @@ public:
 };
 
 /// Makes the host's objects when the control needs them. The host hands it over and keeps it alive.
-class HostFactory {
+class DN_EXPORT HostFactory {
 public:
     virtual ~HostFactory() = default;
+    /// For each InitUICRM, which fails without one.
     virtual std::shared_ptr<UI_CRM> newUI_CRM() = 0;
+    /// For each InitUICRM, which fails without one.
     virtual std::shared_ptr<ConexionCRM> newConexionCRM() = 0;
+    /// For the first InitUICRM or project; kept until the control ends.
     virtual std::shared_ptr<UIProyectos> newUIProyectos() = 0;
+    /// For each mail and each look at the history; without one nothing opens.
     virtual std::shared_ptr<CorreoHost> newCorreoHost() = 0;
+    /// For each "Editar" of a person, which fails without one.
     virtual std::shared_ptr<PersonaRegistro> newPersonaRegistro() = 0;
 };
 

@@ -5,11 +5,14 @@
 // implements them; whoever needs one holds this interface and so knows no room above itself.
 #pragma once
 
+#include "base/export.h"
+
 #include <cstdint>
 
 namespace dn::desk {
 
-class PublicOperations {
+/// What `ctrDnContacts` offers its own rooms.
+class DN_EXPORT PublicOperations {
 public:
     /// Writes a mail to the party in hand.
     virtual void cmdSend_Click() = 0;

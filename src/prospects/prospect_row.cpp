@@ -24,6 +24,14 @@ constexpr int iconOverdue = 5;
 constexpr int iconAhead = 6;
 constexpr std::string_view datePattern = "yyyy-mm-dd";
 
+// A date as the drivers deliver it begins with what the pattern gives: three columns of each row need no calendar.
+bool startsWithDay(const data::Value& value)
+{
+    const std::string_view raw = value.raw();
+    return value.kind() == data::Value::Kind::dateTime && raw.size() >= datePattern.size() && raw[4] == '-' &&
+           raw[7] == '-';
+}
+
 } // namespace
 
 ProspectRowBuilder::ProspectRowBuilder(screen::ListView& lvw, const data::Recordset& records, const DateTime& now)
@@ -95,7 +103,9 @@ void ProspectRowBuilder::addDateCell(screen::ListItem& item, const Column& colum
     text_.clear();
     resumeNext([&] {
         const data::Value value = read(column);
-        if (value.kind() == data::Value::Kind::dateTime)
+        if (startsWithDay(value))
+            text_ = value.raw().substr(0, datePattern.size());
+        else if (value.kind() == data::Value::Kind::dateTime)
             appendDate(text_, value.toDateTime(), datePattern);
         else
             NullATexto(value, text_);

@@ -4,6 +4,7 @@
 // Push buttons, option buttons and check boxes.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
@@ -11,7 +12,7 @@
 
 namespace dn::screen {
 
-class Button : public Element {
+class DN_INTERNAL Button : public Element {
 public:
     using Element::Element;
 
@@ -75,7 +76,7 @@ private:
 };
 
 /// One of several options that exclude each other: all option buttons of one container.
-class OptionButton : public Element {
+class DN_INTERNAL OptionButton : public Element {
 public:
     using Element::Element;
 
@@ -103,7 +104,7 @@ private:
     bool value_ = false;
 };
 
-class CheckBox : public Element {
+class DN_INTERNAL CheckBox : public Element {
 public:
     using Element::Element;
 

@@ -6,12 +6,13 @@
 #pragma once
 
 #include "base/date_time.h"
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
 namespace dn::screen {
 
-class MonthView : public Element {
+class DN_INTERNAL MonthView : public Element {
 public:
     using Element::Element;
 
@@ -31,7 +32,7 @@ private:
     DateTime value_;
 };
 
-class DTPicker : public Element {
+class DN_INTERNAL DTPicker : public Element {
 public:
     using Element::Element;
 

@@ -4,12 +4,13 @@
 // A box that drops down a list: of fixed entries, or of proposals for a text that the operator types.
 #pragma once
 
+#include "base/export.h"
 #include "screen/item_list.h"
 #include "screen/visitor.h"
 
 namespace dn::screen {
 
-class ComboBox : public ItemList {
+class DN_INTERNAL ComboBox : public ItemList {
 public:
     using ItemList::ItemList;
 

@@ -4,6 +4,7 @@
 // What an operator copies from a list, as text for other programs.
 #pragma once
 
+#include "base/export.h"
 #include "screen/list_view.h"
 
 #include <cstddef>
@@ -13,7 +14,7 @@
 namespace dn::screen {
 
 /// Cells beside each other, by position in the order shown and by column, all counted from 0.
-struct CellRange {
+struct DN_INTERNAL CellRange {
     std::size_t firstRow = 0;
     std::size_t lastRow = 0;
     std::size_t firstColumn = 0;
@@ -28,6 +29,6 @@ struct CopyForm {
 /// A line for each row that has one of the cells, in the order shown, with a tab between its cells. Every column
 /// that has one of them takes part in every line. A text that would fall apart stands between quotes, as
 /// spreadsheets have it. Ranges may overlap and reach beyond the list.
-std::string copiedText(const ListView& list, std::vector<CellRange> ranges, const CopyForm& form = {});
+DN_INTERNAL std::string copiedText(const ListView& list, std::vector<CellRange> ranges, const CopyForm& form = {});
 
 } // namespace dn::screen

@@ -5,6 +5,7 @@
 // changes the text of its cells and copies them. Nothing of that reaches a database.
 #pragma once
 
+#include "base/export.h"
 #include "screen/list_view.h"
 
 #include <string>
@@ -14,7 +15,7 @@
 namespace dn::screen {
 
 /// A table in memory, of text fields. A row is opened, filled and committed; then the grid shows it.
-class MemoryDataset {
+class DN_INTERNAL MemoryDataset {
 public:
     explicit MemoryDataset(ListView& grid) : grid_(grid) {}
 
@@ -59,7 +60,7 @@ private:
     bool rowIsOpen_ = false;
 };
 
-class DataGrid : public ListView {
+class DN_INTERNAL DataGrid : public ListView {
 public:
     DataGrid(Container* parent, std::string name);
 

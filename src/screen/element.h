@@ -9,6 +9,7 @@
 // same gestures.
 #pragma once
 
+#include "base/export.h"
 #include "screen/signal.h"
 
 #include <cstdint>
@@ -35,7 +36,7 @@ enum class Align : std::uint8_t {
     right, ///< along the right edge, below what is docked to the top
 };
 
-class Element {
+class DN_INTERNAL Element {
 public:
     /// @param parent the container that the element lies in; nothing for a screen's outermost container.
     /// @param name the element's name; members of an array carry their index, "lblItem(2)".
@@ -141,7 +142,7 @@ private:
 };
 
 /// An element that others lie in. The first one stands in front.
-class Container : public Element {
+class DN_INTERNAL Container : public Element {
 public:
     using Element::Element;
     ~Container() override;

@@ -5,13 +5,15 @@
 // any scale.
 #pragma once
 
+#include "base/export.h"
+
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace dn::screen {
 
-class ImageList {
+class DN_INTERNAL ImageList {
 public:
     ImageList(std::string name, std::vector<std::string> images)
         : name_(std::move(name)), images_(std::move(images))

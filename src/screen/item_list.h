@@ -4,13 +4,14 @@
 // The entries of combo and list boxes: a text each, with a number beside it.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 
 #include <cstdint>
 
 namespace dn::screen {
 
-class ItemList : public Element {
+class DN_INTERNAL ItemList : public Element {
 public:
     using Element::Element;
 

@@ -5,6 +5,8 @@
 // numbers with open addressing. The keys themselves lie in the rows.
 #pragma once
 
+#include "base/export.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -14,7 +16,7 @@
 
 namespace dn::screen {
 
-class KeyIndex {
+class DN_INTERNAL KeyIndex {
 public:
     using RowNumber = std::uint32_t;
 

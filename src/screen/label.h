@@ -4,6 +4,7 @@
 // A text on the screen; the tabs of the strip are labels too.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
@@ -13,7 +14,7 @@ namespace dn::screen {
 
 enum class TextAlignment : std::uint8_t { left, right, centre };
 
-class Label : public Element {
+class DN_INTERNAL Label : public Element {
 public:
     using Element::Element;
 

@@ -4,12 +4,13 @@
 // A list of lines, with a check box on each line where it is asked for.
 #pragma once
 
+#include "base/export.h"
 #include "screen/item_list.h"
 #include "screen/visitor.h"
 
 namespace dn::screen {
 
-class ListBox : public ItemList {
+class DN_INTERNAL ListBox : public ItemList {
 public:
     using ItemList::ItemList;
 

@@ -8,6 +8,7 @@
 // buffer until the next row comes, so that each row is written once, at its exact size.
 #pragma once
 
+#include "base/export.h"
 #include "screen/key_index.h"
 #include "screen/row_block.h"
 
@@ -18,7 +19,7 @@
 
 namespace dn::screen {
 
-class ListRows {
+class DN_INTERNAL ListRows {
 public:
     using RowNumber = KeyIndex::RowNumber;
     static constexpr RowNumber none = KeyIndex::none;

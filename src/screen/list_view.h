@@ -4,6 +4,7 @@
 // A list with report columns, icons and check boxes: the main element of every tab.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/image_list.h"
 #include "screen/list_rows.h"
@@ -21,7 +22,7 @@ class ListSubItems;
 class ListView;
 
 /// A report column. Column 0 shows the rows' own texts, column n their sub-item n.
-struct ColumnHeader {
+struct DN_INTERNAL ColumnHeader {
     int Index = 0; ///< counted from 1
     std::string Text;
     Twips Width = 1440;
@@ -30,7 +31,7 @@ struct ColumnHeader {
 
 /// A row of a list view: a light handle, to be copied freely. Its texts are good until the list changes.
 /// A handle outlives its row: every use of it then throws RuntimeError.
-class ListItem {
+class DN_INTERNAL ListItem {
 public:
     ListItem(ListView& list, ListRows::RowNumber row, std::uint32_t generation)
         : list_(&list), row_(row), generation_(generation)
@@ -75,7 +76,7 @@ private:
 };
 
 /// A cell of a row, beside the row's own text.
-class ListSubItem {
+class DN_INTERNAL ListSubItem {
 public:
     ListSubItem(const ListItem& item, std::size_t cell) : item_(item), cell_(cell) {}
 
@@ -92,7 +93,7 @@ private:
 };
 
 /// The sub-items of a row, counted from 1.
-class ListSubItems {
+class DN_INTERNAL ListSubItems {
 public:
     explicit ListSubItems(const ListItem& item) : item_(item) {}
 
@@ -106,7 +107,7 @@ private:
 };
 
 /// All rows of a list view, in the order shown.
-class ListItems {
+class DN_INTERNAL ListItems {
 public:
     explicit ListItems(ListView& list) : list_(&list) {}
 
@@ -129,13 +130,13 @@ private:
 };
 
 /// What a view has not shown yet.
-struct ListChanges {
+struct DN_INTERNAL ListChanges {
     bool order = false;                ///< the rows stand in another order
     std::size_t firstChanged = 0;      ///< positions of rows that look different: from here ...
     std::size_t behindLastChanged = 0; ///< ... up to here; equal for none
 };
 
-class ListView : public Element {
+class DN_INTERNAL ListView : public Element {
 public:
     static constexpr int ascending = 0;
     static constexpr int descending = 1;

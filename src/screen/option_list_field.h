@@ -4,6 +4,7 @@
 // A captioned drop-down list whose entries carry a key beside their text.
 #pragma once
 
+#include "base/export.h"
 #include "screen/combo_box.h"
 #include "screen/label.h"
 #include "screen/panels.h"
@@ -15,7 +16,7 @@ namespace dn::screen {
 
 /// A panel with a label and a list, named after it: "dxColor.caption" and "dxColor.InnerList". The list takes the
 /// width that the caption leaves.
-class eOptionLstField : public PicturePanel {
+class DN_INTERNAL eOptionLstField : public PicturePanel {
 public:
     eOptionLstField(Container* parent, const std::string& name);
 

@@ -4,6 +4,7 @@
 // The containers: the control itself, the panels inside it, and the windows of the dialogs.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
@@ -12,7 +13,7 @@
 namespace dn::screen {
 
 /// A plain panel. Its back colour is its own matter: the colour swatch shows a mark with it.
-class PicturePanel : public Container {
+class DN_INTERNAL PicturePanel : public Container {
 public:
     using Container::Container;
 
@@ -34,7 +35,7 @@ private:
 };
 
 /// The outermost container of the control. Whoever gives it room calls `resize`.
-class UserControl : public Container {
+class DN_INTERNAL UserControl : public Container {
 public:
     explicit UserControl(std::string name) : Container(nullptr, std::move(name)) {}
 
@@ -48,7 +49,7 @@ public:
 
 /// The window of a dialog. It shows through the modal loop of the ports and is hidden or unloaded by its own
 /// code.
-class Form : public Container {
+class DN_INTERNAL Form : public Container {
 public:
     explicit Form(std::string name) : Container(nullptr, std::move(name)) { Visible(false); }
 
@@ -92,7 +93,7 @@ private:
 };
 
 /// A plain line drawn on a form.
-class Line : public Element {
+class DN_INTERNAL Line : public Element {
 public:
     using Element::Element;
 

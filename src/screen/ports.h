@@ -6,6 +6,7 @@
 #pragma once
 
 #include "base/date_time.h"
+#include "base/export.h"
 
 #include <cstdint>
 #include <optional>
@@ -15,19 +16,23 @@ namespace dn::screen {
 
 class Form;
 
+/// A box that the operator must answer.
 struct MessageBox {
+    /// What he can answer.
     enum class Buttons : std::uint8_t { ok, yesNo };
+    /// The drawing beside the text.
     enum class Icon : std::uint8_t { none, critical };
 
-    std::string prompt;
-    Buttons buttons = Buttons::ok;
-    Icon icon = Icon::none;
+    std::string prompt;            ///< the text, with line ends where it has several lines
+    Buttons buttons = Buttons::ok; ///< one, or a choice
+    Icon icon = Icon::none;        ///< almost always none
     /// The button that Enter presses, counted from 1.
     int defaultButton = 1;
     /// Empty: the box shows the display name of the host application.
     std::string title = {};
 };
 
+/// The button that was pressed.
 enum class Answer : std::uint8_t { ok, yes, no };
 
 /// The result of a save-file dialog.
@@ -36,7 +41,8 @@ struct SaveChoice {
     int filterIndex = 1; ///< which pair of the filter was chosen, counted from 1
 };
 
-class Dialogs {
+/// Boxes in front of the control.
+class DN_EXPORT Dialogs {
 public:
     virtual ~Dialogs() = default;
 
@@ -53,17 +59,18 @@ public:
 };
 
 /// The mouse pointer of the whole screen.
-class Pointer {
+class DN_EXPORT Pointer {
 public:
-    static constexpr int standard = 0;
-    static constexpr int hourglass = 11;
+    static constexpr int standard = 0;   ///< the usual shape
+    static constexpr int hourglass = 11; ///< while something takes long
 
     virtual ~Pointer() = default;
-    virtual int MousePointer() const = 0;
-    virtual void MousePointer(int shape) = 0;
+    virtual int MousePointer() const = 0;     ///< the shape that was set last
+    virtual void MousePointer(int shape) = 0; ///< @overload
 };
 
-class EventLoop {
+/// The toolkit's loop of events, in which the control runs.
+class DN_EXPORT EventLoop {
 public:
     virtual ~EventLoop() = default;
     /// Yields once: pending events run, paints among them, and may start handlers of the control.
@@ -72,7 +79,8 @@ public:
     virtual void ShowModal(Form& form) = 0;
 };
 
-class Clock {
+/// The time, which a test sets.
+class DN_EXPORT Clock {
 public:
     virtual ~Clock() = default;
     /// The machine's local date and time, in whole seconds.
@@ -81,10 +89,10 @@ public:
 
 /// The ports of one screen; whoever makes them keeps them alive longer than the screen.
 struct Ports {
-    Dialogs& dialogs;
-    Pointer& pointer;
-    EventLoop& events;
-    Clock& clock;
+    Dialogs& dialogs;  ///< boxes and questions
+    Pointer& pointer;  ///< the hourglass
+    EventLoop& events; ///< yields and windows
+    Clock& clock;      ///< dates of the log
 };
 
 } // namespace dn::screen

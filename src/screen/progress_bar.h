@@ -4,12 +4,13 @@
 // A bar that shows how far something is.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
 namespace dn::screen {
 
-class ProgressBar : public Element {
+class DN_INTERNAL ProgressBar : public Element {
 public:
     using Element::Element;
 

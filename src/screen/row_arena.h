@@ -5,6 +5,8 @@
 // the other in large pieces: no bookkeeping for each row, and no search for its place when it goes.
 #pragma once
 
+#include "base/export.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <memory>
@@ -13,7 +15,7 @@
 
 namespace dn::screen {
 
-class RowArena {
+class DN_INTERNAL RowArena {
 public:
     /// What every block begins at a multiple of.
     static constexpr std::size_t alignment = 4;

@@ -13,6 +13,7 @@
 // Offsets are of 16 bits where the text is short enough, else of 32.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/row_arena.h"
 
@@ -31,7 +32,7 @@ constexpr std::uint8_t iconNumber(int icon)
 }
 
 /// What sets one cell apart from its row.
-struct CellStyle {
+struct DN_INTERNAL CellStyle {
     std::uint16_t cell = 0;
     std::uint8_t icon = 0; ///< report icon, 0 for none
     bool hasColour = false;
@@ -39,7 +40,7 @@ struct CellStyle {
 };
 
 /// A row while it is built or changed: the same facts as the block, in growing buffers that are used again.
-struct RowDraft {
+struct DN_INTERNAL RowDraft {
     std::string key;
     std::string cells;               ///< the texts of all cells, one behind the other
     std::vector<std::uint32_t> ends; ///< where each cell's text ends in `cells`
@@ -60,7 +61,7 @@ struct RowDraft {
 };
 
 /// A row in its arena: a pointer, to be copied freely.
-class RowBlock {
+class DN_INTERNAL RowBlock {
 public:
     RowBlock() = default;
     /// Writes a row into the arena, which must outlive every use of it.

@@ -6,6 +6,7 @@
 // the other cells, took ten times as long.
 #pragma once
 
+#include "base/export.h"
 #include "screen/key_index.h"
 
 #include <cstddef>
@@ -16,7 +17,7 @@
 
 namespace dn::screen {
 
-class RowOrder {
+class DN_INTERNAL RowOrder {
 public:
     using RowNumber = KeyIndex::RowNumber;
 

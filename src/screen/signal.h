@@ -17,12 +17,16 @@ namespace dn::screen {
 /// Listening to a signal. It ends when this object goes away, whichever of signal and listener dies first.
 class Subscription {
 public:
+    /// To nothing.
     Subscription() = default;
 
+    /// @param cut ends the listening; called once.
     explicit Subscription(std::function<void()> cut) : cut_(std::move(cut)) {}
 
+    /// The other one listens to nothing any more.
     Subscription(Subscription&& other) noexcept : cut_(std::exchange(other.cut_, nullptr)) {}
 
+    /// Ends its own listening and takes over the other's.
     Subscription& operator=(Subscription&& other) noexcept
     {
         if (this != &other) {
@@ -37,6 +41,7 @@ public:
 
     ~Subscription() { reset(); }
 
+    /// Ends the listening now.
     void reset()
     {
         if (auto cut = std::exchange(cut_, nullptr)) cut();
@@ -46,15 +51,18 @@ private:
     std::function<void()> cut_;
 };
 
+/// An event. @tparam Arguments what it tells its listeners.
 template <class... Arguments>
 class Signal {
 public:
+    /// A listener.
     using Slot = std::function<void(Arguments...)>;
 
     Signal() = default;
     Signal(const Signal&) = delete;
     Signal& operator=(const Signal&) = delete;
 
+    /// @param slot is called at each emission from now on. @return ends the listening when it goes.
     [[nodiscard]] Subscription connect(Slot slot)
     {
         auto entry = std::make_shared<Slot>(std::move(slot));
@@ -77,6 +85,7 @@ public:
         }
     }
 
+    /// How many listen now.
     std::size_t listeners() const { return slots_->size(); }
 
 private:

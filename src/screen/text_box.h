@@ -4,6 +4,7 @@
 // A text that the operator reads, types or both. Line ends in it are a carriage return and a line feed.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
@@ -11,7 +12,7 @@
 
 namespace dn::screen {
 
-class TextBox : public Element {
+class DN_INTERNAL TextBox : public Element {
 public:
     /// The code of Enter in `KeyPress`.
     static constexpr int keyEnter = 13;

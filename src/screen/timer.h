@@ -4,12 +4,13 @@
 // A repeating timer. It has no place on the screen; the view's event loop makes it tick.
 #pragma once
 
+#include "base/export.h"
 #include "screen/element.h"
 #include "screen/visitor.h"
 
 namespace dn::screen {
 
-class Timer : public Element {
+class DN_INTERNAL Timer : public Element {
 public:
     using Element::Element;
 

@@ -5,6 +5,8 @@
 // each factory has a view for it.
 #pragma once
 
+#include "base/export.h"
+
 namespace dn::screen {
 
 class Button;
@@ -25,7 +27,7 @@ class TextBox;
 class Timer;
 class UserControl;
 
-class ElementVisitor {
+class DN_INTERNAL ElementVisitor {
 public:
     virtual ~ElementVisitor() = default;
 

@@ -5,6 +5,7 @@
 // screen anyway. Whether one can be used, and what it does, is the button's own business.
 #pragma once
 
+#include "base/export.h"
 #include "desk/elements.h"
 
 #include <string_view>
@@ -14,6 +15,6 @@ namespace dn::shell {
 
 /// The buttons that work on the selected row of one of the five lists, those that lie in one panel together.
 /// @param list its name. Nothing for another list.
-std::vector<screen::Button*> commandsOf(std::string_view list, desk::Elements& elements);
+DN_INTERNAL std::vector<screen::Button*> commandsOf(std::string_view list, desk::Elements& elements);
 
 } // namespace dn::shell

@@ -3,9 +3,9 @@
 
 // Which handler answers which event: one line each, and nothing else.
 
-#include "shell/ctr_dn_contacts.h"
+#include "shell/rooms.h"
 
-namespace dn {
+namespace dn::shell {
 namespace {
 
 template <class Room, class... Arguments, class... Parameters>
@@ -16,7 +16,7 @@ screen::Subscription on(screen::Signal<Arguments...>& event, Room& room, void (R
 
 } // namespace
 
-void ctrDnContacts::wire()
+void Rooms::wire()
 {
     using calling::CallFlow;
     using calling::CallOutcomes;
@@ -41,8 +41,8 @@ void ctrDnContacts::wire()
     };
     auto& [control, call, persons, organisations, today, top, detail, prospects, projects] = elements_;
 
-    join(control.Resize, layout_, &shell::Layout::UserControl_Resize);
-    join(top.cbAgente.Click, agents_, &shell::Agents::cbAgente_Click);
+    join(control.Resize, layout_, &Layout::UserControl_Resize);
+    join(top.cbAgente.Click, agents_, &Agents::cbAgente_Click);
     for (std::int16_t i = 0; i < desk::TabStrip::count; ++i)
         wires_.push_back(top.lblItem(i).Click.connect([this, i] { tabs_.lblItem_Click(i); }));
 
@@ -116,4 +116,4 @@ void ctrDnContacts::wire()
     join(detail.txtText.KeyPress, notes_, &Notes::txtText_KeyPress);
 }
 
-} // namespace dn
+} // namespace dn::shell

@@ -46,18 +46,17 @@ data::Value QueueRowBuilder::read(const Column& column) const
 
 std::optional<screen::ListItem> QueueRowBuilder::addRow()
 {
-    std::string tipo;
-    desk::NullATexto(read(tipo_), tipo);
-    const std::string key = (tipo == prospectType ? "K" : "P") + read(sysPk_).toText();
-    return lvwHoy_.ListItems().Add(key, tipo);
+    desk::NullATexto(read(tipo_), text_);
+    key_ = text_ == prospectType ? "K" : "P";
+    key_ += read(sysPk_).toText();
+    return lvwHoy_.ListItems().Add(key_, text_);
 }
 
 void QueueRowBuilder::addCell(screen::ListItem& row, const Column& column)
 {
     resumeNext([&] {
-        std::string text;
-        desk::NullATexto(read(column), text);
-        row.ListSubItems().Add(text);
+        desk::NullATexto(read(column), text_);
+        row.ListSubItems().Add(text_);
     });
 }
 
@@ -67,13 +66,13 @@ void QueueRowBuilder::addHora(screen::ListItem& row)
 {
     resumeNext([&] {
         const data::Value cita = read(cita_);
-        std::string text(cita.isNull() ? withoutAppointment : cita.raw());
+        text_ = cita.isNull() ? withoutAppointment : cita.raw();
         if (!cita.isNull())
             resumeNext([&] {
                 const DateTime moment = cita.toDateTime();
-                text = moment.date() < today_ ? cita.toText() : defaultText(moment.timeOfDay());
+                text_ = moment.date() < today_ ? cita.toText() : defaultText(moment.timeOfDay());
             });
-        row.ListSubItems().Add(text);
+        row.ListSubItems().Add(text_);
     });
 }
 

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string>
 
 namespace dn::today {
 
@@ -38,6 +39,8 @@ private:
     DateTime today_;
     Column tipo_, sysPk_, cita_;
     std::array<Column, 4> plain_; // contact, company, telephone, e-mail
+    std::string key_;             // used again for every row ...
+    std::string text_;            // ... and this one for every cell
 };
 
 } // namespace dn::today

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace dn {
 namespace {
 
@@ -127,6 +130,35 @@ TEST(ContainsNoCase, ACharacterThatFoldsToAsciiIsFoundByIt)
 {
     EXPECT_TRUE(containsNoCase("5 \u212A", "k")); // the Kelvin sign
     EXPECT_TRUE(containsNoCase("5 k", "\u212A"));
+}
+
+// The search goes from one sign without a case to the next; every text of up to five of these is held against
+// every pattern of up to three.
+TEST(ContainsNoCase, FindsWhatAPlainSearchInFoldedTextsFinds)
+{
+    const std::vector<std::string> signs{"a", "B", ".", "?", "ñ"};
+    std::vector<std::string> texts{""};
+    for (std::size_t from = 0, length = 1; length <= 5; ++length)
+        for (const std::size_t to = texts.size(); from < to; ++from)
+            for (const std::string& sign : signs)
+                texts.push_back(texts[from] + sign);
+    for (std::size_t i = 0; i < 1 + 5 + 25 + 125; ++i) {
+        const NoCasePattern pattern(texts[i]);
+        for (const std::string& text : texts)
+            ASSERT_EQ(pattern.isIn(text), toLower(text).find(toLower(texts[i])) != std::string::npos)
+                << texts[i] << " in " << text;
+    }
+}
+
+TEST(ContainsNoCase, FindsSignsBehindEightAndMoreBytes)
+{
+    EXPECT_TRUE(containsNoCase("a?b?c?Curso_Gratis=1", "?curso_gratis"));
+    EXPECT_FALSE(containsNoCase("a?b?c?Curso-Gratis=1", "?curso_gratis"));
+    EXPECT_TRUE(containsNoCase("12345678901234567890\u212A", "0k"));
+    EXPECT_TRUE(containsNoCase("1234567\u212A", "7k"));
+    EXPECT_TRUE(containsNoCase("12\u212A"
+                               "4567890123",
+                               "2k4"));
 }
 
 } // namespace

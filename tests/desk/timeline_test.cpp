@@ -3,6 +3,8 @@
 
 // The timeline of the selected row.
 
+#include "desk/session.h"
+#include "desk/timeline.h"
 #include "tests/support/control_fixture.h"
 
 namespace dn::tests {

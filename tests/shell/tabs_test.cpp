@@ -212,5 +212,38 @@ TEST_F(Tabs, a_colour_strip_too_narrow_to_give_back_its_room_leaves_the_strip_na
     EXPECT_TRUE(elements().persons.lvwContactos.Visible()) << "the tab was shown all the same";
 }
 
+TEST_F(Tabs, open_for_the_host_as_by_a_click)
+{
+    start(7, true);
+    EXPECT_EQ(control.activeTab(), -1);
+    cnn.forgetStatements();
+    click(0);
+    const std::vector<std::string> byClick = cnn.statements();
+    click(3);
+    cnn.forgetStatements();
+    control.openTab(0);
+    EXPECT_EQ(cnn.statements(), byClick);
+    EXPECT_EQ(control.activeTab(), 0);
+    EXPECT_EQ(inView(), withSearchRow({"lvw", "picRight", "Combo1", "cmdEditC", "picColors", "picItem(0)"}));
+}
+
+TEST_F(Tabs, that_do_not_exist_are_refused_to_the_host)
+{
+    start(7, true);
+    control.openTab(4);
+    EXPECT_THROW(control.openTab(5), RuntimeError);
+    EXPECT_THROW(control.openTab(-1), RuntimeError);
+    EXPECT_EQ(control.activeTab(), 4);
+}
+
+TEST_F(Tabs, that_the_strip_does_not_show_do_not_open_for_the_host)
+{
+    start(0, true); // "< Sin asignar >": the strip is narrowed
+    cnn.forgetStatements();
+    control.openTab(1);
+    EXPECT_EQ(control.activeTab(), 0);
+    EXPECT_THAT(cnn.statements(), testing::IsEmpty());
+}
+
 } // namespace
 } // namespace dn::tests

@@ -78,7 +78,7 @@ TEST_F(SqlServerGate, refuses_what_the_engine_behind_it_would_take)
 TEST_F(SqlServerGate, refuses_with_the_numbers_of_everyday_mistakes)
 {
     expectRefused({{"SELECT 'd'Arc'", 105},
-                   {"UPDATE ut_icontact SET uf_NotaStatus='d'Arc' WHERE Sys_PK=1", 105},
+                   {"UPDATE ut_icontact SET uf_NotaStatus='d'Arc' WHERE Sys_PK=1", 102},
                    {"SELECT [a", 105},
                    {"SELECT 1 /* a", 113},
                    {"SELEC * FROM Meta", 102},
@@ -96,6 +96,8 @@ TEST_F(SqlServerGate, refuses_with_the_numbers_of_everyday_mistakes)
                    {"SELECT CAST('x' AS INT)", 245},
                    {"SELECT 1/0", 8134},
                    {"CREATE TABLE Meta (a INT)", 2714},
+                   {"INSERT INTO Meta (Descripcion) SELECT 'd'Arc'", 105},
+                   {"INSERT INTO ut_OrigenContacto (uf_Origen) VALUES ('dos'), ('dos')", 2601},
                    {"COMMIT", 3902},
                    {"ROLLBACK", 3903},
                    {"USE nohay", 911}});

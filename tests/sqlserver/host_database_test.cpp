@@ -106,7 +106,7 @@ TEST_F(HostOnSqlServer, a_procedure_stores_a_text_once_and_accepts_known_ones)
         EXPECT_FALSE(connection->execute(std::string("EXEC AddOrigenContacto '") + text + "';"));
     EXPECT_THAT(rowsOf(*connection, "SELECT uf_Origen FROM ut_OrigenContacto ORDER BY uf_Origen"),
                 ElementsAre(Row{"Año nuevo"}, Row{"Página web"}, Row{"Radio"}));
-    EXPECT_EQ(refusalOf(*connection, "EXEC AddOrigenContacto 'con ' comilla';"), 105);
+    EXPECT_EQ(refusalOf(*connection, "EXEC AddOrigenContacto 'con ' comilla';"), 102);
     EXPECT_EQ(refusalOf(*connection, "EXEC AddOrigenContacto '" + std::string(501, 'x') + "';"), 2628);
 }
 

@@ -30,7 +30,7 @@ private:
 TEST_F(SqlServerStatements, all_valid_ones_are_taken)
 {
     const auto statements = validStatements(Dialect::sqlServer);
-    EXPECT_GT(statements.size(), 80U);
+    EXPECT_GT(statements.size(), 110U);
     for (const std::string& statement : statements)
         EXPECT_EQ(refusalOf(connection(), statement), 0) << statement;
 }
@@ -72,7 +72,8 @@ bool isOfTheControl(const std::string& path)
     return true;
 }
 
-// A statement that somebody adds to the control is missing here until he adds it to the list as well.
+// A piece of a new statement that stands in no listed one. (That known pieces are joined in a new way, the core's
+// tests notice: tests/shell/control_statements_guard_test.cpp.)
 TEST(ControlStatementsList, has_every_piece_that_stands_in_the_sources)
 {
     std::vector<std::string> listed = validStatements(Dialect::sqlServer);

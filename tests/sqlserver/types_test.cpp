@@ -89,21 +89,25 @@ TEST_F(SqlServerTypes, identifiers)
 
 TEST_F(SqlServerTypes, dates_and_times)
 {
-    expectTypes({{"DATETIME", "'2026-01-02T03:04:05'", Kind::dateTime, "2026-01-02 03:04:05"},
-                 {"DATETIME", "'2026-01-02'", Kind::dateTime, "2026-01-02 00:00:00"},
-                 {"DATETIME", "'2026-01-02T03:04:05.997'", Kind::dateTime, "2026-01-02 03:04:05.997"},
-                 {"DATETIME", "'2026-01-02T03:04:05.005'", Kind::dateTime, "2026-01-02 03:04:05.007"},
-                 {"DATETIME", "'2026-01-02T03:04:05.001'", Kind::dateTime, "2026-01-02 03:04:05"},
-                 {"DATETIME2(6)", "'2026-01-02T03:04:05.123456'", Kind::dateTime, "2026-01-02 03:04:05.123456"},
-                 {"DATETIME2(0)", "'9999-12-31T23:59:59'", Kind::dateTime, "9999-12-31 23:59:59"},
-                 {"DATETIME", "'1753-01-01T00:00:00'", Kind::dateTime, "1753-01-01 00:00:00"}, // its first one
-                 {"DATETIME", "'1899-12-31T23:59:59.997'", Kind::dateTime, "1899-12-31 23:59:59.997"},
-                 {"DATETIME2(0)", "'0001-01-01T00:00:00'", Kind::dateTime, "0001-01-01 00:00:00"},
-                 {"SMALLDATETIME", "'2026-01-02T03:04:29'", Kind::dateTime, "2026-01-02 03:04:00"},
-                 {"SMALLDATETIME", "'2026-01-02T23:59:31'", Kind::dateTime, "2026-01-03 00:00:00"},
-                 {"TIME(0)", "'03:04:05'", Kind::dateTime, "03:04:05"},
-                 {"DATE", "'1890-05-06'", Kind::dateTime, "1890-05-06"},
-                 {"DATE", "'2024-02-29'", Kind::dateTime, "2024-02-29"}});
+    expectTypes(
+        {{"DATETIME", "'2026-01-02T03:04:05'", Kind::dateTime, "2026-01-02 03:04:05"},
+         {"DATETIME", "'2026-01-02'", Kind::dateTime, "2026-01-02 00:00:00"},
+         {"DATETIME", "'2026-01-02T03:04:05.997'", Kind::dateTime, "2026-01-02 03:04:05.997"},
+         {"DATETIME", "'2026-01-02T03:04:05.005'", Kind::dateTime, "2026-01-02 03:04:05.007"},
+         {"DATETIME", "'2026-01-02T03:04:05.001'", Kind::dateTime, "2026-01-02 03:04:05"},
+         {"DATETIME2(6)", "'2026-01-02T03:04:05.123456'", Kind::dateTime, "2026-01-02 03:04:05.123456"},
+         {"DATETIME2(0)", "'9999-12-31T23:59:59'", Kind::dateTime, "9999-12-31 23:59:59"},
+         {"DATETIME", "'1753-01-01T00:00:00'", Kind::dateTime, "1753-01-01 00:00:00"}, // its first one
+         {"DATETIME", "'1899-12-31T23:59:59.997'", Kind::dateTime, "1899-12-31 23:59:59.997"},
+         {"DATETIME2(0)", "'0001-01-01T00:00:00'", Kind::dateTime, "0001-01-01 00:00:00"},
+         {"SMALLDATETIME", "'2026-01-02T03:04:29'", Kind::dateTime, "2026-01-02 03:04:00"},
+         {"SMALLDATETIME", "'2026-01-02T23:59:31'", Kind::dateTime, "2026-01-03 00:00:00"},
+         {"TIME(0)", "'03:04:05'", Kind::dateTime, "03:04:05"},
+         {"DATETIME2", "'2026-01-02T03:04:05.1234567'", Kind::dateTime, "2026-01-02 03:04:05.1234567"},
+         {"TIME", "'03:04:05.1234567'", Kind::dateTime, "03:04:05.1234567"},
+         {"DATETIMEOFFSET", "'2026-01-02T03:04:05.5-06:00'", Kind::dateTime, "2026-01-02 03:04:05.5000000"},
+         {"DATE", "'1890-05-06'", Kind::dateTime, "1890-05-06"},
+         {"DATE", "'2024-02-29'", Kind::dateTime, "2024-02-29"}});
 }
 
 TEST_F(SqlServerTypes, texts)
@@ -114,7 +118,33 @@ TEST_F(SqlServerTypes, texts)
                  {"NVARCHAR(MAX)", "N'uno\r\ndos\ttres it''s'", Kind::text, "uno\r\ndos\ttres it's"},
                  {"NVARCHAR(MAX)", "N''", Kind::text, ""},
                  {"NCHAR(5)", "N'abcde'", Kind::text, "abcde"},
-                 {"VARCHAR(20)", "'123 ñ'", Kind::text, "123 ñ"}});
+                 {"VARCHAR(20)", "'123 ñ'", Kind::text, "123 ñ"},
+                 {"VARCHAR(MAX)", "'sin límite'", Kind::text, "sin límite"},
+                 {"NVARCHAR(80)", "N'¿qué? :x ?1 {d ''2026-01-01''} {fn now()} %s \\ $1'", Kind::text,
+                  "¿qué? :x ?1 {d '2026-01-01'} {fn now()} %s \\ $1"}});
+}
+
+TEST_F(SqlServerTypes, bytes_stay_bytes)
+{
+    const auto rows = connection->execute("SELECT CAST('aZ1' AS VARBINARY(8)), CAST('' AS VARBINARY(8))");
+    EXPECT_EQ(rows->value(0).raw(), "aZ1");
+    EXPECT_EQ(rows->value(1).raw(), "");
+}
+
+TEST_F(SqlServerTypes, every_length_around_the_buffers_comes_whole)
+{
+    connection->execute("CREATE TABLE #bordes (id INT, nota NVARCHAR(MAX))");
+    const std::vector<int> lengths{1,    1023, 1024,   1025,   4095,   4096,  4097,
+                                   8000, 8191, 16'383, 16'384, 16'385, 65'536};
+    for (const int length : lengths)
+        connection->execute("INSERT INTO #bordes VALUES (" + std::to_string(length) + ", N'" +
+                            std::string(static_cast<std::size_t>(length) - 1, 'x') + "ñ')");
+    const auto rows = connection->execute("SELECT id, nota FROM #bordes ORDER BY id");
+    for (const int length : lengths) {
+        EXPECT_EQ(rows->value(0).toInt32(), length);
+        EXPECT_EQ(rows->value(1).raw(), std::string(static_cast<std::size_t>(length) - 1, 'x') + "ñ") << length;
+        rows->MoveNext();
+    }
 }
 
 TEST_F(SqlServerTypes, a_long_text_is_not_cut_off)

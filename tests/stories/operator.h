@@ -12,6 +12,8 @@
 //     EXPECT_THAT(inTheDatabase("SELECT uf_Mensaje FROM xt_biticontact"), ElementsAre("pide precios"));
 #pragma once
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/stories/story_server.h"
 #include "tests/support/fake_host.h"

@@ -1,16 +1,17 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The rights that docs/database.md asks for are enough for a day's work, and for nothing more.
+// The rights that docs/database.md asks for are enough for a day's work (the control has no others in any story),
+// and for nothing more.
 
-#include "data/mariadb/connection.h"
+#include "base/text.h"
 #include "screen/list_box.h"
+#include "tests/stories/documented_grants.h"
 #include "tests/stories/project_operator.h"
 #include "tests/support/element_tree.h"
-#include "tests/support/maria_server.h"
 
-#include <fstream>
 #include <regex>
+#include <set>
 #include <sstream>
 
 namespace dn::tests {
@@ -19,35 +20,8 @@ namespace {
 using testing::ElementsAre;
 using testing::SizeIs;
 
-/// The grants for MariaDB as the document writes them.
-std::vector<std::string> documentedGrants()
-{
-    std::ostringstream text;
-    text << std::ifstream(DN_SOURCE_DIR "/docs/database.md").rdbuf();
-    const std::string page = text.str();
-    const std::regex grant("`(GRANT [^`]* ON (?:PROCEDURE )?)ventas(\\.[^`]* TO 'fuerza'@'%')`");
-    std::vector<std::string> grants;
-    for (std::sregex_iterator it(page.begin(), page.end(), grant); it != std::sregex_iterator(); ++it)
-        grants.push_back((*it)[1].str() + std::string(MariaServer::database) + (*it)[2].str());
-    return grants;
-}
-
 class Rights : public ProjectOperator {
 protected:
-    Rights()
-    {
-        database("DROP USER IF EXISTS 'fuerza'@'%'");
-        database("CREATE USER 'fuerza'@'%' IDENTIFIED BY 'secreta'");
-        for (const std::string& grant : documentedGrants())
-            database(grant);
-        data::mariadb::Options options;
-        options.socket = sharedServer().socket();
-        options.user = "fuerza";
-        options.password = "secreta";
-        options.database = MariaServer::database;
-        cnn = std::make_unique<RecordingConnection>(std::make_unique<data::mariadb::Connection>(options));
-    }
-
     /// Whether the account is kept from a statement by its rights.
     bool isDenied(const std::string& statement)
     {
@@ -56,8 +30,18 @@ protected:
             return false;
         } catch (const data::Error& refusal) {
             return refusal.nativeCode() == 1142 || refusal.nativeCode() == 1143 || refusal.nativeCode() == 1044 ||
-                   refusal.nativeCode() == 1045 || refusal.nativeCode() == 1227 || refusal.nativeCode() == 1370;
+                   refusal.nativeCode() == 1045 || refusal.nativeCode() == 1227 || refusal.nativeCode() == 1370 ||
+                   refusal.nativeCode() == 1410;
         }
+    }
+
+    /// The first column of what a statement gives the account.
+    std::vector<std::string> namesFrom(const std::string& statement)
+    {
+        std::vector<std::string> names;
+        for (const auto rows = cnn->execute(statement); !rows->Eof(); rows->MoveNext())
+            names.push_back(rows->value(0).toText());
+        return names;
     }
 };
 
@@ -210,61 +194,95 @@ TEST_F(Rights, suffice_for_mails)
     EXPECT_THAT(inTheDatabase("SELECT uf_Mensaje FROM xt_biticontact"), SizeIs(2));
 }
 
+/// The columns that a documented grant names behind a right, and "*" where it names the right alone.
+std::set<std::string> granted(const std::string& table, const std::string& right)
+{
+    std::set<std::string> columns;
+    for (const std::string& grant : documentedGrants()) {
+        if (!containsNoCase(grant, "." + table + " TO ")) continue;
+        std::smatch list;
+        if (std::regex_search(grant, list, std::regex("\\b" + right + " \\(([^)]*)\\)"))) {
+            std::istringstream names(toLower(list[1].str()));
+            for (std::string name; std::getline(names >> std::ws, name, ',');)
+                columns.insert(name);
+        } else if (std::regex_search(grant, std::regex("\\b" + right + "\\b"))) {
+            columns.insert("*");
+        }
+    }
+    return columns;
+}
+
+TEST_F(Rights, reach_the_documented_columns_of_every_table_and_no_others)
+{
+    const std::vector<std::string> all =
+        inTheDatabase("SELECT LOWER(table_name), LOWER(column_name) FROM information_schema.columns WHERE "
+                      "table_schema = DATABASE()");
+    ASSERT_GT(all.size(), 150U);
+    for (const std::string& one : all) {
+        const std::string table = one.substr(0, one.find('|'));
+        const std::string column = one.substr(one.find('|') + 1);
+        const auto expect = [&](const std::string& right, const std::string& statement) {
+            const std::set<std::string> columns = granted(table, right);
+            const bool may = columns.count("*") + columns.count(column) > 0;
+            EXPECT_EQ(isDenied(statement), !may) << statement;
+        };
+        expect("SELECT", "SELECT " + column + " FROM " + table + " LIMIT 0");
+        expect("INSERT", "INSERT INTO " + table + " (" + column + ") SELECT NULL FROM ut_icontact WHERE 1 = 0");
+        expect("UPDATE", "UPDATE " + table + " SET " + column + " = NULL WHERE 1 = 0");
+        EXPECT_TRUE(isDenied("DELETE FROM " + table + " WHERE 1 = 0")) << table;
+    }
+}
+
 TEST_F(Rights, allow_nothing_else)
 {
     prospect("María");
+    database("CREATE DATABASE IF NOT EXISTS otra");
+    database("CREATE OR REPLACE TABLE otra.cofre (secreto VARCHAR(100))");
     for (const char* statement : {"DROP TABLE ut_icontact",
+                                  "DROP VIEW qhoy",
+                                  "DROP PROCEDURE AddInteresContacto",
+                                  "DROP DATABASE otra",
+                                  "CREATE DATABASE nueva",
+                                  "RENAME TABLE ut_icontact TO x",
                                   "DELETE FROM ut_icontact",
                                   "DELETE FROM xt_biticontact",
                                   "UPDATE xt_biticontact SET uf_Mensaje = 'otra cosa'",
-                                  "UPDATE ut_icontact SET uf_Redirect = 'x'",
+                                  "REPLACE INTO xt_biticontact (uf_Mensaje) VALUES ('x')",
                                   "INSERT INTO ut_icontact (uf_contactado) VALUES (1)",
-                                  "DELETE FROM ut_OrigenContacto",
-                                  "UPDATE ut_InteresContacto SET uf_Interes = 'x'",
                                   "SELECT * FROM Persona",
-                                  "UPDATE Persona SET Nombre = 'x'",
-                                  "DELETE FROM Organizacion",
-                                  "SELECT Notas FROM Organizacion",
                                   "SELECT * FROM Proyecto",
-                                  "SELECT Notas FROM Proyecto",
-                                  "UPDATE Proyecto SET UF_Status1 = 6",
                                   "SELECT * FROM Ciudad",
-                                  "UPDATE actividad SET Hecho = 1",
-                                  "DELETE FROM Proyecto",
-                                  "UPDATE Agente SET Nombre = 'x'",
+                                  "SELECT Notas FROM Organizacion",
                                   "CREATE TABLE x (y INT)",
+                                  "CREATE TEMPORARY TABLE x (y INT)",
+                                  "CREATE VIEW x AS SELECT Sys_PK FROM ut_icontact",
+                                  "CREATE TRIGGER x BEFORE INSERT ON xt_biticontact FOR EACH ROW SET @a = 1",
+                                  "CREATE PROCEDURE x() SELECT 1",
+                                  "CREATE EVENT x ON SCHEDULE EVERY 1 DAY DO SELECT 1",
                                   "ALTER TABLE ut_icontact ADD x INT",
+                                  "CREATE INDEX x ON ut_icontact (uf_Nombre)",
                                   "TRUNCATE xt_biticontact",
+                                  "LOCK TABLES ut_icontact WRITE",
                                   "SELECT * FROM mysql.user",
+                                  "SELECT * FROM otra.cofre",
+                                  "INSERT INTO otra.cofre VALUES ('x')",
+                                  "USE otra",
+                                  "SELECT uf_Nombre INTO OUTFILE '/tmp/dn_robado' FROM ut_icontact",
+                                  "LOAD DATA INFILE '/etc/passwd' INTO TABLE xt_biticontact (uf_Mensaje)",
+                                  "SET GLOBAL max_connections = 1",
+                                  "SET GLOBAL general_log_file = '/tmp/dn_robado'",
+                                  "FLUSH PRIVILEGES",
+                                  "SHUTDOWN",
+                                  "INSTALL SONAME 'x'",
                                   "CREATE USER intruso",
-                                  "GRANT ALL ON *.* TO 'fuerza'@'%'"})
+                                  "GRANT ALL ON *.* TO 'fuerza'@'%'",
+                                  "GRANT SELECT ON Organizacion TO 'fuerza'@'%'"})
         EXPECT_TRUE(isDenied(statement)) << statement;
-}
-
-TEST_F(Rights, confine_a_reason_that_is_written_to_do_harm)
-{
-    prospect("María", {{"uf_Redirect", "'m.x.mx'"}});
-    prospect("De Beto", {{"uf_IEjecutivo", "9"}});
-    enters(ana);
-    // Another column: refused. The operator is told, nothing changes.
-    answers("Motivo del cambio de estado:", "x', uf_Redirect = 'robado");
-    ports.dialogs.expectAnyBox();
-    picks("Combo1", "Descartado");
-    EXPECT_THAT(ports.dialogs.boxes().back().prompt, testing::HasSubstr("denied"));
-    EXPECT_THAT(inTheDatabase("SELECT uf_Redirect FROM ut_icontact WHERE uf_Nombre = 'María'"),
-                ElementsAre("m.x.mx"));
-    // A second statement: refused by the connection.
-    answers("Motivo del cambio de estado:", "x'; UPDATE ut_icontact SET uf_Status = 1; -- ");
-    ports.dialogs.expectAnyBox();
-    picks("Combo1", "Descartado");
-    EXPECT_THAT(inTheDatabase("SELECT DISTINCT uf_Status FROM ut_icontact"), ElementsAre("0"));
-    // The columns of the grant themselves are not protected: the statement's own end is cut off and every row is
-    // reached.
-    answers("Motivo del cambio de estado:", "x' -- ");
-    ports.dialogs.expectAnyBox();
-    picks("Combo1", "Descartado");
-    EXPECT_THAT(inTheDatabase("SELECT DISTINCT uf_Status FROM ut_icontact"), ElementsAre("1"))
-        << "the documents tell of this";
+    EXPECT_TRUE(cnn->execute("SELECT LOAD_FILE('/etc/passwd')")->value(0).isNull()) << "a file of the server";
+    EXPECT_THAT(namesFrom("SHOW DATABASES"), testing::Not(testing::Contains("otra")));
+    EXPECT_THAT(namesFrom("SHOW TABLES"), testing::Not(testing::Contains("correo_historial")));
+    EXPECT_THAT(namesFrom("SELECT DISTINCT user FROM information_schema.processlist"), ElementsAre("fuerza"));
+    database("DROP DATABASE otra");
 }
 
 } // namespace

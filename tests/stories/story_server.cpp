@@ -6,6 +6,7 @@
 #include "data/mariadb/connection.h"
 #include "host/database/database_choice.h"
 #include "host/database/schema.h"
+#include "tests/stories/documented_grants.h"
 #include "tests/support/maria_server.h"
 #include "tests/support/sql_server_stand_in.h"
 
@@ -19,8 +20,9 @@ namespace {
 class OnMariaDb final : public StoryServer {
 public:
     bool isSqlServer() const override { return false; }
-    std::unique_ptr<data::Connection> connect(const std::string& /*application*/) override
+    std::unique_ptr<data::Connection> connect(const std::string& application) override
     {
+        if (application == "control") return connectDocumentedAccount();
         data::mariadb::Options options;
         options.socket = sharedServer().socket();
         options.user = MariaServer::user;
@@ -28,7 +30,12 @@ public:
         options.database = MariaServer::database;
         return std::make_unique<data::mariadb::Connection>(options);
     }
-    void createSchema() override { host::createSchema(*connect(""), host::Engine::mariadb); }
+    void createSchema() override
+    {
+        const auto owner = connect("");
+        host::createSchema(*owner, host::Engine::mariadb);
+        makeDocumentedAccount(*owner);
+    }
     std::string keysOn(const std::string& /*table*/) const override { return ""; }
     std::string keysOff(const std::string& /*table*/) const override { return ""; }
     void setClock(const std::string& moment, const std::vector<data::Connection*>& connections) override

@@ -22,7 +22,8 @@ public:
 
     /// Whether the control takes it for SQL Server.
     virtual bool isSqlServer() const = 0;
-    /// @param application whose statements they are: "control" or "prueba".
+    /// @param application whose statements they are: "control" or "prueba". On MariaDB the control's connection
+    /// has the account that the documents ask for, and no rights beyond it.
     virtual std::unique_ptr<data::Connection> connect(const std::string& application) = 0;
     virtual void createSchema() = 0;
 

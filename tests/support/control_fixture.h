@@ -4,6 +4,8 @@
 // A control on a fake connection with two agents and whatever prospects a test gives it; the start of most tests.
 #pragma once
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/support/fake_connection.h"
 #include "tests/support/fake_host.h"

@@ -211,21 +211,41 @@ std::vector<ListFilter> projectFilters()
     return all;
 }
 
-/// An apostrophe where a text goes in as it was typed.
-std::vector<std::string> brokenByAnApostrophe()
+/// An apostrophe, or two of them, where a text goes in as it was typed; and a marker of the new prospect in the
+/// value of another one, which takes its value in quotes into those of the text.
+std::vector<std::string> brokenByWhatWasTyped()
 {
-    return {
-        "UPDATE ut_icontact SET uf_Status=1, uf_NotaStatus='d'Arc', uf_FechaStatus = CURRENT_TIMESTAMP WHERE "
-        "Sys_PK=12",
-        "UPDATE ut_icontact SET uf_Status = 2, uf_NotaStatus = 'd'Arc', uf_FechaStatus = CURRENT_TIMESTAMP WHERE "
-        "Sys_PK = 12",
-        "SELECT Sys_PK FROM Ciudad WHERE Nombre LIKE '%d'Arc%';",
-        "UPDATE ut_icontact set uf_Nombre='d'Arc',uf_EMail='',uf_Telefono='',uf_Empresa='',uf_Puesto='' WHERE "
-        "Sys_PK=12",
-        dialogs::learningCall(false, "AddInteresContacto", "d'Arc"),
-        data::bitacora::prospectRow(">> Descartado: d'Arc", "ana", "12"),
-        data::bitacora::prospectRow("nota", "d'Arc", "12"),
-        data::bitacora::projectRow("nota", "d'Arc", "7")};
+    std::vector<std::string> all;
+    for (const std::string name : {"d'Arc", "O'Hara's"}) {
+        all.push_back("UPDATE ut_icontact SET uf_Status=1, uf_NotaStatus='" + name +
+                      "', uf_FechaStatus = CURRENT_TIMESTAMP WHERE Sys_PK=12");
+        all.push_back("UPDATE ut_icontact SET uf_Status = 2, uf_NotaStatus = '" + name +
+                      "', uf_FechaStatus = CURRENT_TIMESTAMP WHERE Sys_PK = 12");
+        all.push_back("SELECT Sys_PK FROM Ciudad WHERE Nombre LIKE '%" + name + "%';");
+        all.push_back("UPDATE ut_icontact set uf_Nombre='" + name +
+                      "',uf_EMail='',uf_Telefono='',uf_Empresa='',uf_Puesto='' WHERE Sys_PK=12");
+        for (const char* procedure : {"AddReferenciaContacto", "AddOrigenContacto", "AddInteresContacto"})
+            all.push_back(dialogs::learningCall(false, procedure, name));
+        all.push_back(data::bitacora::prospectRow(">> Descartado: " + name, "ana", "12"));
+        all.push_back(data::bitacora::prospectRow("nota", name, "12"));
+        all.push_back(data::bitacora::projectRow("nota", name, "7"));
+    }
+    std::string marked = dialogs::prospectInsert(false);
+    dialogs::SetParam(marked, "uf_Nombre", std::string("soy @uf_EMail"));
+    dialogs::SetParam(marked, "uf_EMail", std::string("maria@example.com"));
+    all.push_back(marked);
+    return all;
+}
+
+/// The ends of a call that the host asks for without ever having begun one.
+std::vector<std::string> ofNoParty()
+{
+    return {"UPDATE  SET uf_ultimointento=CURRENT_TIMESTAMP, uf_res_ultimointento=1 Where Sys_PK=0",
+            "UPDATE  SET uf_ultimointento= CURRENT_TIMESTAMP, uf_res_ultimointento =  11 Where Sys_PK = 0",
+            "UPDATE  SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where Sys_PK=0 and "
+            "isnull(uf_contactado)",
+            "UPDATE  SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, uf_ultimocontac = "
+            "CURRENT_TIMESTAMP Where Sys_PK = 0"};
 }
 
 /// The guard against a second first contact, which asks `isnull` of one argument.
@@ -258,6 +278,20 @@ std::size_t wordSize(std::string_view statement)
     return size;
 }
 
+/// Of a text only what the statement itself brings: the signs of a pattern, the form of a date.
+std::string shapeOfText(std::string_view quoted, std::string_view ahead)
+{
+    if (ahead.ends_with("LIKE ")) {
+        const bool any = quoted.size() > 2;
+        return std::string(any && quoted[1] == '%' ? "%" : "") + "?" +
+               (any && quoted[quoted.size() - 2] == '%' ? "%" : "");
+    }
+    if (!ahead.ends_with("CAST(")) return "?";
+    std::string form(quoted);
+    std::replace_if(form.begin(), form.end(), isDigit, '0');
+    return form;
+}
+
 } // namespace
 
 std::vector<std::string> validStatements(Dialect dialect)
@@ -284,14 +318,17 @@ std::vector<Refused> refusedStatements()
 {
     constexpr int unknownFunction = 195;
     constexpr int argumentCount = 174;
-    constexpr int openQuotationMark = 105;
+    constexpr int syntax = 102;
+    constexpr int syntaxNearKeyword = 156;
     std::vector<Refused> refused{{"SELECT NOW()", unknownFunction}};
     for (std::string& statement : guardedUpdates())
         refused.push_back({std::move(statement), argumentCount});
     for (const ListFilter& filter : projectFilters())
         refused.push_back({dialogs::projectListStatement(filter, false), argumentCount});
-    for (std::string& statement : brokenByAnApostrophe())
-        refused.push_back({std::move(statement), openQuotationMark});
+    for (std::string& statement : brokenByWhatWasTyped())
+        refused.push_back({std::move(statement), syntax});
+    for (std::string& statement : ofNoParty())
+        refused.push_back({std::move(statement), syntaxNearKeyword});
     return refused;
 }
 
@@ -301,7 +338,7 @@ std::string shapeOf(std::string_view statement)
     while (!statement.empty()) {
         const std::size_t size = wordSize(statement);
         if (statement.front() == '\'') {
-            shape += '?';
+            shape += shapeOfText(statement.substr(0, size), shape);
         } else if (isDigit(statement.front())) {
             if (shape.ends_with('-')) shape.pop_back();
             shape += '?';

@@ -6,9 +6,9 @@
 // time for the same rows, and some rewrite the text or round the decimals.
 #pragma once
 
+#include "base/export.h"
 #include "data/connection.h"
 #include "data/mariadb/options.h"
-#include "data/streamed_recordset.h"
 
 #include <memory>
 #include <string_view>
@@ -17,7 +17,8 @@ namespace dn::data::mariadb {
 
 class Session;
 
-class Connection final : public data::Connection {
+/// A connection of its own to one server, closed with the object.
+class DN_EXPORT Connection final : public data::Connection {
 public:
     /// Connects, with utf8mb4 as the character set. @throws Error what the server or the client library said.
     explicit Connection(const Options& options);
@@ -29,7 +30,6 @@ public:
 
 private:
     std::unique_ptr<Session> session_;
-    Wire wire_;
 };
 
 } // namespace dn::data::mariadb

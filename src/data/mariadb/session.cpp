@@ -5,6 +5,7 @@
 
 #include <errmsg.h>
 #include <mysqld_error.h>
+#include <poll.h>
 
 #include <algorithm>
 #include <array>
@@ -63,6 +64,12 @@ void Session::setOptions(const Options& options)
     mysql_options(handle(), MYSQL_OPT_RECONNECT, &never);
     const unsigned tcp = MYSQL_PROTOCOL_TCP; // the library takes "localhost" for the socket whatever the port
     if (options.socket.empty() && options.port != 0) mysql_options(handle(), MYSQL_OPT_PROTOCOL, &tcp);
+}
+
+bool Session::hungUp() const
+{
+    pollfd end{mysql_get_socket(handle()), POLLRDHUP, 0};
+    return ::poll(&end, 1, 0) == 1;
 }
 
 void Session::send(std::string_view statement)

@@ -6,6 +6,7 @@
 
 #include "data/error.h"
 #include "data/mariadb/options.h"
+#include "data/streamed_recordset.h"
 
 #include <mysql.h>
 
@@ -20,7 +21,12 @@ public:
     explicit Session(const Options& options);
 
     MYSQL* handle() const { return handle_.get(); }
+    /// Whether a statement found the server gone.
     bool lost() const { return lost_; }
+    /// Whether the server has closed its end, which shows without a statement. A server that hangs, or whose
+    /// machine is gone without a word, does not show so.
+    bool hungUp() const;
+    Wire& wire() { return wire_; }
 
     /// Sends a statement and waits for the head of its first result. @throws Error
     void send(std::string_view statement);
@@ -34,6 +40,7 @@ private:
 
     std::unique_ptr<MYSQL, decltype(&mysql_close)> handle_;
     bool lost_ = false;
+    Wire wire_;
 };
 
 struct FreeResult {

@@ -7,6 +7,7 @@
 #include "data/odbc/one_statement.h"
 #include "data/odbc/result_rows.h"
 #include "data/odbc/session.h"
+#include "data/streamed_recordset.h"
 
 namespace dn::data::odbc {
 
@@ -15,14 +16,14 @@ Connection::Connection(std::string_view connectionString, TimeOuts timeOuts)
 {
 }
 
-Connection::~Connection() { wire_.cut(); }
+Connection::~Connection() { session_->wire().cut(); }
 
 int Connection::State() const { return session_->lost() ? closed : open; }
 
 std::unique_ptr<Recordset> Connection::execute(std::string_view statement)
 {
     requireText(statement);
-    wire_.clear();
+    session_->wire().clear();
     if (session_->lost()) throw connectionClosed();
     if (session_->runsStacked()) requireOneStatement(statement);
     Statement running(*session_);
@@ -33,7 +34,7 @@ std::unique_ptr<Recordset> Connection::execute(std::string_view statement)
     }
     auto rows = std::make_unique<ResultRows>(std::move(running));
     const std::vector<Column> columns = rows->columns();
-    return std::make_unique<StreamedRecordset>(columns, std::move(rows), wire_,
+    return std::make_unique<StreamedRecordset>(columns, std::move(rows), session_->wire(),
                                                StreamedRecordset::Reading::batches);
 }
 

@@ -4,8 +4,8 @@
 // The connection over ODBC: the way to SQL Server, and to whatever a host brings a driver for.
 #pragma once
 
+#include "base/export.h"
 #include "data/connection.h"
-#include "data/streamed_recordset.h"
 
 #include <chrono>
 #include <memory>
@@ -16,13 +16,15 @@ namespace dn::data::odbc {
 
 class Session;
 
+/// How long the server may take.
 struct TimeOuts {
-    std::chrono::seconds connect{5};
+    std::chrono::seconds connect{5}; ///< for the way to the server and the login
     /// For each wait on the server, so that it also bounds the slowest statement.
-    std::chrono::seconds read{30};
+    std::chrono::seconds read{60};
 };
 
-class Connection final : public data::Connection {
+/// A connection of its own to one server, closed with the object.
+class DN_EXPORT Connection final : public data::Connection {
 public:
     /// Connects.
     /// @param connectionString such as "DRIVER={FreeTDS};SERVER=...;PORT=...;UID=...;PWD=...;DATABASE=...". What
@@ -37,7 +39,6 @@ public:
 
 private:
     std::unique_ptr<Session> session_;
-    Wire wire_;
 };
 
 } // namespace dn::data::odbc

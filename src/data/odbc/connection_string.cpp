@@ -27,7 +27,9 @@ bool hasKeyword(std::string_view connectionString, std::string_view keyword)
     while (!connectionString.empty()) {
         const std::size_t equals = connectionString.find('=');
         if (equals == std::string_view::npos) return false;
-        if (equalsNoCase(trimmed(connectionString.substr(0, equals)), keyword)) return true;
+        std::string_view key = connectionString.substr(0, equals);
+        key.remove_prefix(key.rfind(';') + 1); // a semicolon too many
+        if (equalsNoCase(trimmed(key), keyword)) return true;
         connectionString.remove_prefix(equals + 1);
         connectionString.remove_prefix(std::min(valueSize(connectionString) + 1, connectionString.size()));
     }

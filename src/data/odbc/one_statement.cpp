@@ -134,15 +134,15 @@ private:
 };
 
 /// Looks at one statement, word by word.
-class Statement {
+class WordByWord {
 public:
-    explicit Statement(std::string_view first) : first_(first), depth_(first == "(" ? 1 : 0) {}
+    explicit WordByWord(std::string_view first) : first_(first), depth_(first == "(" ? 1 : 0) {}
 
     /// Whether a word begins another statement.
     bool endsAt(std::string_view word)
     {
         depth_ += word == "(" ? 1 : word == ")" ? -1 : 0;
-        const bool ends = depth_ <= 0 && before_ != "." && !isHead(word) && begins(word);
+        const bool ends = depth_ <= 0 && !isHead(word) && begins(word);
         before_ = word;
         return ends;
     }
@@ -191,7 +191,7 @@ bool isStacked(std::string_view text)
     // The body of a procedure or a trigger is made of statements.
     if (isOneOf(first, std::array{"CREATE", "ALTER"})) return false;
     const bool wordsTell = !isOneOf(first, holdersOfOthers);
-    Statement statement(first);
+    WordByWord statement(first);
     bool ended = false;
     for (std::string_view word = words.next(); !word.empty(); word = words.next()) {
         if (ended && word != ";") return true;

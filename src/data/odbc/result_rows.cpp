@@ -145,16 +145,19 @@ void ResultRows::takeCell(Cell& cell, SQLUSMALLINT number)
     readCell(cell, number);
     if (cell.view.data() == nullptr) return;
     if (cell.column.kind == Kind::boolean) cell.view = digitOfBit(cell.view);
-    if (cell.column.kind == Kind::dateTime) padYear(cell);
+    if (cell.column.kind == Kind::dateTime) readMoment(cell);
     if (cell.column.kind != Kind::whole || cell.form != SQL_C_BINARY) return;
     cell.text = digitsOfBits(cell.view);
     cell.view = cell.text;
 }
 
-// One driver writes the years ahead of 1000 without their zeros.
-void ResultRows::padYear(Cell& cell)
+// A moment with an offset keeps the date and the hour that it was written with. One driver writes the years ahead
+// of 1000 without their zeros.
+void ResultRows::readMoment(Cell& cell)
 {
     constexpr std::size_t digits = 4;
+    const std::size_t time = cell.view.find(' ');
+    if (time != std::string_view::npos) cell.view = cell.view.substr(0, cell.view.find(' ', time + 1));
     const std::size_t year = cell.view.find('-');
     if (year == 0 || year >= digits) return; // a span of time, or nothing is missing
     cell.text = std::string(digits - year, '0') + std::string(cell.view);

@@ -41,7 +41,7 @@ private:
     std::string typeName(SQLUSMALLINT number) const;
     void bind();
     void takeCell(Cell& cell, SQLUSMALLINT number);
-    static void padYear(Cell& cell);
+    static void readMoment(Cell& cell);
     void readCell(Cell& cell, SQLUSMALLINT number);
     void readLong(Cell& cell, SQLUSMALLINT number);
     bool readPiece(Cell& cell, SQLUSMALLINT number);

@@ -6,6 +6,7 @@
 
 #include "data/error.h"
 #include "data/odbc/connection.h"
+#include "data/streamed_recordset.h"
 
 #include <sql.h>
 #include <sqlext.h>
@@ -38,6 +39,7 @@ public:
 
     SQLHDBC handle() const { return connection_.get(); }
     bool lost() const { return lost_; }
+    Wire& wire() { return wire_; }
     /// Seconds for each statement, 0 for a driver that bounds its waits by itself.
     SQLULEN statementTimeOut() const { return statementTimeOut_; }
     /// A result without columns is the last one of its statement, and the driver must not be asked for more:
@@ -64,6 +66,7 @@ private:
     bool mariaDriver_ = false;
     bool connected_ = false;
     bool lost_ = false;
+    Wire wire_;
 };
 
 /// A statement under way; its results are dropped with it.

@@ -3,6 +3,7 @@
 
 #include "screen/qt/ctr_dn_contacts_widget.h"
 
+#include "screen/qt/guard.h"
 #include "screen/qt/list_view_view.h"
 #include "screen/qt/panel_views.h"
 #include "screen/qt/ports.h"
@@ -45,7 +46,10 @@ CtrDnContactsWidget::~CtrDnContactsWidget() = default;
 
 ctrDnContacts& CtrDnContactsWidget::control() { return parts_->control; }
 
-void CtrDnContactsWidget::onError(Guard::Handler handler) { parts_->guard.onError(std::move(handler)); }
+void CtrDnContactsWidget::onError(std::function<void(const std::exception&)> handler)
+{
+    parts_->guard.onError(std::move(handler));
+}
 
 ColumnLayouts CtrDnContactsWidget::columnLayouts() const
 {

@@ -9,11 +9,13 @@
 //     widget->control().RefreshData();
 #pragma once
 
+#include "base/export.h"
 #include "screen/qt/column_layout.h"
-#include "screen/qt/guard.h"
 
 #include <QWidget>
 
+#include <exception>
+#include <functional>
 #include <memory>
 
 namespace dn {
@@ -22,8 +24,12 @@ class ctrDnContacts;
 
 namespace dn::screen::qt {
 
-class CtrDnContactsWidget : public QWidget {
+/// Shows the control and owns it.
+class DN_EXPORT CtrDnContactsWidget : public QWidget {
+    Q_OBJECT
+
 public:
+    /// Makes the control, in its first state. Asks for nothing beyond the process: no connection, no file.
     explicit CtrDnContactsWidget(QWidget* parent = nullptr);
     ~CtrDnContactsWidget() override;
 
@@ -33,7 +39,7 @@ public:
     /// @param handler takes the exceptions that the operator's own clicks and keys start and that the control does
     /// not treat. Without one, their text is shown in a box. Exceptions of methods that the host calls reach the
     /// host as exceptions.
-    void onError(Guard::Handler handler);
+    void onError(std::function<void(const std::exception&)> handler);
 
     /// How the operator has arranged the columns of each list. The control itself has no settings: a host that
     /// keeps this hands it back at its next start.
@@ -41,7 +47,9 @@ public:
     /// Arranges the columns of the lists that are named. What does not fit a list leaves it as it is.
     void columnLayouts(const ColumnLayouts& layouts);
 
+    /// The frame as it was designed.
     QSize sizeHint() const override;
+    /// Below it parts of the frame lie on each other.
     QSize minimumSizeHint() const override;
 
 private:

@@ -62,7 +62,7 @@ public:
     void setEditorData(QWidget* editor, const QModelIndex& index) const override
     {
         auto& field = *qobject_cast<QLineEdit*>(editor);
-        const QString text = index.data().toString();
+        const QString text = index.data(Qt::EditRole).toString();
         if (const screen::DataGrid* const grid = view_.grid(); grid != nullptr) {
             const auto room = grid->room(static_cast<std::size_t>(index.row()), index.column());
             field.setMaxLength(static_cast<int>(std::max(room, static_cast<std::size_t>(text.size()))));

@@ -19,7 +19,7 @@ int ItemListModel::rowCount(const QModelIndex& parent) const { return parent.isV
 QVariant ItemListModel::data(const QModelIndex& index, int role) const
 {
     if (list_ == nullptr || index.row() >= list_->ListCount()) return {};
-    if (role == Qt::DisplayRole || role == Qt::EditRole) return fromUtf8(list_->List(index.row()));
+    if (role == Qt::DisplayRole || role == Qt::EditRole) return beginningOf(list_->List(index.row()));
     if (role == Qt::CheckStateRole && checks_.marked)
         return QVariant::fromValue(checks_.marked(index.row()) ? Qt::Checked : Qt::Unchecked);
     return {};

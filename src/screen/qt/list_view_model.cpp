@@ -47,11 +47,13 @@ QVariant ListViewModel::cellData(ListRows::RowNumber row, std::size_t cell, int 
     const ListRows& rows = list_->rows();
     switch (role) {
     case Qt::DisplayRole:
+        return beginningOf(rows.cell(row, cell));
+    case Qt::EditRole:
         return fromUtf8(rows.cell(row, cell));
     case Qt::DecorationRole:
         return decoration(row, cell);
     case Qt::ToolTipRole:
-        return fromUtf8(rows.toolTip(row));
+        return beginningOf(rows.toolTip(row));
     case Qt::CheckStateRole:
         if (cell != 0 || !list_->CheckBoxes()) return {};
         return QVariant::fromValue(rows.checked(row) ? Qt::Checked : Qt::Unchecked);

@@ -14,6 +14,14 @@ namespace dn::screen::qt {
 QString fromUtf8(std::string_view text);
 std::string toUtf8(const QString& text);
 
+/// The text as a cell or an entry shows it, which is one line: its first thousand bytes or so, for measuring and
+/// drawing a text of megabytes would hold the operator up.
+QString beginningOf(std::string_view text);
+
+/// The text as a box shows it that is only read: lines are cut off after 20,000 bytes and the whole after four
+/// million, each with "…" for the rest. Whole characters stay whole.
+std::string readablePart(std::string_view text);
+
 /// The text for a document: each CR LF becomes the end of a block, each lone LF a line break within one
 /// (U+2028), so that `fromDocument` can tell them apart.
 QString toDocument(std::string_view text);

@@ -129,7 +129,7 @@ void MultiLineBoxView::mirror(const screen::TextBox& box)
     if (box.Locked()) setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     if (box.Text() == shown_) return;
     mirroring_ = true;
-    setPlainText(toDocument(box.Text()));
+    setPlainText(toDocument(box.Locked() ? readablePart(box.Text()) : box.Text()));
     mirroring_ = false;
     shown_ = box.Text();
 }

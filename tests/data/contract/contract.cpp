@@ -39,7 +39,7 @@ Dialect sqlServer()
             .closeName = "]",
             .missingTable = {"42S02", 208, "Invalid object name 'NoHayTal'."},
             .syntax = {"42000", 156, "Incorrect syntax near the keyword 'WHERE'."},
-            .duplicateKey = {"23000", 2627, "Violation of UNIQUE KEY constraint"},
+            .duplicateKey = {"23000", 2627, "Violation of PRIMARY KEY constraint"},
             .stacked = {"42000", 0, "El texto contiene más de una instrucción SQL"},
             .severalRows = {"21000", 512, "Subquery returned more than 1 value"}};
 }

@@ -33,6 +33,7 @@ TEST(ConnectionString, KeywordsAreFoundWithoutRegardToCaseAndOutsideOfValues)
     EXPECT_FALSE(hasKeyword("PWD={a}};UID=b};X=1", "UID"));
     EXPECT_TRUE(hasKeyword("PWD={a}}};UID=b", "UID"));
     EXPECT_FALSE(hasKeyword("PWD={never closed;UID=b", "UID"));
+    EXPECT_TRUE(hasKeyword("A=1;;UID=b", "UID")) << "a semicolon too many";
     EXPECT_FALSE(hasKeyword("", "UID"));
     EXPECT_FALSE(hasKeyword("UID", "UID"));
 }

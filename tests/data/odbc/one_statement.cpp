@@ -85,7 +85,9 @@ TEST(OneStatement, HidesNothingBehindANumber)
     for (const char* text :
          {"UPDATE t SET a='x' WHERE 1=12DELETE FROM t--'", "UPDATE t SET a='x' WHERE 1=1.DELETE FROM t--'",
           "SELECT 1.DROP TABLE t", "SELECT 1.5DROP TABLE t", "SELECT .5DROP TABLE t", "SELECT .5 DROP TABLE t",
-          "SELECT $DROP TABLE t", "SELECT $1DROP TABLE t", "SELECT 1eDROP TABLE t", "SELECT 0x1FDROP TABLE t"})
+          "SELECT $DROP TABLE t", "SELECT $.DROP TABLE t", "SELECT \u20AC.DROP TABLE t",
+          "UPDATE t SET a='x' WHERE 1>$.DELETE FROM t--'", "SELECT $1DROP TABLE t", "SELECT 1eDROP TABLE t",
+          "SELECT 0x1FDROP TABLE t"})
         EXPECT_TRUE(isStacked(text)) << text;
     for (const char* text : {"SELECT 12, 1.5, .5, -3, $2.50 FROM t1 WHERE a2 = 0 AND b IN (1,2)",
                              "UPDATE t SET a=1,b=2.0 WHERE k=12", "SELECT TOP(1)a FROM t"})

@@ -3,6 +3,8 @@
 
 // Templates in the window, writing with the keyboard alone, the history, and databases that lack its table.
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/host/mail/mails.h"

@@ -3,6 +3,8 @@
 
 // The program's window with its mail: which settings and which templates the control's mails get.
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "host/main_window.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/host/mail/mails.h"

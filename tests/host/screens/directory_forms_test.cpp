@@ -71,10 +71,11 @@ TEST_F(DirectoryForms, a_new_person_is_stored_column_by_column)
     crm->NuevaPersona(object, by, result);
     EXPECT_EQ(rows("SELECT Codigo, Nombre, Apellido1, Apellido2, Puesto, EMail, EMail2, Tel_Trabajo, Tel_Movil, "
                    "Tel_Casa, Domicilio, Colonia, CodPostal, ICiudad, IOrganizacion, IEjecutivo, "
-                   "Sys_GUID REGEXP '^[0-9a-f]{32}$', MSN, Notas FROM Persona WHERE Sys_PK > 22"),
+                   "MSN, Notas FROM Persona WHERE Sys_PK > 22"),
               (std::vector<Row>{{"P-001", "María", "D'Aria", "Núñez", "Compras", "maria@example.com",
                                  "m@casa.example; n@casa.example", "9611", "9612", "9613", "Calle 5 \\ 3",
-                                 "Centro", "29000", "4", "12", "9", "1", "NULL", "NULL"}}));
+                                 "Centro", "29000", "4", "12", "9", "NULL", "NULL"}}));
+    EXPECT_THAT(value("SELECT Sys_GUID FROM Persona WHERE Sys_PK > 22"), testing::MatchesRegex("[0-9a-f]{32}"));
     EXPECT_EQ(std::to_string(std::any_cast<std::int32_t>(result)), value("SELECT MAX(Sys_PK) FROM Persona"));
 }
 
@@ -103,10 +104,12 @@ TEST_F(DirectoryForms, a_new_organisation_is_stored_column_by_column)
     crm->NuevaOrganizacion(object, by, result);
     EXPECT_EQ(
         rows("SELECT Codigo, Nombre, NomComercial, Tel1, Tel2, Tel3, Fax, EMail, WebSite, Domicilio, Colonia, "
-             "CodPostal, ICiudad, Nacionalidad, IEjecutivo, LENGTH(Sys_GUID), Notas FROM Organizacion WHERE "
+             "CodPostal, ICiudad, Nacionalidad, IEjecutivo, Notas FROM Organizacion WHERE "
              "Sys_PK > 12"),
         (std::vector<Row>{{"O-1", "Ñandú", "El Ñandú", "1", "NULL", "3", "4", "a@b", "example.com", "Calle 1",
-                           "Norte", "29010", "NULL", "México", "8", "32", "NULL"}}));
+                           "Norte", "29010", "NULL", "México", "8", "NULL"}}));
+    EXPECT_THAT(value("SELECT Sys_GUID FROM Organizacion WHERE Sys_PK > 12"),
+                testing::MatchesRegex("[0-9a-f]{32}"));
 }
 
 TEST_F(DirectoryForms, a_new_entry_belongs_to_who_was_handed_over_or_else_to_who_works)

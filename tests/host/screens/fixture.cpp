@@ -7,12 +7,15 @@
 #include "host/database/schema.h"
 #include "tests/support/maria_server.h"
 #include "tests/support/recording_connection.h"
+#include "tests/support/sql_server_stand_in.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDateTimeEdit>
 #include <QMessageBox>
 #include <QTest>
+
+#include <cstdlib>
 
 namespace dn::host::tests {
 namespace {
@@ -32,9 +35,57 @@ std::unique_ptr<data::Connection> openTo(const char* database)
     return openTo(database, dn::tests::MariaServer::user, dn::tests::MariaServer::password);
 }
 
+std::unique_ptr<data::Connection> openToStandIn(std::string_view database)
+{
+    return connect(OdbcTarget{dn::tests::sharedStandIn().connectionString(database, "pantallas")});
+}
+
+/// For the test's own rows on SQL Server, which are told their keys there only when asked to.
+class WithKeysOfTheTest final : public data::Connection {
+public:
+    explicit WithKeysOfTheTest(std::unique_ptr<data::Connection> real) : real_(std::move(real)) {}
+
+    int State() const override { return real_->State(); }
+    std::unique_ptr<data::Recordset> execute(std::string_view statement) override
+    {
+        constexpr std::string_view insert = "INSERT INTO ";
+        const std::size_t columns = statement.find(" (Sys_PK");
+        if (!statement.starts_with(insert) || columns == std::string_view::npos) return real_->execute(statement);
+        const std::string table(statement.substr(insert.size(), columns - insert.size()));
+        real_->execute("SET IDENTITY_INSERT " + table + " ON");
+        auto result = real_->execute(statement);
+        real_->execute("SET IDENTITY_INSERT " + table + " OFF");
+        return result;
+    }
+
+private:
+    std::unique_ptr<data::Connection> real_;
+};
+
+void makeDatabase()
+{
+    openTo("")->execute("CREATE OR REPLACE DATABASE pantallas CHARACTER SET utf8mb4");
+    createSchema(*openTo("pantallas"), Engine::mariadb);
+}
+
+void makeDatabaseOnStandIn()
+{
+    openToStandIn(dn::tests::SqlServerStandIn::database)->execute("CREATE DATABASE pantallas");
+    createSchema(*openToStandIn("pantallas"), Engine::sqlServer);
+}
+
 } // namespace
 
-std::unique_ptr<data::Connection> Screens::open() { return openTo("pantallas"); }
+bool Screens::onSqlServer()
+{
+    const char* const wanted = std::getenv("DN_STORIES_SERVER");
+    return wanted != nullptr && std::string_view(wanted) == "sqlserver";
+}
+
+std::unique_ptr<data::Connection> Screens::open()
+{
+    return onSqlServer() ? openToStandIn("pantallas") : openTo("pantallas");
+}
 
 std::unique_ptr<data::Connection> Screens::openAs(const char* user, const char* password)
 {
@@ -44,12 +95,12 @@ std::unique_ptr<data::Connection> Screens::openAs(const char* user, const char* 
 void Screens::SetUpTestSuite()
 {
     static const bool made = [] {
-        openTo("")->execute("CREATE OR REPLACE DATABASE pantallas CHARACTER SET utf8mb4");
-        createSchema(*open(), Engine::mariadb);
+        onSqlServer() ? makeDatabaseOnStandIn() : makeDatabase();
         return true;
     }();
     ASSERT_TRUE(made);
     connection_ = open();
+    if (onSqlServer()) connection_ = std::make_unique<WithKeysOfTheTest>(std::move(connection_));
 }
 
 void Screens::TearDownTestSuite() { connection_.reset(); }
@@ -110,6 +161,21 @@ std::vector<Row> Screens::rows(std::string_view statement)
 }
 
 std::string Screens::value(std::string_view statement) { return rows(statement).at(0).at(0); }
+
+std::string Screens::keys(const std::string& table)
+{
+    std::string all;
+    for (const Row& row : rows("SELECT Sys_PK FROM " + table + " ORDER BY Sys_PK"))
+        all += (all.empty() ? "" : ",") + row.at(0);
+    return all;
+}
+
+std::string Screens::isRecent(const std::string& column)
+{
+    const std::string seconds = onSqlServer() ? "DATEDIFF(SECOND, " + column + ", GETDATE())"
+                                              : "TIMESTAMPDIFF(SECOND, " + column + ", NOW())";
+    return "CASE WHEN ABS(" + seconds + ") < 60 THEN 1 ELSE 0 END";
+}
 
 std::int32_t Screens::newProject(std::int16_t kind, std::int32_t party)
 {

@@ -46,6 +46,12 @@ protected:
     /// The rows of a statement, a null as "NULL".
     static std::vector<Row> rows(std::string_view statement);
     static std::string value(std::string_view statement);
+    /// The keys of a table, in order and with commas between.
+    static std::string keys(const std::string& table);
+    /// For a statement: 1 where a column holds a moment of the last minute.
+    static std::string isRecent(const std::string& column);
+    /// The server is the stand-in for SQL Server, where the variable DN_STORIES_SERVER says "sqlserver".
+    static bool onSqlServer();
 
     /// Opens the screen of a new project and lets the driver act. @return the operation's result.
     std::int32_t newProject(std::int16_t kind = 2, std::int32_t party = 0);

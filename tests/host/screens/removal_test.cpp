@@ -30,11 +30,8 @@ protected:
         crm->BorrarOrganizacion(key, confirm, result);
         return result;
     }
-    static std::string persons() { return value("SELECT GROUP_CONCAT(Sys_PK ORDER BY Sys_PK) FROM Persona"); }
-    static std::string organisations()
-    {
-        return value("SELECT GROUP_CONCAT(Sys_PK ORDER BY Sys_PK) FROM Organizacion");
-    }
+    static std::string persons() { return keys("Persona"); }
+    static std::string organisations() { return keys("Organizacion"); }
 };
 
 TEST_F(Removal, a_person_on_whom_nothing_hangs_goes_after_a_question)

@@ -3,6 +3,8 @@
 
 // The control as its host places it: names, drawings, sizes, errors.
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "screen/qt/colours.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "screen/qt/icons.h"

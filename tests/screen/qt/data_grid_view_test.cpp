@@ -252,6 +252,16 @@ TEST_F(DataGridViewTest, opens_a_cell_with_F2_and_keeps_the_text_with_enter)
     EXPECT_EQ(copied(), "c@x.mx");
 }
 
+TEST_F(DataGridViewTest, opens_a_long_text_whole_though_the_cell_shows_its_beginning)
+{
+    grid.ListItems()(1).cell(0, std::string(3'000, 'x'));
+    open();
+    EXPECT_EQ(table().model()->index(0, 0).data().toString().size(), 1'000);
+    key(Qt::Key_F2);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text().size(), 3'000);
+    key(Qt::Key_Escape);
+}
+
 TEST_F(DataGridViewTest, opens_a_cell_with_enter_a_double_click_or_typing)
 {
     open();

@@ -3,6 +3,8 @@
 
 // The tab "Proyectos" under real clicks: a row, a double click, a colour, the filter.
 
+#include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "screen/qt/ctr_dn_contacts_widget.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/support/fake_connection.h"

@@ -26,11 +26,24 @@ final class Batch extends Definitions {
 
     /** @throws SqlError where SQL Server would not compile the batch; nothing of it runs then. */
     static List<Step> read(String text, Charset codePage) {
-        return new Batch(Lexer.cut(text), codePage, List.of()).statements(false);
+        Lexer.Cut cut = Lexer.cut(text);
+        Batch batch = new Batch(cut.tokens(), codePage, List.of());
+        if (cut.unclosed() == null) return batch.statements(false);
+        throw batch.unclosed(cut.unclosed());
     }
 
     static List<Step> body(Procedure procedure, Charset codePage) {
         return new Batch(procedure.body(), codePage, procedure.parameters()).statements(true);
+    }
+
+    /** A quotation mark without an end is told in its turn: behind what is wrong ahead of it. */
+    private SqlError unclosed(SqlError refusal) {
+        try {
+            statements(false);
+        } catch (SqlError ahead) {
+            if (!atEnd()) return ahead.followedBy(refusal);
+        }
+        return refusal.followedBy(SqlError.syntax(peek()));
     }
 
     private List<Step> statements(boolean body) {

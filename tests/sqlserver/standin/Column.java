@@ -14,14 +14,16 @@ import java.sql.Types;
 import java.time.LocalDate;
 import java.time.LocalDateTime;
 import java.time.LocalTime;
+import java.time.OffsetDateTime;
+import java.time.ZoneOffset;
 import java.time.temporal.ChronoUnit;
 import java.util.UUID;
 
 /** A column of a result: its type on the wire, and its values. */
 final class Column {
     private enum Form {
-        INT, BIT, FLOAT, DECIMAL, MONEY, DATETIME, SMALLDATETIME, DATETIME2, DATE, TIME, UNIQUEIDENTIFIER, NVARCHAR,
-        NVARCHAR_MAX, VARCHAR, VARBINARY
+        INT, BIT, FLOAT, DECIMAL, MONEY, DATETIME, SMALLDATETIME, DATETIME2, DATETIMEOFFSET, DATE, TIME,
+        UNIQUEIDENTIFIER, NVARCHAR, NVARCHAR_MAX, VARCHAR, VARBINARY
     }
 
     private static final Charset WESTERN = Charset.forName("windows-1252");
@@ -34,6 +36,7 @@ final class Column {
     private static final int DATEN = 0x28;
     private static final int TIMEN = 0x29;
     private static final int DATETIME2N = 0x2A;
+    private static final int DATETIMEOFFSETN = 0x2B;
     private static final int BITN = 0x68;
     private static final int DECIMALN = 0x6A;
     private static final int FLTN = 0x6D;
@@ -70,6 +73,7 @@ final class Column {
         scale = Math.min(form == Form.DECIMAL ? precision : 7, Math.max(0, from.getScale(number)));
         javaType = switch (form) {
             case DATETIME, SMALLDATETIME, DATETIME2 -> LocalDateTime.class;
+            case DATETIMEOFFSET -> OffsetDateTime.class;
             case DATE -> LocalDate.class;
             case TIME -> LocalTime.class;
             case VARBINARY -> byte[].class;
@@ -89,7 +93,8 @@ final class Column {
             case Types.BIT, Types.BOOLEAN -> Form.BIT;
             case Types.REAL, Types.DOUBLE, Types.FLOAT -> Form.FLOAT;
             case Types.DECIMAL, Types.NUMERIC -> length == 19 && scale == 4 ? Form.MONEY : Form.DECIMAL;
-            case Types.TIMESTAMP, Types.TIMESTAMP_WITH_TIMEZONE -> switch (scale) {
+            case Types.TIMESTAMP_WITH_TIMEZONE -> Form.DATETIMEOFFSET;
+            case Types.TIMESTAMP -> switch (scale) {
                 case 1 -> Form.SMALLDATETIME;
                 case 3 -> Form.DATETIME;
                 default -> Form.DATETIME2;
@@ -117,6 +122,7 @@ final class Column {
             case DATETIME -> out.u8(DATETIMN).u8(8);
             case SMALLDATETIME -> out.u8(DATETIMN).u8(4);
             case DATETIME2 -> out.u8(DATETIME2N).u8(scale);
+            case DATETIMEOFFSET -> out.u8(DATETIMEOFFSETN).u8(scale);
             case DATE -> out.u8(DATEN);
             case TIME -> out.u8(TIMEN).u8(scale);
             case NVARCHAR -> out.u8(NVARCHAR).u16(2 * size).raw(Reply.COLLATION);
@@ -176,6 +182,13 @@ final class Column {
                 LocalDateTime moment = (LocalDateTime) value;
                 time(out, moment.toLocalTime());
                 days(out, moment.toLocalDate());
+            }
+            case DATETIMEOFFSET -> {
+                OffsetDateTime moment = (OffsetDateTime) value;
+                LocalDateTime universal = moment.withOffsetSameInstant(ZoneOffset.UTC).toLocalDateTime();
+                time(out, universal.toLocalTime());
+                days(out, universal.toLocalDate());
+                out.u16(moment.getOffset().getTotalSeconds() / 60);
             }
             case DATE -> days(out, (LocalDate) value);
             case TIME -> time(out, (LocalTime) value);

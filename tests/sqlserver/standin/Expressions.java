@@ -293,6 +293,7 @@ abstract class Expressions extends Cursor {
         else if (TEXT_TYPES.containsKey(name)) write(TEXT_TYPES.get(name) + textLength(name));
         else if (name.equals("DECIMAL") || name.equals("NUMERIC")) write("NUMERIC" + digits("(18,0)"));
         else if (name.equals("DATETIME2")) write("TIMESTAMP" + digits("(7)"));
+        else if (name.equals("DATETIMEOFFSET")) write("TIMESTAMP" + digits("(7)") + " WITH TIME ZONE");
         else if (name.equals("TIME")) write("TIME" + digits("(7)"));
         else if (name.equals("FLOAT")) {
             digits("");

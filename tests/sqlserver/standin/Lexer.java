@@ -11,6 +11,8 @@ final class Lexer {
     private static final String[] LONG_SYMBOLS = {"<>", "!=", "<=", ">=", "!<", "!>", "+=", "-=", "*=", "/="};
     private static final String SYMBOLS = "+-*/%=<>(),.;&|^~:";
 
+    private static final int UNCLOSED = 105;
+
     private final String text;
     private final List<Token> tokens = new ArrayList<>();
     private int at;
@@ -19,12 +21,21 @@ final class Lexer {
         this.text = text;
     }
 
-    static List<Token> cut(String text) {
+    /** @param unclosed what is wrong where the last quotation mark has no end; null elsewhere. */
+    record Cut(List<Token> tokens, SqlError unclosed) {}
+
+    static Cut cut(String text) {
         Lexer lexer = new Lexer(text);
-        while (lexer.skipBlanks()) lexer.next();
+        SqlError unclosed = null;
+        try {
+            while (lexer.skipBlanks()) lexer.next();
+        } catch (SqlError refusal) {
+            if (refusal.number != UNCLOSED) throw refusal;
+            unclosed = refusal;
+        }
         String last = lexer.tokens.isEmpty() ? "" : lexer.tokens.get(lexer.tokens.size() - 1).text();
         lexer.tokens.add(new Token(Token.Kind.END, last, ""));
-        return lexer.tokens;
+        return new Cut(lexer.tokens, unclosed);
     }
 
     private boolean starts(String prefix) {
@@ -80,7 +91,7 @@ final class Lexer {
         StringBuilder value = new StringBuilder();
         for (at++; ; at++) {
             if (at >= text.length())
-                throw new SqlError(105, 15, "Unclosed quotation mark after the character string '" + value + "'.");
+                throw new SqlError(UNCLOSED, 15, "Unclosed quotation mark after the character string '" + value + "'.");
             char c = text.charAt(at);
             if (c == close && !(at + 1 < text.length() && text.charAt(at + 1) == close)) break;
             if (c == close) at++;

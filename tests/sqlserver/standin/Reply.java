@@ -51,10 +51,10 @@ final class Reply extends Bytes {
         token(type).u16(bytes.length).raw(bytes);
     }
 
-    void error(SqlError error) {
-        Bytes body = new Bytes().u32(error.number).u8(1).u8(error.severity).text(error.getMessage(), 2)
-                .text("standin", 1).text("", 1).u32(1);
-        sized(0xAA, body);
+    void error(SqlError first) {
+        for (SqlError error = first; error != null; error = error.next)
+            sized(0xAA, new Bytes().u32(error.number).u8(1).u8(error.severity).text(error.getMessage(), 2)
+                    .text("standin", 1).text("", 1).u32(1));
         done(0xFD, ERROR, 0);
     }
 

@@ -23,8 +23,6 @@ final class SqlError extends RuntimeException {
             Map.entry(42111, new SqlError(1913, 16,
                     "The operation failed because an index named '%s' already exists.")),
             Map.entry(42121, new SqlError(2705, 16, "Column names in each table must be unique. '%s' stands twice.")),
-            Map.entry(23505, new SqlError(2627, 14,
-                    "Violation of UNIQUE KEY constraint. Cannot insert duplicate key in object '%s'.")),
             Map.entry(23502, new SqlError(515, 16,
                     "Cannot insert the value NULL into column '%s'; column does not allow nulls.")),
             Map.entry(23513, new SqlError(547, 16, "The statement conflicted with the CHECK constraint \"%s\".")),
@@ -55,11 +53,22 @@ final class SqlError extends RuntimeException {
 
     final int number;
     final int severity;
+    /** What is said behind it in the same answer; null for nothing. */
+    final SqlError next;
 
     SqlError(int number, int severity, String message) {
+        this(number, severity, message, null);
+    }
+
+    private SqlError(int number, int severity, String message, SqlError next) {
         super(message, null, false, false);
         this.number = number;
         this.severity = severity;
+        this.next = next;
+    }
+
+    SqlError followedBy(SqlError other) {
+        return new SqlError(number, severity, getMessage(), other);
     }
 
     /** Incorrect syntax, at a token or behind the last one. */
@@ -69,10 +78,19 @@ final class SqlError extends RuntimeException {
         return new SqlError(102, 15, "Incorrect syntax near '" + near.text() + "'.");
     }
 
+    /** A row that is there already. The engine makes up the name of the index behind a constraint. */
+    private static SqlError repeated(String words) {
+        if (words.contains("PRIMARY KEY"))
+            return new SqlError(2627, 14, "Violation of PRIMARY KEY constraint. Cannot insert duplicate key in '%s'.");
+        if (words.contains("CONSTRAINT_INDEX"))
+            return new SqlError(2627, 14, "Violation of UNIQUE KEY constraint. Cannot insert duplicate key in '%s'.");
+        return new SqlError(2601, 14, "Cannot insert duplicate key row in object with unique index '%s'.");
+    }
+
     /** What SQL Server would have said where the engine refuses; its number is 50000 where that is not known. */
     static SqlError of(SQLException failure) {
-        SqlError known = BY_ENGINE_CODE.get(failure.getErrorCode());
         String words = String.valueOf(failure.getMessage());
+        SqlError known = failure.getErrorCode() == 23505 ? repeated(words) : BY_ENGINE_CODE.get(failure.getErrorCode());
         if (known == null) {
             boolean syntax = failure.getErrorCode() == 42000 || failure.getErrorCode() == 42001;
             return new SqlError(syntax ? 102 : 50000, 16, (syntax ? "Incorrect syntax: " : "Stand-in: ") + words);

@@ -35,6 +35,7 @@ final class Words {
             function("APPLOCK_MODE", 3, "\u0001LOCK\u0001"),
             function("AVG", 1, "AVG($1)"),
             function("CONCAT", 2, 254, "CONCAT($*)"),
+            function("CONCAT_WS", 3, 254, "CONCAT_WS($*)"),
             function("COUNT", 1, "COUNT($1)"),
             function("DAY", 1, "DAY($1)"),
             function("DATALENGTH", 1, "OCTET_LENGTH($1)"),

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The load generator: many agents at work at once on one MariaDB.
+//
+//     dn_load [--agents N] [--seconds S] [--think MILLISECONDS] [--seed N] [--connect TEXT | --folder DIR]
+//
+// Without --connect it starts a server of its own on the folder and gives each agent rows of his own. With it, the
+// agents of that database work, from the first one on and over again where they are fewer than asked for: they
+// write notes and calls into it, so it must be one for the purpose. Ends with 1 when an answer was wrong.
+
+#include "bench/load/load.h"
+#include "bench/scale_rows.h"
+#include "host/database/database.h"
+
+#include <charconv>
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <stdexcept>
+
+namespace {
+
+using namespace dn;
+using namespace dn::bench;
+
+using Arguments = std::map<std::string, std::string>;
+
+Arguments readArguments(int argc, char** argv)
+{
+    Arguments arguments{{"--agents", "200"}, {"--seconds", "60"}, {"--think", "4000"},
+                        {"--seed", "1"},     {"--connect", ""},   {"--folder", ""}};
+    for (int i = 1; i < argc; i += 2) {
+        const auto found = arguments.find(argv[i]);
+        if (found == arguments.end() || i + 1 == argc)
+            throw std::runtime_error("usage: dn_load [--agents N] [--seconds S] [--think MILLISECONDS] [--seed N] "
+                                     "[--connect TEXT | --folder DIR]");
+        found->second = argv[i + 1];
+    }
+    return arguments;
+}
+
+long numberOf(const Arguments& arguments, const std::string& name)
+{
+    const std::string& text = arguments.at(name);
+    long number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || number < 1)
+        throw std::runtime_error(name + " takes a number from 1 on");
+    return number;
+}
+
+/// A server of our own, with rows for the agents.
+host::Database ownServer(const std::string& folder, std::size_t agents)
+{
+    host::DatabaseOptions options;
+    options.demoRows = 3000;
+    options.server.folder =
+        folder.empty() ? std::filesystem::temp_directory_path() / "dn-load" : std::filesystem::path(folder);
+    options.server.bufferPoolMegabytes = 1024;
+    host::Database database = host::openDatabase(options);
+    database.connection().execute("SET GLOBAL max_connections = " + std::to_string(agents + 50));
+    makeLoadRows(database.connection(), agents);
+    return database;
+}
+
+std::vector<std::int32_t> agentsOf(const host::MariadbTarget& target, std::size_t count)
+{
+    std::vector<std::int32_t> keys;
+    const auto connection = host::connect(target);
+    const auto rows =
+        connection->execute("SELECT DISTINCT a.Sys_PK FROM Agente AS a INNER JOIN ut_icontact AS c ON "
+                            "c.uf_IEjecutivo = a.Sys_PK AND c.uf_Status = 0 ORDER BY a.Sys_PK");
+    for (; !rows->Eof(); rows->MoveNext())
+        keys.push_back(rows->value(0).toInt32());
+    if (keys.empty()) throw std::runtime_error("no agent has prospects");
+    std::vector<std::int32_t> agents;
+    for (std::size_t i = 0; i < count; ++i)
+        agents.push_back(keys[i % keys.size()]);
+    return agents;
+}
+
+int run(const Arguments& arguments)
+{
+    LoadOptions options;
+    const auto count = static_cast<std::size_t>(numberOf(arguments, "--agents"));
+    options.duration = std::chrono::seconds(numberOf(arguments, "--seconds"));
+    options.thinking = std::chrono::milliseconds(numberOf(arguments, "--think"));
+    options.seed = static_cast<std::uint64_t>(numberOf(arguments, "--seed"));
+    std::optional<host::Database> own;
+    if (arguments.at("--connect").empty()) {
+        own.emplace(ownServer(arguments.at("--folder"), count));
+        options.server = std::get<host::MariadbTarget>(own->choice());
+        for (std::size_t i = 0; i < count; ++i)
+            options.agents.push_back(firstLoadAgent + static_cast<std::int32_t>(i));
+    } else {
+        const auto choice = host::parseDatabaseChoice(arguments.at("--connect"));
+        if (!std::holds_alternative<host::MariadbTarget>(choice))
+            throw std::runtime_error("--connect takes mariadb://...");
+        options.server = std::get<host::MariadbTarget>(choice);
+        options.agents = agentsOf(options.server, count);
+    }
+    const LoadResult result = runLoad(options);
+    std::printf("%zu agents, %zu actions, %zu statements in %.1f s. Milliseconds:\n\n%s", options.agents.size(),
+                result.steps.size(), result.statements, result.seconds, loadAsMarkdown(result).c_str());
+    for (const std::string& wrong : result.wrong)
+        std::printf("wrong: %s\n", wrong.c_str());
+    return result.wrong.empty() ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(readArguments(argc, argv));
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 2;
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The table of results, and the bars that they must keep.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace dn::bench {
+
+class Report {
+public:
+    /// A measured figure, for information.
+    void figure(const std::string& what, double value, const std::string& unit);
+    /// A figure with a bar: it must not be larger. Where the unit is "times" and the bar below 1, both are shown
+    /// as fractions: "1/12.5".
+    void bar(const std::string& what, double value, double largest, const std::string& unit);
+    /// A benchmark whose own answer was wrong; nothing that it measured counts.
+    void wrong(const std::string& what, const std::string& why);
+
+    /// The table as text, with the rows that missed their bar marked.
+    std::string table() const;
+    /// The rows with a bar, and the wrong answers, as a table of a document.
+    std::string barsAsMarkdown() const;
+    /// The rows without a bar, likewise.
+    std::string figuresAsMarkdown() const;
+    /// The rows that missed their bar or gave a wrong answer.
+    const std::vector<std::string>& missed() const { return missed_; }
+
+private:
+    struct Row {
+        std::string what;
+        std::string value;
+        std::string bar;
+        std::string verdict;
+    };
+
+    std::vector<Row> rows_;
+    std::vector<std::string> missed_;
+};
+
+/// A number as the tables show it: three digits that count, thousands apart.
+std::string readable(double value);
+
+} // namespace dn::bench

@@ -1,0 +1,395 @@
+// SPDX-FileCopyrightText: The ctrDnContacts authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What an operator keeps when the server goes away under him: a real server that is killed, and the real window.
+
+#include "host/database/schema.h"
+#include "host/main_window.h"
+#include "shell/ctr_dn_contacts.h"
+#include "tests/host/screens/fixture.h"
+#include "tests/support/maria_server.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include <csignal>
+
+namespace dn::host::tests {
+namespace {
+
+using dn::tests::MariaServer;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using namespace std::chrono_literals;
+
+std::string textTo(const MariaServer& server)
+{
+    return "mariadb://" + std::string(MariaServer::user) + ":" + std::string(MariaServer::password) +
+           "@localhost/" + std::string(MariaServer::database) +
+           "?read_timeout=1&connect_timeout=1&socket=" + server.socket();
+}
+
+std::unique_ptr<data::Connection> reach(const MariaServer& server)
+{
+    return connect(parseDatabaseChoice(textTo(server)));
+}
+
+std::unique_ptr<MariaServer> serverWithRows()
+{
+    auto server = std::make_unique<MariaServer>(MariaServer::Network::socketOnly,
+                                                std::vector<std::string>{"--innodb-flush-log-at-trx-commit=1"});
+    const auto beside = reach(*server);
+    createSchema(*beside, Engine::mariadb);
+    beside->execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana'), (9, 'Beto')");
+    beside->execute("INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_Telefono, uf_IEjecutivo, uf_Fecha) VALUES "
+                    "(1, 'Luz', '961', 7, '2026-03-01'), (2, 'Gil', '962', 7, '2026-03-02'), "
+                    "(3, 'Rita', '963', 9, '2026-03-03')");
+    return server;
+}
+
+class LosingTheServer : public testing::Test {
+protected:
+    void opens(std::optional<std::int16_t> tab, Reconnection::Pauses pauses = {0s, 1s},
+               const Worker& worker = {7, false, "ana"})
+    {
+        database.emplace(openDatabase(options()));
+        window.emplace(*database, worker, std::move(pauses));
+        window->show();
+        window->start(tab);
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&*window));
+    }
+    void TearDown() override { window.reset(); }
+
+    virtual DatabaseOptions options()
+    {
+        DatabaseOptions result;
+        result.connect = textTo(*server);
+        return result;
+    }
+
+    desk::Elements& elements() { return window->control().elements(); }
+    template <class Kind = QWidget>
+    Kind& in(const char* name)
+    {
+        auto* const found = window->findChild<Kind*>(name);
+        if (found == nullptr) throw std::runtime_error(name);
+        return *found;
+    }
+    std::string bar()
+    {
+        if (!in("BarraDeConexion").isVisible()) return "";
+        return in<QLabel>("lblConexion").text().toStdString();
+    }
+    void clicks(const char* button) { QTest::mouseClick(&in<QAbstractButton>(button), Qt::LeftButton); }
+    bool tells(const std::string& part)
+    {
+        return QTest::qWaitFor([&] { return bar().find(part) != std::string::npos; }, 20'000);
+    }
+    /// The operator is back in his work.
+    bool goesOn()
+    {
+        return QTest::qWaitFor([&] { return bar().starts_with("Conexión restablecida") && window->ready(); },
+                               20'000);
+    }
+    void selects(screen::ListView& list, const char* key)
+    {
+        list.clickRow(static_cast<std::size_t>(list.ListItems()(key).Index()) - 1);
+    }
+    /// A picture in the folder "pantallas" below the working folder. Nothing in the bar is cut off.
+    void takes(const char* name)
+    {
+        QDir().mkpath("pantallas");
+        QApplication::processEvents();
+        EXPECT_TRUE(window->grab().save(QString("pantallas/%1.png").arg(name)));
+        for (const QAbstractButton* button : in("BarraDeConexion").findChildren<QAbstractButton*>())
+            EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width());
+        for (const QLabel* label : in("BarraDeConexion").findChildren<QLabel*>())
+            EXPECT_TRUE(!label->isVisible() || label->height() >= label->heightForWidth(label->width()));
+    }
+    static std::string selected(screen::ListView& list)
+    {
+        const auto row = list.SelectedItem();
+        return row ? std::string(row->Key()) : "";
+    }
+    std::vector<std::string> notes()
+    {
+        std::vector<std::string> found;
+        const auto rows =
+            reach(*server)->execute("SELECT CONCAT(uf_Iicontact, ' ', uf_Mensaje) FROM xt_biticontact");
+        for (; !rows->Eof(); rows->MoveNext())
+            found.emplace_back(rows->value(0).raw());
+        return found;
+    }
+
+    std::unique_ptr<MariaServer> server = serverWithRows();
+    std::optional<Database> database;
+    std::optional<MainWindow> window;
+    dn::tests::ModalDriver operatorAt;
+};
+
+TEST_F(LosingTheServer, tells_and_goes_on_with_the_same_row_and_the_typed_note)
+{
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    auto& note = in<QPlainTextEdit>("txtText");
+    note.setFocus();
+    presses(note, "pide precios");
+    EXPECT_EQ(bar(), "");
+
+    server->kill();
+    ASSERT_TRUE(tells("Se perdió la conexión con la base de datos: lo que haga ahora no se guarda.")) << bar();
+    presses(note, " por volumen");
+    server->restart();
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_THAT(bar(), HasSubstr("Compruebe si quedó guardado lo último que hizo."));
+
+    EXPECT_EQ(selected(elements().prospects.lvw), "K1");
+    EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 2);
+    EXPECT_EQ(elements().top.lblItem(desk::prospectos).BackColor(), desk::TabStrip::activeColour);
+    EXPECT_TRUE(in("lvw").isVisible());
+    EXPECT_FALSE(in("lvwHoy").isVisible());
+    EXPECT_EQ(elements().detail.txtText.Text(), "pide precios por volumen");
+    note.setFocus();
+    QTest::keyClick(&note, Qt::Key_Return);
+    EXPECT_THAT(notes(), ElementsAre("1 pide precios por volumen"));
+    clicks("cmdCerrarAviso");
+    EXPECT_EQ(bar(), "");
+}
+
+TEST_F(LosingTheServer, gives_back_what_a_list_that_came_out_empty_had_selected)
+{
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    QTest::qWait(300); // the window has looked around
+    server->kill();
+    elements().top.lblItem(desk::prospectos).click();
+    EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 0);
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_EQ(selected(elements().prospects.lvw), "K1");
+    EXPECT_THAT(elements().detail.txtInfo.Text(), HasSubstr("Luz"));
+}
+
+TEST_F(LosingTheServer, waits_for_its_time_or_for_the_button)
+{
+    opens(desk::prospectos, {0s, 60s});
+    server->kill();
+    ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
+    EXPECT_THAT(in<QLabel>("lblMotivo").text().toStdString(),
+                AllOf(HasSubstr("No se pudo abrir la base de datos"), testing::Not(HasSubstr("clave-de-prueba"))));
+    takes("BarraPerdida");
+    clicks("cmdReconectar");
+    EXPECT_THAT(bar(), HasSubstr("Reconectando…"));
+    EXPECT_FALSE(in("cmdReconectar").isEnabled());
+    ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << "nobody is there yet";
+    server->restart();
+    clicks("cmdReconectar");
+    EXPECT_TRUE(goesOn()) << bar();
+    takes("BarraRestablecida");
+}
+
+TEST_F(LosingTheServer, an_hourglass_that_a_failure_left_behind_keeps_nobody_waiting)
+{
+    opens(desk::prospectos);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    server->restart();
+    EXPECT_TRUE(goesOn()) << bar();
+    QGuiApplication::restoreOverrideCursor();
+}
+
+TEST_F(LosingTheServer, keeps_an_administrators_agent_filter_and_checks)
+{
+    opens(desk::prospectos, {0s, 1s}, {0, true, "jefa"});
+    elements().top.cbAgente.pick("Ana");
+    elements().prospects.lvw.toggleCheck(1);
+    const std::string checked(elements().prospects.lvw.ListItems()(2).Key());
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_EQ(elements().top.cbAgente.Text(), "Ana");
+    EXPECT_TRUE(elements().prospects.lvw.ListItems()(checked).Checked());
+    elements().prospects.cbStatus.pick("Descartado");
+    clicks("cmdCerrarAviso");
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_EQ(elements().prospects.cbStatus.Text(), "Descartado");
+}
+
+TEST_F(LosingTheServer, goes_back_to_each_tab)
+{
+    opens(std::nullopt);
+    reach(*server)->execute(
+        "INSERT INTO Persona (Sys_PK, Nombre, IEjecutivo) VALUES (5, 'Eva', 7), (6, 'Iris', 7)");
+    EXPECT_TRUE(in("lvwHoy").isVisible());
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_TRUE(in("lvwHoy").isVisible()) << "the first screen";
+    EXPECT_FALSE(in("picHoy").isVisible());
+    clicks("cmdCerrarAviso");
+
+    elements().top.lblItem(desk::prospectos).click();
+    elements().top.lblItem(desk::hoy).click();
+    selects(elements().today.lvwHoy, "K2");
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_TRUE(in("picHoy").isVisible());
+    EXPECT_EQ(selected(elements().today.lvwHoy), "K2");
+    EXPECT_EQ(selected(elements().prospects.lvw), "K2");
+    clicks("cmdCerrarAviso");
+
+    elements().top.lblItem(desk::contactos).click();
+    selects(elements().persons.lvwContactos, "PK6");
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_TRUE(in("lvwContactos").isVisible());
+    EXPECT_EQ(selected(elements().persons.lvwContactos), "PK6");
+}
+
+TEST_F(LosingTheServer, tells_the_note_whose_prospect_is_gone)
+{
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    elements().detail.txtText.edit("pide precios");
+    reach(*server)->execute("UPDATE ut_icontact SET uf_IEjecutivo = 9 WHERE Sys_PK = 1");
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_EQ(elements().detail.txtText.Text(), "") << "not beside another prospect";
+    EXPECT_TRUE(in("lblMotivo").isVisible());
+    EXPECT_EQ(in<QLabel>("lblMotivo").text(), "La nota que no se guardó dice: «pide precios»");
+}
+
+TEST_F(LosingTheServer, an_open_window_keeps_what_was_typed_and_stores_it_afterwards)
+{
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    operatorAt.expect("dlgCorregir", [&](QWidget& dialog) {
+        types(dialog, "txtTelefono", "961 555");
+        server->kill();
+        operatorAt.expect("MsgBox", [](QWidget& box) {
+            EXPECT_NE(boxText(box), "");
+            dn::tests::pressButton(box, "Aceptar");
+        });
+        QTest::mouseClick(dialog.findChild<QAbstractButton*>("cmdOk"), Qt::LeftButton);
+        EXPECT_TRUE(dialog.isVisible());
+        ASSERT_TRUE(tells("Se perdió la conexión"));
+        server->restart();
+        ASSERT_TRUE(tells("Conexión restablecida")) << bar();
+        EXPECT_FALSE(window->ready()) << "the control is not started anew below an open window";
+        EXPECT_EQ(line(dialog, "txtTelefono").text(), "961 555");
+        dialog.activateWindow();
+        QTest::mouseClick(dialog.findChild<QAbstractButton*>("cmdOk"), Qt::LeftButton);
+    });
+    clicks("cmdEditC");
+    ASSERT_TRUE(goesOn());
+    EXPECT_EQ(reach(*server)->execute("SELECT uf_Telefono FROM ut_icontact WHERE Sys_PK = 1")->value(0).toText(),
+              "961 555");
+    EXPECT_EQ(selected(elements().prospects.lvw), "K1");
+}
+
+TEST_F(LosingTheServer, a_call_goes_on_and_the_control_is_started_anew_behind_it)
+{
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    clicks("cmdCall");
+    server->restart();
+    ASSERT_TRUE(tells("Conexión restablecida")) << bar();
+    EXPECT_TRUE(window->control().Call_Progress());
+    EXPECT_FALSE(window->ready());
+    clicks("cmdContesta");
+    clicks("cmdCallCon(6)");
+    elements().call.txtResCall.edit("quiere una visita");
+    operatorAt.expect("dlgQueH", [](QWidget& question) { question.close(); });
+    clicks("cmdOkCall");
+    ASSERT_TRUE(goesOn());
+    EXPECT_THAT(notes(), ElementsAre(StartsWith("1 Se estableció llamada al 961 Con éxito.")));
+    EXPECT_EQ(selected(elements().prospects.lvw), "K1");
+}
+
+TEST_F(LosingTheServer, a_hanging_server_does_not_hang_the_window)
+{
+    opens(desk::prospectos);
+    server->freeze();
+    elements().top.lblItem(desk::prospectos).click(); // a second, as the text of the connection says
+    ASSERT_TRUE(tells("Reconectando…")) << bar();
+    elements().detail.txtText.Enabled(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar().find("Nuevo intento") != std::string::npos; }, 20'000))
+        << "the attempt is given up by itself";
+    server->thaw();
+    EXPECT_TRUE(goesOn());
+    EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 2);
+}
+
+class LosingThePrivateServer : public LosingTheServer {
+protected:
+    DatabaseOptions options() override
+    {
+        DatabaseOptions result;
+        result.server.folder = server->folder() / "propio";
+        result.server.bufferPoolMegabytes = 32;
+        result.demoRows = 5;
+        return result;
+    }
+};
+
+TEST_F(LosingThePrivateServer, starts_it_again)
+{
+    opens(desk::prospectos);
+    const pid_t killed = database->server()->pid();
+    ASSERT_EQ(::kill(killed, SIGKILL), 0);
+    ASSERT_TRUE(goesOn()) << bar() << in<QLabel>("lblMotivo").text().toStdString();
+    EXPECT_NE(database->server()->pid(), killed);
+    EXPECT_EQ(database->connection().execute("SELECT COUNT(*) FROM ut_icontact")->value(0).toText(), "5");
+}
+
+class SeveralServers : public LosingTheServer {
+protected:
+    DatabaseOptions options() override
+    {
+        DatabaseOptions result;
+        result.connect = "mariadb://nadie@127.0.0.1:" + std::to_string(dn::tests::freePort()) + "/nada";
+        result.further = {textTo(*server), textTo(*other)};
+        return result;
+    }
+
+    std::unique_ptr<MariaServer> other = serverWithRows();
+};
+
+TEST_F(SeveralServers, the_next_one_takes_over)
+{
+    reach(*other)->execute("UPDATE ut_icontact SET uf_Nombre = 'Luz María' WHERE Sys_PK = 1");
+    opens(desk::prospectos);
+    EXPECT_THAT(database->description(), AllOf(HasSubstr(server->socket()), HasSubstr("(servidor 2 de 3)")));
+    server->kill();
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_THAT(database->description(), AllOf(HasSubstr(other->socket()), HasSubstr("(servidor 3 de 3)")));
+    selects(elements().prospects.lvw, "K1");
+    EXPECT_THAT(elements().detail.txtInfo.Text(), HasSubstr("Luz María"));
+
+    server->restart();
+    other->kill();
+    ASSERT_TRUE(tells("Se perdió"));
+    ASSERT_TRUE(goesOn()) << "and round again";
+    EXPECT_THAT(database->description(), HasSubstr("(servidor 2 de 3)"));
+}
+
+TEST_F(SeveralServers, tells_what_each_of_them_said)
+{
+    server->kill();
+    other->kill();
+    try {
+        openDatabase(options());
+        ADD_FAILURE() << "nobody is there";
+    } catch (const HostError& failure) {
+        EXPECT_THAT(failure.what(),
+                    AllOf(HasSubstr("«nada»"), HasSubstr(server->socket()), HasSubstr(other->socket())));
+    }
+}
+
+} // namespace
+} // namespace dn::host::tests
