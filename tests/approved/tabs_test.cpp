@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The looks of the five tabs, of a call, and of the themes. Database and clock are fakes, so that nothing in a
-// picture depends on the day.
+// The looks of the tabs that show a party in hand, of a call, and of the themes. Database and clock are fakes, so
+// that nothing in a picture depends on the day.
 
 #include "screen/qt/guard.h"
 #include "screen/qt/panel_views.h"
@@ -113,29 +113,12 @@ TEST_F(Looks, of_the_day)
     looks("hoy");
 }
 
-TEST_F(Looks, of_the_organisations)
-{
-    cnn.onContaining("rganizacion")
-        .gives({"Sys_PK", "Codigo", "Nombre", "NombreComercial", "Tel1"},
-               {{whole(1), text("O-1"), text("Silos del Sureste"), text("Silos"), text("961 111 2233")}});
-    opensTab(desk::organizaciones);
-    looks("organizaciones");
-}
-
-TEST_F(Looks, of_the_persons)
-{
-    cnn.onContaining("ersona").gives(
-        {"Sys_PK", "Codigo", "Nombre", "Apellido1", "Apellido2", "EMail"},
-        {{whole(1), text("P-1"), text("Luz"), text("Ñúñez"), null, text("luz@example.com")}});
-    opensTab(desk::contactos);
-    looks("contactos");
-}
-
 TEST_F(Looks, of_a_call)
 {
     opensTab(desk::prospectos);
     lvw().clickRow(0);
     elements().detail.cmdCall.press();
+    elements().call.Timer1.Enabled(false); // the bar stands still
     looks("llamada");
     elements().call.cmdContesta.press();
     looks("llamada-contestada");

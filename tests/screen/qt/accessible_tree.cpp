@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMetaEnum>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSpinBox>
 
 #include <algorithm>
@@ -105,6 +106,8 @@ std::vector<std::string> unreached(QWidget& window)
         const bool passive = part.role() == QAccessible::ProgressBar || part.role() == QAccessible::MenuItem ||
                              part.role() == QAccessible::Dialog || part.role() == QAccessible::Window;
         if (!isWorkedWith(part) || passive || widget == nullptr || isPartOfField(widget)) return;
+        const auto* const option = qobject_cast<const QRadioButton*>(widget);
+        if (option != nullptr && option->autoExclusive()) return; // the arrows lead from one to the next
         if ((widget->focusPolicy() & Qt::TabFocus) == 0) found.push_back(describe(part));
     });
     return found;
