@@ -130,7 +130,7 @@ TEST_F(HostileContents, texts_of_ten_megabytes)
     constexpr std::size_t size = 10'000'000;
     const ReplacedTable other(*beside, "ut_icontact", prospectColumnsOf("LONGTEXT"));
     database(prospectRowOf(1, "'corto'"));
-    database(prospectRowOf(2, "REPEAT('ñ', 5000000)"));
+    database(longProspectRowOf(2, "REPEAT('ñ', 5000000)"));
     database(
         "INSERT INTO xt_biticontact (uf_Mensaje, uf_Usuario, uf_Iicontact) VALUES (REPEAT('x', 10000000), 'ana', "
         "2), ('fin', 'ana', 2)");
@@ -138,7 +138,7 @@ TEST_F(HostileContents, texts_of_ten_megabytes)
     ASSERT_THAT(keysOf(lvw()), SizeIs(2));
     lvw().clickRow(keysOf(lvw())[0] == "K2" ? 0 : 1);
     EXPECT_EQ(lvw().SelectedItem()->ListSubItems()(column::name).Text().size(), size);
-    EXPECT_GT(sees("txtInfo").size(), 8 * size) << "name, mail, telephone, company, job title, comments, link";
+    EXPECT_GT(sees("txtInfo").size(), 3 * size) << "name, mail and comments";
     EXPECT_GT(sees("txtBit").size(), size);
     EXPECT_THAT(sees("txtBit").substr(0, 200), HasSubstr("fin"));
     eachRowIsItself();
@@ -319,7 +319,7 @@ TEST_F(HostileContents, what_is_exported)
     OutputFolder folder;
     const ReplacedTable other(*beside, "ut_icontact", prospectColumnsOf("LONGBLOB"));
     database(prospectRowOf(1, "x'FF3C623E410D0A00C3B1'"));
-    database(prospectRowOf(2, "REPEAT('x', 10000000)"));
+    database(longProspectRowOf(2, "REPEAT('x', 10000000)"));
     database(prospectRowOf(3, "NULL"));
     entersAsAdministrator();
     ports.events.expectModal("dlgFiltro", [&](screen::Form& form) {
@@ -337,7 +337,7 @@ TEST_F(HostileContents, what_is_exported)
     });
     control.ExportarListas();
     const std::string html = contentsOf(folder.file("a.html"));
-    EXPECT_THAT(html.size(), testing::Gt(40'000'000U));
+    EXPECT_THAT(html.size(), testing::Gt(20'000'000U));
     EXPECT_NE(html.find("<td>\xEF\xBF\xBD&lt;b&gt;A\n\xEF\xBF\xBDñ</td>"), std::string::npos);
     EXPECT_THAT(folder.names(), ElementsAre("a.html", "a.xls"));
 }

@@ -64,6 +64,13 @@ std::string prospectRowOf(int key, const std::string& literal)
     return names + values + ")";
 }
 
+std::string longProspectRowOf(int key, const std::string& literal)
+{
+    return "INSERT INTO ut_icontact (Sys_PK, uf_IEjecutivo, uf_Status, uf_Nombre, uf_EMail, uf_Comentarios) "
+           "VALUES (" +
+           std::to_string(key) + ", 7, 0, " + literal + ", " + literal + ", " + literal + ")";
+}
+
 const char* const projectColumns =
     "Sys_PK BIGINT, Sys_GUID CHAR(32), Sys_DTCreated DATETIME, Descripcion LONGTEXT, IEjecutivo INT, IMeta INT, "
     "IOrganizacion INT, IContacto INT, FInicio DATETIME, UF_Status1 SMALLINT, UF_Color SMALLINT, UF_monto DOUBLE, "

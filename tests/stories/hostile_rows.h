@@ -23,6 +23,9 @@ std::string prospectColumnsOf(const std::string& type, const std::string& keyTyp
 /// The statement for a prospect of agent 7 in status 0 with one value in all other columns.
 std::string prospectRowOf(int key, const std::string& literal);
 
+/// The same with a value in its name, its mail and its comments alone: for values of megabytes.
+std::string longProspectRowOf(int key, const std::string& literal);
+
 /// The columns of the projects without a key that is unique, and with any number of digits.
 extern const char* const projectColumns;
 

@@ -68,9 +68,9 @@ TEST_F(HostileContentsAtTheWindow, every_type_in_every_column_shows_in_the_list_
 TEST_F(HostileContentsAtTheWindow, texts_of_ten_megabytes_hold_nobody_up)
 {
     const ReplacedTable other(*beside, "ut_icontact", prospectColumnsOf("LONGTEXT"));
-    database(prospectRowOf(1, "REPEAT('ñ', 5000000)"));
+    database(longProspectRowOf(1, "REPEAT('ñ', 5000000)"));
     database(prospectRowOf(2, "'corto'"));
-    database(prospectRowOf(3, "REPEAT('línea\\r\\n', 1000000)"));
+    database(longProspectRowOf(3, "REPEAT('línea\\r\\n', 1000000)"));
     database(
         "INSERT INTO xt_biticontact (uf_Mensaje, uf_Usuario, uf_Iicontact) VALUES (REPEAT('x', 10000000), 'ana', "
         "2), ('fin', 'ana', 2)");
