@@ -11,7 +11,6 @@
 namespace dn::host {
 namespace {
 
-using screen::qt::ColumnLayout;
 using screen::qt::ColumnLayouts;
 
 QVariantList toList(const std::vector<int>& numbers) { return {numbers.begin(), numbers.end()}; }

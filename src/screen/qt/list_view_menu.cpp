@@ -157,6 +157,7 @@ void ListViewView::copyRows(bool checkedOnly) const
 std::vector<std::size_t> ListViewView::columnOrder() const
 {
     std::vector<std::size_t> order;
+    order.reserve(static_cast<std::size_t>(horizontalHeader()->count()));
     for (int place = 0; place < horizontalHeader()->count(); ++place)
         order.push_back(static_cast<std::size_t>(horizontalHeader()->logicalIndex(place)));
     return order;
