@@ -4,6 +4,7 @@
 // The first start and those that follow it, as the operator meets them.
 
 #include "host/desktop/beginning.h"
+#include "tests/host/desktop/fake_keyring.h"
 #include "tests/screen/qt/keyboard.h"
 #include "tests/screen/qt/modal_driver.h"
 
@@ -15,7 +16,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
 #include <stdexcept>
 
 namespace dn::host {
@@ -25,25 +25,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-/// A keyring in memory, which may be missing.
-struct FakeKeyring : Keyring {
-    bool answers() override { return there; }
-    std::optional<std::string> find(const std::string& account) override
-    {
-        const auto found = kept.find(account);
-        return there && found != kept.end() ? std::optional(found->second) : std::nullopt;
-    }
-    bool keep(const std::string& account, const std::string& password) override
-    {
-        if (there) kept[account] = password;
-        return there;
-    }
-    void forget(const std::string& account) override { kept.erase(account); }
-
-    bool there = true;
-    std::map<std::string, std::string> kept;
-};
 
 class BeginningTest : public testing::Test {
 protected:
