@@ -21,12 +21,14 @@ struct FakeKeyring : Keyring {
     bool keep(const std::string& account, const std::string& password) override
     {
         if (there) kept[account] = password;
+        keeps += there ? 1 : 0;
         return there;
     }
     void forget(const std::string& account) override { kept.erase(account); }
 
     bool there = true;
     std::map<std::string, std::string> kept;
+    int keeps = 0; ///< how often something was put into it
 };
 
 } // namespace dn::host
