@@ -83,6 +83,19 @@ TEST_F(OldFile, stays_as_it_is_where_no_keyring_takes_its_password)
                   "borre su renglón y el programa se la pedirá una vez en cada sesión.");
 }
 
+TEST_F(OldFile, stays_as_it_is_where_the_keyring_does_not_give_back_what_it_took)
+{
+    struct Locked : FakeKeyring {
+        std::optional<std::string> find(const std::string& /*account*/) override { return std::nullopt; }
+    };
+    Locked locked;
+    MailPassword other(locked);
+    MailSettings settings = readMailSettings(file, "/datos");
+    other.takeIn(settings);
+    EXPECT_EQ(contentOf(file), before);
+    EXPECT_EQ(settings.password, "a=b;\"c\\ #d");
+}
+
 TEST_F(OldFile, that_others_can_read_is_told_and_how_to_close_it)
 {
     keyring.there = false;
