@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A picture of each window with something in it, in the folder "pantallas" below the working folder, for whoever
-// wants to look at them. That each one shows every text in full is asserted here.
+// A picture of each window with something in it, held against the approved one and left in the folder "pantallas"
+// below the working folder, for the documents. That each one shows every text in full is asserted here too.
 
+#include "tests/approved/approval.h"
 #include "tests/host/screens/projects_at_work.h"
 
 #include <QCheckBox>
@@ -48,6 +49,7 @@ protected:
         QDir().mkpath("pantallas");
         QTest::qWait(0);
         EXPECT_TRUE(window.grab().save("pantallas/" + window.objectName() + ".png"));
+        dn::tests::looksAsApproved(window, window.objectName());
         for (const QPushButton* button : window.findChildren<QPushButton*>())
             EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width()) << name(*button);
         for (const QLabel* label : window.findChildren<QLabel*>())
