@@ -196,9 +196,11 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                               const QWidget* widget) const
 {
-    constexpr int beside = 12; // each side of a caption
+    constexpr int beside = 12; // each side of a caption; a picture takes the place of one
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_PushButton) size.setWidth(std::max(size.width(), contents.width() + 2 * beside));
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && button != nullptr && button->icon.isNull())
+        size.setWidth(std::max(size.width(), contents.width() + 2 * beside));
     return size;
 }
 
