@@ -253,6 +253,17 @@ TEST_F(AskingForThePassword, comes_behind_what_the_settings_have_and_tries_nothi
     EXPECT_EQ(keyring.kept.at(account), "de otro año") << "nobody typed another";
 }
 
+TEST_F(AskingForThePassword, of_one_that_was_refused_keeps_no_other_in_its_place)
+{
+    answers("equivocada");
+    EXPECT_TRUE(password.provide(settings, nullptr));
+    EXPECT_EQ(settings.password, "equivocada");
+    password.refused(settings);
+    settings.password = right; // of the environment, whose matter it is
+    password.accepted(settings);
+    EXPECT_THAT(keyring.kept, IsEmpty());
+}
+
 TEST_F(AskingForThePassword, can_be_given_up_and_everything_typed_stays)
 {
     EXPECT_FALSE(writes([this](QWidget& window) {
