@@ -119,7 +119,8 @@ int run(const ProgramOptions& options, const QPalette& desktop)
     MainWindow window(database, *worker);
     window.resize(options.size.value_or(QSize(1280, 800)));
     window.sendMails(options.dataFolder.isEmpty() ? defaultDataFolder()
-                                                  : std::filesystem::path(options.dataFolder.toStdString()));
+                                                  : std::filesystem::path(options.dataFolder.toStdString()),
+                     keyring);
     if (options.dial) window.dialCalls();
     WindowMemory memory(window, window.widget(), memoryFile);
     addViewMenu(*window.menuBar(), memory, memoryFile, theme, desktop);

@@ -131,12 +131,18 @@ void MainWindow::resume()
     leading_.reset();
 }
 
-void MainWindow::sendMails(const std::filesystem::path& dataFolder)
+void MainWindow::sendMails(const std::filesystem::path& dataFolder, Keyring& keyring)
 {
-    mailSettings_ = [dataFolder] { return readMailSettings(mailSettingsFile(), dataFolder); };
-    screens_.mailBy([settings = mailSettings_](const std::shared_ptr<ScreenContext>& context) {
-        return std::make_shared<Mailer>(context, settings);
-    });
+    mailPassword_ = std::make_unique<MailPassword>(keyring);
+    mailSettings_ = [dataFolder, &password = *mailPassword_] {
+        MailSettings settings = readMailSettings(mailSettingsFile(), dataFolder);
+        password.takeIn(settings);
+        return settings;
+    };
+    screens_.mailBy(
+        [settings = mailSettings_, &password = *mailPassword_](const std::shared_ptr<ScreenContext>& context) {
+            return std::make_shared<Mailer>(context, settings, password);
+        });
 }
 
 // The control does not dial. A number that nobody can dial is the operator's to dial by hand.

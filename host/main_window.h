@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/database/database.h"
+#include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
 #include "host/program_options.h"
 #include "host/reconnection.h"
@@ -18,6 +19,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace dn::host {
@@ -37,7 +39,8 @@ public:
 
     /// From now on the control can write mails. To be called ahead of `start`.
     /// @param dataFolder with the outbox, where the user's settings name no server.
-    void sendMails(const std::filesystem::path& dataFolder);
+    /// @param keyring keeps the password of the mail server; outlives the window.
+    void sendMails(const std::filesystem::path& dataFolder, Keyring& keyring);
 
     /// From now on hands the number of each call to the desktop's own telephone program.
     void dialCalls();
@@ -63,6 +66,7 @@ private:
 
     Database& database_;
     Worker worker_;
+    std::unique_ptr<MailPassword> mailPassword_;
     ScreensFactory screens_;
     Reconnection reconnection_;
     ConnectionBar* bar_;

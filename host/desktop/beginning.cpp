@@ -68,7 +68,12 @@ std::optional<StartAnswer> Beginning::remembered(const StartChoice& choice)
         answer.keepPassword = true;
         return answer;
     }
-    const auto typed = askPassword(QString::fromStdString(account), keyring_.answers());
+    const auto typed = askPassword({.title = "Clave de la base de datos",
+                                    .account = QString::fromStdString(account),
+                                    .accepts = "&Entrar",
+                                    .rejects = "C&ambiar…",
+                                    .canKeep = keyring_.answers()},
+                                   nullptr);
     if (!typed) return std::nullopt;
     answer.password = typed->password;
     answer.keepPassword = typed->keep;

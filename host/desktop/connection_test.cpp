@@ -4,7 +4,6 @@
 #include "host/desktop/connection_test.h"
 
 #include "data/error.h"
-#include "host/database/database_choice.h"
 #include "host/database/host_error.h"
 #include "host/database/schema.h"
 
@@ -15,16 +14,18 @@ namespace {
 
 constexpr unsigned patience = 5; // seconds: the operator waits before his screen
 
+} // namespace
+
 DatabaseChoice impatient(DatabaseChoice choice)
 {
-    if (auto* const target = std::get_if<MariadbTarget>(&choice)) {
-        target->connectTimeout = patience;
-        target->readTimeout = patience;
-    }
+    std::visit(
+        [](auto& target) {
+            target.connectTimeout = patience;
+            target.readTimeout = patience;
+        },
+        choice);
     return choice;
 }
-
-} // namespace
 
 QString testConnection(const std::string& connect)
 try {

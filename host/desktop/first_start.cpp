@@ -62,9 +62,12 @@ void FirstStart::build(bool canKeep)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(paragraph("Este programa lleva sus prospectos, sus proyectos y sus llamadas. ¿Con qué datos "
-                                "quiere trabajar? Después le preguntará quién es usted.",
-                                this));
+    QLabel* const greeting =
+        paragraph("Este programa lleva sus prospectos, sus proyectos y sus llamadas. ¿Con qué "
+                  "datos quiere trabajar? Después le preguntará quién es usted.",
+                  this);
+    greeting->setFixedWidth(textWidth); // and with it the window's, whatever shows below
+    layout->addWidget(greeting);
     layout->addWidget(sample_);
     layout->addWidget(explanation("Todo queda en su carpeta y no hace falta instalar nada más. Puede cambiar y "
                                   "borrar lo que quiera.",
@@ -84,7 +87,6 @@ void FirstStart::build(bool canKeep)
     layout->addWidget(result_);
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    result_->setFixedWidth(textWidth);
 }
 
 QWidget* FirstStart::ownFields()
@@ -143,6 +145,7 @@ void FirstStart::fillWith(const StartChoice& choice)
     port_->setValue(choice.database.port);
     name_->setText(choice.database.name);
     text_->setText(choice.database.text);
+    text_->setCursorPosition(0); // the driver, which tells most
     user_->setText(choice.database.user);
 }
 

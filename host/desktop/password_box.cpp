@@ -13,34 +13,34 @@
 
 namespace dn::host {
 
-std::optional<PasswordAnswer> askPassword(const QString& account, bool canKeep)
+std::optional<PasswordAnswer> askPassword(const PasswordQuestion& question, QWidget* over)
 {
-    QDialog box;
+    QDialog box(over);
     box.setObjectName("PedirClave");
-    box.setWindowTitle("Clave de la base de datos");
-    auto* const question =
-        new QLabel("&Clave de " + QString(account).replace(u'&', QLatin1String("&&")) + ":", &box);
+    box.setWindowTitle(question.title);
+    auto* const label =
+        new QLabel("&Clave de " + QString(question.account).replace(u'&', QLatin1String("&&")) + ":", &box);
     auto* const password = new QLineEdit(&box);
     password->setObjectName("txtClave");
     password->setAccessibleName("Clave");
     password->setEchoMode(QLineEdit::Password);
-    question->setBuddy(password);
+    label->setBuddy(password);
     auto* const keep = new QCheckBox("&Guardar la clave en el llavero del escritorio", &box);
     keep->setObjectName("chkGuardar");
-    keep->setVisible(canKeep);
-    keep->setChecked(canKeep);
+    keep->setVisible(question.canKeep);
+    keep->setChecked(question.canKeep);
     auto* const buttons = new QDialogButtonBox(&box);
-    buttons->addButton("&Entrar", QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton("C&ambiar…", QDialogButtonBox::RejectRole);
+    buttons->addButton(question.accepts, QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(question.rejects, QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
     auto* const layout = new QVBoxLayout(&box);
-    for (QWidget* const part : {static_cast<QWidget*>(question), static_cast<QWidget*>(password),
+    for (QWidget* const part : {static_cast<QWidget*>(label), static_cast<QWidget*>(password),
                                 static_cast<QWidget*>(keep), static_cast<QWidget*>(buttons)})
         layout->addWidget(part);
     box.setMinimumWidth(420);
     if (box.exec() != QDialog::Accepted) return std::nullopt;
-    return PasswordAnswer{password->text().toStdString(), canKeep && keep->isChecked()};
+    return PasswordAnswer{password->text().toStdString(), question.canKeep && keep->isChecked()};
 }
 
 } // namespace dn::host

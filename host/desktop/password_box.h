@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 
+class QWidget;
+
 namespace dn::host {
 
 struct PasswordAnswer {
@@ -16,8 +18,16 @@ struct PasswordAnswer {
     bool keep = false; ///< in the keyring
 };
 
-/// @param account whose password it is. @param canKeep whether there is a keyring.
+/// What the window says.
+struct PasswordQuestion {
+    QString title;
+    QString account; ///< whose password it is
+    QString accepts; ///< the captions of the buttons
+    QString rejects;
+    bool canKeep = false; ///< there is a keyring
+};
+
 /// @return nothing when the operator gives up. The window's object name is "PedirClave".
-std::optional<PasswordAnswer> askPassword(const QString& account, bool canKeep);
+std::optional<PasswordAnswer> askPassword(const PasswordQuestion& question, QWidget* over);
 
 } // namespace dn::host

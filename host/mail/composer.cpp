@@ -6,6 +6,7 @@
 #include "host/mail/addresses.h"
 #include "host/mail/attachments.h"
 #include "host/mail/delivery.h"
+#include "host/mail/smtp.h"
 #include "host/screens/boxes.h"
 
 #include <QKeyEvent>
@@ -32,14 +33,6 @@ QString titleOf(const Letter& letter)
     const auto name = letter.fields.find("nombre");
     const bool known = name != letter.fields.end() && !name->second.empty();
     return known ? "Correo: " + QString::fromStdString(name->second) : QString("Correo");
-}
-
-// The style leaves a long caption no room at its sides.
-void caption(QPushButton& button, const QString& text)
-{
-    button.setText(text);
-    const QFontMetrics metrics = button.fontMetrics();
-    button.setMinimumWidth(metrics.size(Qt::TextShowMnemonic, text).width() + 4 * metrics.averageCharWidth());
 }
 
 QString nameOf(const Letter& letter)
@@ -116,7 +109,7 @@ void Composer::buildButtons()
     progress_->setObjectName("Avance");
     progress_->setAccessibleName("Avance del envío");
     sends_->setObjectName("cmdEnviar");
-    caption(*sends_, letter_.settings.toOutbox() ? "&Guardar en la bandeja de salida" : "&Enviar");
+    sends_->setText(letter_.settings.toOutbox() ? "&Guardar en la bandeja de salida" : "&Enviar");
     sends_->setToolTip("Ctrl+Entrar");
     sends_->setAutoDefault(false); // Enter in a line must not send
     cancels_->setObjectName("cmdCancelar");
@@ -196,7 +189,11 @@ bool Composer::validate()
         tell(this, "No se puede enviar: " + QString::fromStdString(letter_.settings.problem));
         return false;
     }
-    if (!validateFields()) return false;
+    return validateFields() && validateSubject() && letter_.password->provide(letter_.settings, this);
+}
+
+bool Composer::validateSubject()
+{
     if (!subject_->text().trimmed().isEmpty()) return true;
     const bool agreed =
         ask(this, "El correo no lleva asunto. ¿Desea enviarlo así?", "&Enviar sin asunto", "&Escribir el asunto");
@@ -269,10 +266,15 @@ void Composer::look()
     showSending(false);
     try {
         ended->result();
+    } catch (const LoginRefused& failure) {
+        letter_.password->refused(letter_.settings);
+        report(this, failure);
+        return;
     } catch (const std::exception& failure) {
         report(this, failure);
         return;
     }
+    letter_.password->accepted(letter_.settings);
     done(Accepted);
 }
 
@@ -284,7 +286,7 @@ void Composer::showSending(bool sends)
     state_->setText(letter_.settings.toOutbox() ? "Guardando…" : "Enviando…");
     state_->setVisible(sends);
     progress_->setVisible(sends);
-    caption(*cancels_, sends ? "&Cancelar el envío" : "&Cancelar");
+    cancels_->setText(sends ? "&Cancelar el envío" : "&Cancelar");
     if (sends) cancels_->setFocus();
 }
 

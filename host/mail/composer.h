@@ -6,6 +6,7 @@
 #pragma once
 
 #include "host/mail/attachments_field.h"
+#include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
 #include "host/mail/message.h"
 #include "host/mail/party_fields.h"
@@ -26,6 +27,7 @@ namespace dn::host {
 /// What the window begins with.
 struct Letter {
     MailSettings settings;
+    MailPassword* password = nullptr; ///< never null, and outlives the window
     PartyFields fields;
     std::vector<Template> templates;
     QString user;       ///< who works
@@ -58,6 +60,7 @@ private:
     void buildButtons();
     void showNotices();
     bool validateFields();
+    bool validateSubject();
     Message compose() const;
     void useTemplate(int index);
     void write(const QString& subject, const QString& body);

@@ -5,7 +5,7 @@
 
 #include "host/mail/addresses.h"
 
-#include <sys/stat.h>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <array>
@@ -51,6 +51,13 @@ std::string stripped(const std::string& text)
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+/// The name ahead of a line's equals sign.
+std::string nameIn(const std::string& line)
+{
+    const bool remark = line.empty() || line.front() == '#' || line.front() == ';' || line.front() == '[';
+    return remark ? std::string() : stripped(line.substr(0, line.find('=')));
+}
+
 bool isKey(const std::string& name)
 {
     return std::any_of(std::begin(keys), std::end(keys), [&](const Key& key) { return name == key.name; });
@@ -64,22 +71,15 @@ Texts readFile(const fs::path& path, std::vector<std::string>& warnings)
     std::string line;
     while (std::getline(file, line)) {
         line = stripped(line);
-        if (line.empty() || line.front() == '#' || line.front() == ';' || line.front() == '[') continue;
         const std::size_t equals = line.find('=');
-        const std::string name = stripped(line.substr(0, equals));
+        const std::string name = nameIn(line);
+        if (name.empty() && equals != 0) continue;
         if (equals != std::string::npos && isKey(name))
             texts[name] = stripped(line.substr(equals + 1));
         else // never the line itself: it may hold the password
             warnings.push_back("En «" + path.string() + "» hay un renglón que no se entiende.");
     }
     return texts;
-}
-
-// Whether others than the owner can read a file.
-bool isOpenToOthers(const fs::path& path)
-{
-    struct stat status {};
-    return ::stat(path.c_str(), &status) == 0 && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0;
 }
 
 int number(const std::string& text, const char* name, int usual, std::vector<std::string>& warnings)
@@ -106,8 +106,7 @@ std::string problemOf(const MailSettings& settings)
     if (url.find('@') != std::string::npos || url.find_first_of(" \t\r\n") != std::string::npos)
         return "La dirección del servidor de correo no lleva usuario, clave ni espacios: tienen su propio "
                "renglón.";
-    if (!settings.tls && url.rfind("smtps://", 0) != 0 && !settings.password.empty() &&
-        !isLoopback(settings.host()))
+    if (!settings.tls && url.rfind("smtps://", 0) != 0 && !settings.user.empty() && !isLoopback(settings.host()))
         return "El usuario y la clave del correo no se envían sin cifrar: quite «tls = no».";
     if (settings.from.empty()) return "Falta la dirección del remitente («from»).";
     return complaintAbout(settings.from);
@@ -132,13 +131,26 @@ fs::path mailSettingsFile()
     return fs::path(variable("HOME")) / ".config" / "dncontacts" / "mail.ini";
 }
 
+bool removePassword(const fs::path& file)
+{
+    std::ifstream before(file, std::ios::binary);
+    QSaveFile after(QString::fromStdString(file.string()));
+    if (!before || !after.open(QIODevice::WriteOnly)) return false;
+    std::string line;
+    while (std::getline(before, line)) {
+        if (nameIn(stripped(line)) == "password") continue;
+        if (!before.eof()) line += '\n';
+        after.write(line.data(), static_cast<qint64>(line.size()));
+    }
+    return !before.bad() && after.commit();
+}
+
 MailSettings readMailSettings(const fs::path& file, const fs::path& dataFolder)
 {
     MailSettings settings;
     Texts texts = readFile(file, settings.warnings);
-    if (texts.contains("password") && isOpenToOthers(file))
-        settings.warnings.push_back("Otros usuarios pueden leer la clave del correo en «" + file.string() +
-                                    "». Ciérrelo con: chmod 600 " + file.string());
+    settings.file = file;
+    settings.openPassword = texts["password"];
     for (const Key& key : keys)
         if (const std::string value = variable(key.variable); !value.empty()) texts[key.name] = value;
     settings.url = texts["url"];

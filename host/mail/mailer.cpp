@@ -55,6 +55,7 @@ void Mailer::Enviar(const std::string& record, const std::string& addresses, con
     reporting(over, [&] {
         Letter letter;
         letter.settings = settings_();
+        letter.password = &password_;
         letter.fields = fieldsOf(context_->database, record, letter.notices);
         letter.fields["usuario"] = user_;
         letter.fields["fecha"] = today().toStdString();

@@ -3,10 +3,12 @@
 
 // The host's mail: what the control asks when the operator writes to a party or looks at what was written.
 //
-//     screens.mailBy([=](const auto& context) { return std::make_shared<Mailer>(context, settings); });
+//     screens.mailBy([=](const auto& context) { return
+//         std::make_shared<Mailer>(context, settings, password); });
 #pragma once
 
 #include "desk/host_objects.h"
+#include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
 #include "host/screens/context.h"
 
@@ -20,8 +22,9 @@ public:
     using Settings = std::function<MailSettings()>;
 
     /// @param settings read anew for each mail, so that a change counts at once.
-    Mailer(std::shared_ptr<ScreenContext> context, Settings settings)
-        : context_(std::move(context)), settings_(std::move(settings))
+    /// @param password what is known of it; outlives this.
+    Mailer(std::shared_ptr<ScreenContext> context, Settings settings, MailPassword& password)
+        : context_(std::move(context)), settings_(std::move(settings)), password_(password)
     {
     }
 
@@ -39,6 +42,7 @@ public:
 private:
     std::shared_ptr<ScreenContext> context_;
     Settings settings_;
+    MailPassword& password_;
     std::string templates_;
     std::string user_;
 };

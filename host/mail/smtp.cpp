@@ -251,6 +251,7 @@ void sendBySmtp(const MailSettings& settings, const Envelope& envelope, const st
     curl_easy_setopt(handle.get(), CURLOPT_MAIL_RCPT, recipients.get());
     const CURLcode code = perform(handle.get());
     if (code == CURLE_ABORTED_BY_CALLBACK) throw SendCancelled(lost("Se canceló el envío.", transfer));
+    if (code == CURLE_LOGIN_DENIED) throw LoginRefused(reason(code, settings, transfer));
     if (code != CURLE_OK) throw HostError(reason(code, settings, transfer));
 }
 

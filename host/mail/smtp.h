@@ -18,8 +18,15 @@ struct Envelope {
     std::vector<std::string> recipients;
 };
 
+/// The server wants another user or another password.
+class LoginRefused : public HostError {
+public:
+    using HostError::HostError;
+};
+
 /// Sends to all recipients or to none: a single one that the server refuses keeps the mail back.
-/// @param text the whole mail. @throws HostError why it did not go out, in words for the operator; SendCancelled.
+/// @param text the whole mail. @throws HostError why it did not go out, in words for the operator; LoginRefused;
+/// SendCancelled.
 void sendBySmtp(const MailSettings& settings, const Envelope& envelope, const std::string& text,
                 SendProgress& progress);
 

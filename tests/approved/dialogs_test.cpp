@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The looks of the nine dialogs, and of the window of the first start.
+// The looks of the nine dialogs, of the boxes, and of the windows that come ahead of the main one.
 
 #include "dialogs/dlg_agendar_contacto.h"
 #include "dialogs/dlg_corregir.h"
@@ -13,10 +13,16 @@
 #include "dialogs/dlg_show.h"
 #include "dialogs/dlg_tools.h"
 #include "host/desktop/first_start.h"
+#include "host/desktop/password_box.h"
+#include "host/waiting_note.h"
+#include "host/worker.h"
 #include "screen/qt/form_view.h"
 #include "screen/qt/guard.h"
+#include "screen/qt/ports.h"
+#include "screen/qt/theme.h"
 #include "tests/approved/approval.h"
 #include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/modal_driver.h"
 #include "tests/support/fake_connection.h"
 #include "tests/support/fake_ports.h"
 
@@ -46,7 +52,6 @@ class DialogLooks : public testing::Test {
 protected:
     DialogLooks()
     {
-        QApplication::setCursorFlashTime(0);
         cnn.onContaining("Agente").gives({"Sys_PK", "Nombre"},
                                          {{whole(7), text("Ana")}, {whole(9), text("Beto")}});
         cnn.onContaining("uf_Interes").gives({"uf_Interes"}, {{text("Silos")}});
@@ -55,11 +60,11 @@ protected:
     }
 
     template <class Dialog>
-    void looks(Dialog& dialog, const char* name)
+    void looks(Dialog& dialog, const char* name, const char* picture = nullptr)
     {
         ports.events.expectModal(name, [&](screen::Form& form) {
             screen::qt::FormView view(form, nullptr, guard);
-            looksAndReads(view, name);
+            looksAndReads(view, picture == nullptr ? name : picture);
             form.closeWindow();
         });
         dialog.Show();
@@ -146,6 +151,82 @@ TEST_F(DialogLooks, of_the_first_start)
     window.fillWith(own);
     window.complain(QStringLiteral("No se pudo abrir la base de datos."));
     looksAndReads(window, "primer-inicio-propia");
+    own.database.odbc = true;
+    own.database.text = "DRIVER={FreeTDS};SERVER=db.example.com;DATABASE=ventas";
+    window.fillWith(own);
+    looksAndReads(window, "primer-inicio-odbc");
+}
+
+TEST_F(DialogLooks, of_a_new_prospect_in_the_dark)
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(schemePalette(screen::qt::Scheme::dark));
+    dialogs::dlgNuevoPros dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgNuevoPros", "dlgNuevoPros-oscuro");
+    QApplication::setPalette(before);
+}
+
+/// Windows that wait for their own end.
+class BoxLooks : public testing::Test {
+protected:
+    void expectLooks(const char* window, const char* name)
+    {
+        operatorAt.expect(window, [name](QWidget& shown) {
+            looksAndReads(shown, name);
+            QTest::keyClick(&shown, Qt::Key_Escape);
+        });
+    }
+
+    ModalDriver operatorAt;
+    screen::qt::QtDialogs boxes;
+};
+
+TEST_F(BoxLooks, of_a_message)
+{
+    expectLooks("MsgBox", "MsgBox");
+    boxes.MsgBox({.prompt = "Error al conectar al servidor.",
+                  .icon = screen::MessageBox::Icon::critical,
+                  .title = "Fuerza de ventas"});
+}
+
+TEST_F(BoxLooks, of_a_question)
+{
+    expectLooks("MsgBox", "MsgBox-pregunta");
+    boxes.MsgBox(
+        {.prompt = "Esta acción pondrá al prospecto seleccionado en estado de Sin interés. ¿Desea continuar?",
+         .buttons = screen::MessageBox::Buttons::yesNo});
+}
+
+TEST_F(BoxLooks, of_a_text_asked_for)
+{
+    expectLooks("InputBox", "InputBox");
+    boxes.InputBox("Motivo:");
+}
+
+TEST_F(BoxLooks, of_who_works)
+{
+    expectLooks("QuienTrabaja", "QuienTrabaja");
+    EXPECT_EQ(host::askWhoWorks({{4, "Diana Marroquín Solís"}, {7, "Ana"}, {9, "Beto Ñandú"}}, 7), std::nullopt);
+}
+
+TEST_F(BoxLooks, of_a_password_asked_for)
+{
+    expectLooks("PedirClave", "PedirClave");
+    host::askPassword({.title = "Clave de la base de datos",
+                       .account = "ana@db.example.com:3306/ventas",
+                       .accepts = "&Entrar",
+                       .rejects = "C&ambiar…",
+                       .canKeep = true},
+                      nullptr);
+}
+
+TEST_F(BoxLooks, of_the_note_that_asks_to_wait)
+{
+    host::WaitingNote note;
+    note.tell("Creando las tablas…");
+    for (QWidget* const window : QApplication::topLevelWidgets())
+        if (window->objectName() == "NotaDeEspera" && window->isVisible()) looksAndReads(*window, "NotaDeEspera");
 }
 
 } // namespace

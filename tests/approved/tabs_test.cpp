@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The looks of the tabs that show a party in hand, of a call, and of the themes. Database and clock are fakes, so
-// that nothing in a picture depends on the day.
+// The looks of the five tabs, of a call, and of the themes. Database and clock are fakes, so that nothing in a
+// picture depends on the day.
 
 #include "screen/qt/guard.h"
 #include "screen/qt/panel_views.h"
 #include "screen/qt/theme.h"
 #include "tests/approved/approval.h"
+#include "tests/directories/fixture.h"
 #include "tests/screen/qt/accessible_tree.h"
 #include "tests/support/project_fixture.h"
 
@@ -22,7 +23,6 @@ class Looks : public ProjectTest {
 protected:
     Looks()
     {
-        QApplication::setCursorFlashTime(0);
         prospects(
             {prospect(12, {{"uf_Nombre", text("Luz Ñúñez")},
                            {"uf_EMail", text("luz@example.com")},
@@ -68,6 +68,24 @@ protected:
                            {whole(7), text("Contacto"), whole(13), date("2026-03-14 12:30:00"), text("Mario Paz"),
                             text(""), text(""), text("")}});
     }
+    void fillDirectories()
+    {
+        const Cell none = text("");
+        cnn.onContaining("FROM Persona")
+            .gives(DirectoryColumns::persons(),
+                   {{whole(21), text("P-0021"), text("Luz"), text("Ñúñez"), text("Díaz"), text("luz@example.com"),
+                     none, none, text("961 111 2233 ext. 204"), text("55 1234 5678"),
+                     text("Av. Central Poniente 1240, local 3"), text("Centro"), text("29000")},
+                    {whole(22), text("P-0022"), text("María de los Ángeles Guadalupe"), text("Paz"), none, none,
+                     none, text("961 222 3344"), none, none, none, none, none}});
+        cnn.onContaining("FROM Organizacion")
+            .gives(DirectoryColumns::organisations(),
+                   {{whole(11), text("O-0011"), text("Silos del Sureste"), text("Silos"), text("961 111 2233"),
+                     text("961 111 2234"), none, none, text("ventas@silos.example"), text("www.silos.example"),
+                     text("Av. Central Poniente 1240"), text("Centro"), text("29000"), text("México")},
+                    {whole(12), text("O-0012"), text("Comercializadora de Molinos y Graneros"), none, none, none,
+                     none, none, none, none, none, none, none, none}});
+    }
     ~Looks() override { QApplication::setPalette(schemePalette(screen::qt::Scheme::light)); }
 
     void opensTab(int tab)
@@ -77,7 +95,7 @@ protected:
         elements().top.lblItem(tab).click();
     }
 
-    void looks(const char* name)
+    void looks(const char* name, Scales scales = Scales::one)
     {
         screen::qt::ControlView view(control.root(), nullptr, guard);
         view.resize(1100, 560);
@@ -86,7 +104,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
         QApplication::processEvents();
         QApplication::processEvents(); // the lists publish their rows once a turn
-        looksAsApproved(view, name);
+        looksAsApproved(view, name, scales);
         EXPECT_THAT(cutOff(view), testing::IsEmpty()) << name;
         EXPECT_THAT(unnamed(view), testing::IsEmpty()) << name;
         EXPECT_THAT(unreached(view), testing::IsEmpty()) << name;
@@ -98,7 +116,7 @@ protected:
 TEST_F(Looks, of_the_prospects)
 {
     opensTab(desk::prospectos);
-    looks("prospectos");
+    looks("prospectos", Scales::oneAndThree);
 }
 
 TEST_F(Looks, of_the_projects)
@@ -111,6 +129,20 @@ TEST_F(Looks, of_the_day)
 {
     opensTab(desk::hoy);
     looks("hoy");
+}
+
+TEST_F(Looks, of_the_organisations)
+{
+    fillDirectories();
+    opensTab(desk::organizaciones);
+    looks("organizaciones");
+}
+
+TEST_F(Looks, of_the_persons)
+{
+    fillDirectories();
+    opensTab(desk::contactos);
+    looks("contactos");
 }
 
 TEST_F(Looks, of_a_call)
@@ -139,6 +171,16 @@ TEST_F(Looks, of_the_prospects_in_high_contrast)
     opensTab(desk::prospectos);
     looks("prospectos-contraste");
 }
+
+TEST_F(Looks, of_the_persons_in_high_contrast_on_white)
+{
+    QApplication::setPalette(schemePalette(screen::qt::Scheme::blackOnWhite));
+    fillDirectories();
+    opensTab(desk::contactos);
+    looks("contactos-contraste-claro");
+}
+
+TEST(Approval, is_held_in_the_fonts_of_the_pictures) { EXPECT_TRUE(hasApprovedFonts()) << "run it by ctest"; }
 
 TEST(Approval, sees_a_letter_and_no_soft_edge)
 {

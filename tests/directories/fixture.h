@@ -12,32 +12,38 @@
 
 namespace dn::tests {
 
+/// The columns that the statements give.
+struct DirectoryColumns {
+    static std::vector<std::string> persons()
+    {
+        return {"Sys_PK",   "Codigo",      "Nombre",    "Apellido1", "Apellido2", "EMail",    "EMail2",
+                "Tel_Casa", "Tel_Trabajo", "Tel_Movil", "Domicilio", "Colonia",   "CodPostal"};
+    }
+    static std::vector<std::string> organisations()
+    {
+        return {"Sys_PK", "Codigo", "Nombre",  "NombreComercial", "Tel1",    "Tel2",      "Tel3",
+                "Fax",    "EMail",  "WebSite", "Domicilio",       "Colonia", "CodPostal", "Nacionalidad"};
+    }
+};
+
 class DirectoryTest : public ControlTest {
 protected:
     /// The rows that every statement of a directory gives from now on; columns as the statement names them.
     void persons(std::vector<std::vector<Cell>> rows)
     {
-        cnn.onContaining("FROM Persona").gives(personColumns(), std::move(rows));
+        cnn.onContaining("FROM Persona").gives(DirectoryColumns::persons(), std::move(rows));
     }
     void organisations(std::vector<std::vector<Cell>> rows)
     {
-        cnn.onContaining("FROM Organizacion").gives(organisationColumns(), std::move(rows));
-    }
-
-    static std::vector<std::string> personColumns()
-    {
-        return {"Sys_PK",   "Codigo",      "Nombre",    "Apellido1", "Apellido2", "EMail",    "EMail2",
-                "Tel_Casa", "Tel_Trabajo", "Tel_Movil", "Domicilio", "Colonia",   "CodPostal"};
-    }
-    static std::vector<std::string> organisationColumns()
-    {
-        return {"Sys_PK", "Codigo", "Nombre",  "NombreComercial", "Tel1",    "Tel2",      "Tel3",
-                "Fax",    "EMail",  "WebSite", "Domicilio",       "Colonia", "CodPostal", "Nacionalidad"};
+        cnn.onContaining("FROM Organizacion").gives(DirectoryColumns::organisations(), std::move(rows));
     }
 
     /// A person whose cells are the key behind the name of their column: "Codigo-4".
-    static std::vector<Cell> person(std::int64_t key) { return entry(key, personColumns()); }
-    static std::vector<Cell> organisation(std::int64_t key) { return entry(key, organisationColumns()); }
+    static std::vector<Cell> person(std::int64_t key) { return entry(key, DirectoryColumns::persons()); }
+    static std::vector<Cell> organisation(std::int64_t key)
+    {
+        return entry(key, DirectoryColumns::organisations());
+    }
 
     /// All cells of a row from left to right.
     static std::vector<std::string> cells(const screen::ListItem& row)

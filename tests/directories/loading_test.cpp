@@ -191,7 +191,8 @@ TEST_F(DirectoryLoading, rows_read_ahead_of_a_failure_stay)
     start(7, false);
     persons({person(8), person(9)});
     open(desk::contactos);
-    cnn.onContaining("FROM Persona").gives(Rows{personColumns(), {person(1), person(2), person(3)}, 2});
+    cnn.onContaining("FROM Persona")
+        .gives(Rows{DirectoryColumns::persons(), {person(1), person(2), person(3)}, 2});
     leaveMarks();
     ports.dialogs.expectBox("Lost connection to server during query");
     elements().top.lblItem(desk::contactos).click();
@@ -206,7 +207,7 @@ TEST_F(DirectoryLoading, rows_of_organisations_read_ahead_of_a_failure_stay)
     organisations({organisation(8)});
     open(desk::organizaciones);
     cnn.onContaining("FROM Organizacion")
-        .gives(Rows{organisationColumns(), {organisation(1), organisation(2), organisation(3)}, 2});
+        .gives(Rows{DirectoryColumns::organisations(), {organisation(1), organisation(2), organisation(3)}, 2});
     leaveMarks();
     ports.dialogs.expectBox("Lost connection to server during query");
     elements().top.lblItem(desk::organizaciones).click();

@@ -9,6 +9,8 @@
 #include <QPainterPath>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace dn::screen::qt {
 namespace {
 
@@ -189,6 +191,17 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const
+{
+    constexpr int beside = 12; // each side of a caption; a picture takes the place of one
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && button != nullptr && button->icon.isNull())
+        size.setWidth(std::max(size.width(), contents.width() + 2 * beside));
+    return size;
 }
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -5,7 +5,6 @@
 
 #include "host/database/database_choice.h"
 #include "host/database/odbc_text.h"
-#include "host/desktop/connection_test.h"
 #include "host/desktop/start_choice.h"
 
 #include <QFile>
@@ -16,9 +15,6 @@
 
 namespace dn::host {
 namespace {
-
-using testing::HasSubstr;
-using testing::Not;
 
 OwnDatabase mariadb()
 {
@@ -90,20 +86,6 @@ TEST(StartChoice, that_a_file_does_not_tell_is_asked_for_again)
         file.write(text);
         file.close();
         EXPECT_EQ(readStartChoice(path), std::nullopt) << text;
-    }
-}
-
-TEST(ConnectionTest, tells_what_is_wrong_and_no_password)
-{
-    OwnDatabase nowhere = mariadb();
-    nowhere.server = "127.0.0.1";
-    nowhere.port = 1;
-    try {
-        testConnection(connectText(nowhere, "muysecreta"));
-        FAIL() << "nobody listens there";
-    } catch (const std::exception& failure) {
-        EXPECT_THAT(failure.what(), HasSubstr("No se pudo abrir la base de datos «ventas año»"));
-        EXPECT_THAT(failure.what(), Not(HasSubstr("muysecreta")));
     }
 }
 

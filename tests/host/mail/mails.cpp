@@ -34,7 +34,8 @@ void Mails::SetUp()
     static_cast<void>(factory.newCorreoHost());
     keepsMailHistory(shared->database); // opens the connection, so that tests count their own statements alone
     factory.mailBy([this](const std::shared_ptr<ScreenContext>& context) {
-        return std::make_shared<Mailer>(context, [this] { return settings; });
+        return std::make_shared<Mailer>(
+            context, [this] { return settings; }, password);
     });
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/mail/mailer.h"
+#include "tests/host/desktop/fake_keyring.h"
 #include "tests/host/mail/mail_server.h"
 #include "tests/host/screens/fixture.h"
 
@@ -31,6 +32,8 @@ protected:
     std::vector<std::filesystem::path> outbox() const;
 
     MailSettings settings;
+    FakeKeyring keyring;
+    MailPassword password{keyring};
     std::string templates = "R:";
     Folder folder;
 };

@@ -47,7 +47,7 @@ TEST_F(ProgramWindow, hands_the_users_templates_on_behind_the_binding_which_sets
 {
     const Variable set("DNCONTACTS_MAIL_TEMPLATES", folder.path().string());
     folder.holds("Bienvenida.txt", "Estimada {nombre}:");
-    window.sendMails(folder.path());
+    window.sendMails(folder.path(), keyring);
     window.start(desk::prospectos);
     EXPECT_EQ(window.control().TemplatePath(), folder.path().string());
     operatorAt.expect("Enviar", [](QWidget& mail) {
@@ -67,9 +67,20 @@ TEST_F(ProgramWindow, hands_the_users_templates_on_behind_the_binding_which_sets
 
 TEST_F(ProgramWindow, without_a_folder_leaves_the_one_of_the_binding)
 {
-    window.sendMails(folder.path());
+    window.sendMails(folder.path(), keyring);
     window.start(desk::prospectos);
     EXPECT_EQ(window.control().TemplatePath(), "R:");
+}
+
+TEST_F(ProgramWindow, takes_a_password_out_of_the_users_file_when_it_starts)
+{
+    std::filesystem::create_directory(folder.path() / "dncontacts");
+    const auto file =
+        folder.holds("dncontacts/mail.ini", "url = smtps://correo.example.com\nuser = ana\npassword = secreto\n");
+    window.sendMails(folder.path(), keyring);
+    window.start(desk::prospectos);
+    EXPECT_EQ(contentOf(file), "url = smtps://correo.example.com\nuser = ana\n");
+    EXPECT_THAT(keyring.kept, testing::ElementsAre(testing::Pair("smtp:ana@correo.example.com", "secreto")));
 }
 
 TEST_F(ProgramWindow, that_sends_no_mails_has_none_to_write)

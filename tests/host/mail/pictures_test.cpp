@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A picture of each mail window with something in it, in the folder "pantallas" below the working folder, for
-// whoever wants to look at them. That each one shows every text in full is asserted here.
+// A picture of each mail window with something in it, held against the approved one and left in the folder
+// "pantallas" below the working folder, for the documents. That each one shows every text in full is asserted too.
 
 #include "host/mail/attachments_field.h"
+#include "tests/approved/approval.h"
 #include "tests/host/mail/mails.h"
 
 #include <QDir>
@@ -17,6 +18,12 @@ namespace {
 class MailPictures : public Mails {
 protected:
     static void takes(QWidget& window, const char* suffix = "")
+    {
+        looks(window, suffix);
+        dn::tests::looksAsApproved(window, window.objectName() + suffix);
+    }
+    /// Without a look at the approved picture.
+    static void looks(QWidget& window, const char* suffix)
     {
         QDir().mkpath("pantallas");
         QTest::qWait(0);
@@ -57,9 +64,9 @@ TEST_F(MailPictures, of_each_window)
     }));
     settings.url.clear();
     settings.outbox = "/home/ana/.local/share/dncontacts/bandeja-de-salida";
-    settings.warnings = {
-        "Otros usuarios pueden leer la clave del correo en «/home/ana/.config/dncontacts/mail.ini». "
-        "Ciérrelo con: chmod 600 /home/ana/.config/dncontacts/mail.ini"};
+    settings.warnings = {"La clave del correo está escrita en «/home/ana/.config/dncontacts/mail.ini», a la vista "
+                         "de quien abra ese "
+                         "archivo. No hace falta: borre su renglón."};
     EXPECT_FALSE(writes([&](QWidget& window) {
         types(window, "Para", "maria");
         expectQuestion("no lleva asunto", "Escribir el asunto");
@@ -81,7 +88,7 @@ TEST_F(MailPictures, of_a_mail_on_its_way)
         types(window, "Asunto", "Su cotización");
         types(window, "Estimada María:");
         dn::tests::pressButton(window, "Enviar");
-        takes(window, "-enviando");
+        looks(window, "-enviando"); // its bar moves
         expectNotice("Se canceló");
         dn::tests::pressButton(window, "Cancelar el envío");
         waitUntilItCameBack(window);

@@ -11,6 +11,7 @@ met fewer kinds of controls than a window of this program has. It runs on the sy
 """
 import os
 import re
+import signal
 import subprocess
 import sys
 import time
@@ -18,7 +19,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402  (the version comes first)
+from gi.repository import Atspi, GLib  # noqa: E402  (the version comes first)
 
 PATIENCE = 30  # seconds
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
@@ -34,7 +35,10 @@ EXPECTED = {ROLE.PUSH_BUTTON, ROLE.TEXT, ROLE.COMBO_BOX, ROLE.TABLE, ROLE.FRAME,
 def wait(what, condition):
     deadline = time.monotonic() + PATIENCE
     while True:
-        result = condition()
+        try:
+            result = condition()
+        except GLib.Error:  # what was looked at has gone meanwhile
+            result = None
         if result:
             return result
         if time.monotonic() > deadline:
@@ -89,6 +93,17 @@ def press(window, name):
         raise RuntimeError("cannot be pressed: " + name)
 
 
+def end(process):
+    """Ends it with what it started in its own session: the launcher leaves its bus behind."""
+    if process.poll() is not None:
+        return
+    try:
+        os.killpg(process.pid, signal.SIGKILL)
+    except ProcessLookupError:  # it has no group of its own
+        process.kill()
+    process.wait()
+
+
 def main():
     parting = sys.argv.index("--", 1)
     command, tabs = sys.argv[1:parting], sys.argv[parting + 1:]
@@ -99,7 +114,8 @@ def main():
     os.close(write)
     try:
         os.environ["DISPLAY"] = ":" + os.read(read, 16).decode().strip()
-        started.append(subprocess.Popen([LAUNCHER, "--launch-immediately"], stderr=subprocess.DEVNULL))
+        started.append(subprocess.Popen([LAUNCHER, "--launch-immediately"], stderr=subprocess.DEVNULL,
+                                        start_new_session=True))
         program = subprocess.Popen(command, env={**os.environ, "QT_QPA_PLATFORM": "xcb",
                                                  "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         started.append(program)
@@ -107,7 +123,7 @@ def main():
         faults, met = [], set()
         for tab in tabs:
             press(window, tab)
-            faults += examine(window, tab, met)
+            faults += wait(tab, lambda place=tab: (examine(window, place, met),))[0]
         missing = EXPECTED - met
         if missing:
             faults.append("never met: " + ", ".join(role.value_nick for role in missing))
@@ -119,9 +135,7 @@ def main():
         return 99
     finally:
         for process in reversed(started):
-            if process.poll() is None:
-                process.kill()
-                process.wait()
+            end(process)
 
 
 sys.exit(main())

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What the program's own window adds to the control: the menu with the export of the mail lists.
+// What the program's own window adds to the control, and how both look together.
 
+#include "desk/tab_strip.h"
 #include "host/main_window.h"
+#include "tests/approved/approval.h"
 #include "tests/host/screens/fixture.h"
 #include "tests/support/maria_server.h"
 
@@ -67,6 +69,16 @@ protected:
     Database database = openDatabase(onTheSharedServer());
     MainWindow window{database, Worker{agent, false, "eva"}};
 };
+
+TEST_F(ProgramWindow, looks_as_approved)
+{
+    window.resize(1000, 480);
+    window.show();
+    window.start(desk::contactos);
+    QApplication::processEvents();
+    QApplication::processEvents(); // the lists publish their rows once a turn
+    dn::tests::looksAsApproved(window, "VentanaPrincipal");
+}
 
 TEST_F(ProgramWindow, names_the_export_in_its_menu)
 {

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A picture of each window with something in it, in the folder "pantallas" below the working folder, for whoever
-// wants to look at them. That each one shows every text in full is asserted here.
+// A picture of each window with something in it, held against the approved one and left in the folder "pantallas"
+// below the working folder, for the documents. That each one shows every text in full is asserted here too.
 
+#include "tests/approved/approval.h"
 #include "tests/host/screens/projects_at_work.h"
 
 #include <QCheckBox>
@@ -43,11 +44,14 @@ protected:
             "* 12500.5, '2026-01-10' + INTERVAL seq DAY FROM seq_1_to_7");
     }
 
-    static void takes(QWidget& window)
+    /// @param compared not where a line has the button that empties it: that fades, and nobody can ask when it is
+    /// done.
+    static void takes(QWidget& window, bool compared = true)
     {
         QDir().mkpath("pantallas");
         QTest::qWait(0);
         EXPECT_TRUE(window.grab().save("pantallas/" + window.objectName() + ".png"));
+        if (compared) dn::tests::looksAsApproved(window, window.objectName());
         for (const QPushButton* button : window.findChildren<QPushButton*>())
             EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width()) << name(*button);
         for (const QLabel* label : window.findChildren<QLabel*>())
@@ -99,7 +103,7 @@ TEST_F(Pictures, of_each_window)
         types(window, "Monto", "125,000");
         picks(window, "Temperatura", "Tibio");
         picks(window, "Color", "Verde");
-        takes(window);
+        takes(window, false);
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     newProject(0, ana);
@@ -136,7 +140,7 @@ TEST_F(Pictures, of_what_is_wrong)
         server().execute("UPDATE Persona SET Puesto = 'Gerente', Colonia = 'Sur' WHERE Sys_PK = 21");
         pressButton(window, "Aceptar");
         window.setObjectName("EditarPersonaEnDuda");
-        takes(window);
+        takes(window, false);
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     expectNotice("Otra persona");

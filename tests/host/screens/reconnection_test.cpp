@@ -6,6 +6,7 @@
 #include "host/database/schema.h"
 #include "host/main_window.h"
 #include "shell/ctr_dn_contacts.h"
+#include "tests/approved/approval.h"
 #include "tests/host/screens/fixture.h"
 #include "tests/support/maria_server.h"
 
@@ -102,6 +103,16 @@ protected:
     {
         list.clickRow(static_cast<std::size_t>(list.ListItems()(key).Index()) - 1);
     }
+    /// Other texts in the bar, for a picture that tells nothing of this machine and this second.
+    void showsInTheBar(const char* text, const char* reason)
+    {
+        auto& first = in<QLabel>("lblConexion");
+        do {
+            first.setText(text);
+            in<QLabel>("lblMotivo").setText(reason);
+            QApplication::processEvents();
+        } while (first.text() != text); // it counts the seconds
+    }
     /// A picture in the folder "pantallas" below the working folder. Nothing in the bar is cut off.
     void takes(const char* name)
     {
@@ -180,10 +191,15 @@ TEST_F(LosingTheServer, gives_back_what_a_list_that_came_out_empty_had_selected)
 TEST_F(LosingTheServer, waits_for_its_time_or_for_the_button)
 {
     opens(desk::prospectos, {0s, 60s});
+    window->resize(960, 480);
     server->kill();
     ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
     EXPECT_THAT(in<QLabel>("lblMotivo").text().toStdString(),
                 AllOf(HasSubstr("No se pudo abrir la base de datos"), testing::Not(HasSubstr("clave-de-prueba"))));
+    showsInTheBar(
+        "Se perdió la conexión con la base de datos: lo que haga ahora no se guarda. Nuevo intento en 60 s.",
+        "No se pudo abrir la base de datos «ventas» en db.example.com:3306, usuario ana.");
+    dn::tests::looksAsApproved(in("BarraDeConexion"), "BarraDeConexion");
     takes("BarraPerdida");
     clicks("cmdReconectar");
     EXPECT_THAT(bar(), HasSubstr("Reconectando…"));

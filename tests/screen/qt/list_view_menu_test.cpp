@@ -11,6 +11,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
+#include <QPointer>
 #include <QScrollBar>
 
 namespace dn::tests {
@@ -163,6 +164,48 @@ TEST_F(ListMenuTest, copies_the_columns_as_they_stand)
     table().horizontalHeader()->moveSection(2, 0);
     QTest::keyClick(&table(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(copied(), "c4\t4\tb4");
+}
+
+TEST_F(ListMenuTest, sorts_by_the_column_that_is_chosen)
+{
+    opens();
+    const auto* const columns = menuOf(2).findChild<QMenu*>();
+    ASSERT_NE(columns, nullptr);
+    EXPECT_THAT(entries(*columns), ElementsAre("«Uno»", "«Dos»", "«Tres»"));
+    entry(*columns, "«Dos»").trigger();
+    entry(*columns, "«Uno»").trigger();
+    EXPECT_THAT(headers, ElementsAre(2, 1));
+    wires.clear();
+    EXPECT_THROW(entry(menuOf(2), "&Ordenar por"), std::logic_error) << "nobody sorts this list";
+}
+
+TEST_F(ListMenuTest, shows_each_commands_picture_and_colour)
+{
+    call.Picture("call");
+    opens();
+    EXPECT_FALSE(entry(menuOf(2), "&Llamar").icon().isNull());
+    const QImage swatch = entry(menuOf(2), "Rojo && más").icon().pixmap(16).toImage();
+    ASSERT_FALSE(swatch.isNull());
+    EXPECT_EQ(swatch.pixelColor(1, 1), QColor(Qt::red));
+}
+
+TEST_F(ListMenuTest, tells_the_keys_without_taking_them)
+{
+    opens();
+    const QMenu& menu = menuOf(2);
+    EXPECT_EQ(entry(menu, "Copiar el renglón").shortcut(), QKeySequence(QKeySequence::Copy));
+    for (const char* text : {"&Llamar", "Copiar el renglón"})
+        EXPECT_EQ(entry(menu, text).shortcutContext(), Qt::WidgetShortcut) << text;
+}
+
+TEST_F(ListMenuTest, shows_where_the_pointer_is_and_goes_when_it_is_closed)
+{
+    opens();
+    const QPointer<QMenu> menu = &menuOf(2);
+    EXPECT_TRUE(menu->isVisible());
+    EXPECT_EQ(menu->pos(), table().viewport()->mapToGlobal(at(2, 1)));
+    menu->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.isNull(); }));
 }
 
 TEST_F(ListMenuTest, the_menu_key_opens_it_below_the_selected_row)
