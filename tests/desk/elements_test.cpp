@@ -6,6 +6,7 @@
 
 #include "desk/elements.h"
 #include "desk/tab_strip.h"
+#include "tests/support/approved_text.h"
 #include "tests/support/element_tree.h"
 #include "tests/support/screen_design.h"
 
@@ -304,7 +305,7 @@ TEST(ElementOrder, puts_the_call_and_the_panels_of_the_tabs_before_what_they_cov
 TEST(ScreenDesign, is_the_approved_one)
 {
     Elements elements;
-    tests::expectAsDesigned(elements.control, "desk/design/ctrDnContacts.txt");
+    tests::expectApproved(tests::designOf(elements.control), "desk/design/ctrDnContacts.txt");
 }
 
 TEST(OtherCaptions, are_as_designed)

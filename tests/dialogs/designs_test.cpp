@@ -13,6 +13,7 @@
 #include "dialogs/dlg_sel_agente.h"
 #include "dialogs/dlg_show.h"
 #include "dialogs/dlg_tools.h"
+#include "tests/support/approved_text.h"
 #include "tests/support/fake_connection.h"
 #include "tests/support/fake_ports.h"
 #include "tests/support/screen_design.h"
@@ -38,7 +39,7 @@ protected:
     void isAsDesigned(Dialog& dialog, const char* name)
     {
         ports.events.expectModal(name, [&](screen::Form& form) {
-            expectAsDesigned(form, std::string("dialogs/design/") + name + ".txt");
+            expectApproved(designOf(form), std::string("dialogs/design/") + name + ".txt");
             form.closeWindow();
         });
         dialog.Show();

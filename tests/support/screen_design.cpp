@@ -15,11 +15,7 @@
 #include "screen/text_box.h"
 #include "screen/timer.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <iomanip>
 #include <optional>
 #include <sstream>
@@ -213,19 +209,6 @@ std::string designOf(screen::Container& screen)
     Design design;
     design.add(screen, 0);
     return design.text();
-}
-
-void expectAsDesigned(screen::Container& screen, const std::string& file)
-{
-    const std::string path = std::string(DN_SOURCE_DIR "/tests/") + file;
-    if (std::getenv("DN_APPROVE_DESIGNS") != nullptr) {
-        std::ofstream(path) << designOf(screen);
-        FAIL() << "written anew: " << path;
-    }
-    std::ifstream approved(path);
-    ASSERT_TRUE(approved) << path;
-    const std::string text((std::istreambuf_iterator<char>(approved)), std::istreambuf_iterator<char>());
-    EXPECT_EQ(designOf(screen), text) << path;
 }
 
 } // namespace dn::tests

@@ -15,8 +15,4 @@ namespace dn::tests {
 /// The container and all that lies in it. What is as in any new element is left out.
 std::string designOf(screen::Container& screen);
 
-/// Compares a screen with its file under `tests`, "desk/design/control.txt". With DN_APPROVE_DESIGNS set the file
-/// is written anew instead, and the test fails, so that nobody leaves it set.
-void expectAsDesigned(screen::Container& screen, const std::string& file);
-
 } // namespace dn::tests

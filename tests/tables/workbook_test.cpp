@@ -6,6 +6,7 @@
 #include "tables/workbook.h"
 
 #include "base/runtime_error.h"
+#include "tests/support/approved_text.h"
 #include "tests/support/table_files.h"
 
 #include <gmock/gmock.h>
@@ -71,6 +72,19 @@ TEST_F(WorkbookFile, holds_what_programs_insist_on)
     EXPECT_EQ(kinds[0x00FD], 5) << "LABELSST: an empty cell has none";
     EXPECT_EQ(kinds[0x0809], 2) << "BOF";
     EXPECT_EQ(kinds[0x000A], 2) << "EOF";
+}
+
+// What programs of others read well, tests/tables/readers. The bytes are no matter of taste: none changes unseen.
+TEST_F(WorkbookFile, has_the_approved_bytes)
+{
+    const MadeTable table({{"Nombre", 200}, {"Correos", 150}},
+                          {{"Ana Ñúñez", "a@x"}, {"", "b@x"}, {"日本 😀", ""}});
+    expectApproved(hexDump(written(table)), "tables/approved/small.xls.txt");
+    const MadeTable further({{"N", 50}}, 65'536, [](std::size_t, std::size_t) { return "x"; });
+    const std::string file = written(further);
+    const std::size_t directory = headerBytes + 512 * number32(file, 48);
+    expectApproved(hexDump(file.substr(0, 2048)) + hexDump(file.substr(directory - 1024, 1536)),
+                   "tables/approved/two_sheets.xls.txt"); // beginning, second sheet and directory
 }
 
 TEST_F(WorkbookFile, allocates_every_sector_once)
