@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <initializer_list>
 #include <map>
 #include <utility>
 
@@ -163,13 +162,16 @@ TEST_F(WorkbookFile, has_both_halves_of_a_character_in_one_record)
 TEST_F(WorkbookFile, allocates_every_sector_once)
 {
     // The last but one takes more than the header's index, the last more than one list beyond it.
-    for (const auto& [rows, wide] : std::initializer_list<std::pair<std::size_t, std::size_t>>{
-             {0, 1}, {1, 1}, {127, 180}, {5'000, 180}, {260, 30'000}, {700, 30'000}}) {
+    std::vector<std::pair<std::size_t, std::size_t>> sizes{{0, 1},       {1, 1},        {127, 180},
+                                                           {5'000, 180}, {260, 30'000}, {700, 30'000}};
+    for (std::size_t sector = 0; sector < 20; ++sector) // over the edge at which the table takes one sector more
+        sizes.emplace_back(2, 30'000 + 256 * sector);
+    for (const auto& [rows, wide] : sizes) {
         const std::string file =
             written(MadeTable({{"Nombre", 200}}, rows, [bytes = wide](std::size_t row, std::size_t) {
                 return std::to_string(row) + std::string(bytes, 'x');
             }));
-        const std::uint32_t tables = number32(file, 44);
+        const std::uint32_t tableSectors = number32(file, 44);
         std::vector<std::uint32_t> places;
         for (std::size_t i = 0; i < 109; ++i)
             places.push_back(number32(file, 76 + 4 * i));
@@ -178,7 +180,7 @@ TEST_F(WorkbookFile, allocates_every_sector_once)
             for (std::size_t n = 0; n < 127; ++n)
                 places.push_back(number32(file, 512 + list * 512 + 4 * n));
         places.erase(std::remove(places.begin(), places.end(), 0xFFFFFFFFU), places.end());
-        ASSERT_EQ(places.size(), tables);
+        ASSERT_EQ(places.size(), tableSectors);
         std::vector<std::uint32_t> next;
         for (const std::uint32_t place : places)
             for (std::size_t n = 0; n < 128; ++n)
@@ -190,7 +192,7 @@ TEST_F(WorkbookFile, allocates_every_sector_once)
         const std::uint32_t directory = number32(file, 48);
         EXPECT_EQ(length * 512, (number32(file, 512 + directory * 512 + 128 + 120) + 511) / 512 * 512);
         EXPECT_EQ(next[directory], 0xFFFFFFFEU);
-        EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFDU), static_cast<std::ptrdiff_t>(tables));
+        EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFDU), static_cast<std::ptrdiff_t>(tableSectors));
         EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFFU),
                   static_cast<std::ptrdiff_t>(next.size() - (file.size() / 512 - 1)));
     }
