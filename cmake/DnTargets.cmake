@@ -29,8 +29,9 @@ if(DN_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 if(DN_COVERAGE)
-    add_compile_options(--coverage)
-    add_link_options(--coverage)
+    # clang's counts, by what the source says: scripts/coverage reads them
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+    add_link_options(-fprofile-instr-generate)
 endif()
 
 # dn_configure(TARGET): warnings and include roots. Sources include each other from the root of their tree

@@ -83,6 +83,8 @@ TEST(ParseIso, RefusesEverythingElse)
                              "2026-01-02 10",
                              "2026-01-02 10:00:00.",
                              "2026-01-02 10:00:00.x",
+                             "2026-01-02 10:00:00.5-",
+                             "10:",
                              "2026-01-02 10:00:00 x",
                              "2026-01-02x10:00",
                              "838:59:59",
@@ -144,6 +146,15 @@ TEST(DaysBetween, CountsDatesAndNotHours)
     EXPECT_EQ(daysBetween(moment(1970, 1, 1), moment(2000, 3, 1)), 11'017);
     EXPECT_EQ(daysBetween(moment(2026, 5, 5), moment(2026, 5, 5, 12)), 0);
     EXPECT_EQ(daysBetween(moment(1, 1, 1), moment(9999, 12, 31)), 3'652'058);
+}
+
+// The leap day of the year 0 is the last one of a cycle that begins below zero.
+TEST(Calendar, GoesBackBeyondTheYear0)
+{
+    EXPECT_EQ(daysBetween(moment(0, 1, 1), moment(0, 3, 1)), 60);
+    EXPECT_EQ(moment(0, 3, 1).plusDays(-1), moment(0, 2, 29));
+    EXPECT_EQ(moment(0, 1, 1).plusDays(-1), moment(-1, 12, 31));
+    EXPECT_EQ(daysBetween(moment(-400, 1, 1), moment(0, 1, 1)), 146'097);
 }
 
 // Every day of four centuries, each one behind the day ahead of it.

@@ -38,6 +38,14 @@ TEST(FormatDate, NamesTheMonthsInSpanish)
     }
 }
 
+TEST(FormatDate, HasNoNameForAMonthThatIsNone)
+{
+    EXPECT_EQ(formatDate(read("05:06:07"), "dd-mmm-yyyy"), "00--0000");
+    DateTime t = read("2026-01-02");
+    t.month = 13;
+    EXPECT_EQ(formatDate(t, "dd-mmm-yyyy"), "02--2026");
+}
+
 TEST(DefaultText, LeavesOutWhatIsNotThere)
 {
     EXPECT_EQ(defaultText(read("2026-03-04 05:06:07")), "04/03/2026 05:06:07");
@@ -108,8 +116,9 @@ TEST(FormatAmount, ReadsExponents)
 
 TEST(FormatAmount, LeavesWhatIsNoNumber)
 {
-    for (const char* text : {"", "abc", "-", ".", "1,000", "1.2.3", " 1", "1 ", "e", "1e", "1e5x", "1e999",
-                             "0x1e2", "nan", "infinite", "--1", "+-1e2", "1e2 ", " 1e2"})
+    for (const char* text :
+         {"",     "abc",   "-",     ".",   "1,000",  "1.2.3",    " 1",  "1 ",    "e",    "1e",
+          "1e5x", "1e999", "0x1e2", "nan", "nan(e)", "infinite", "--1", "+-1e2", "1e2 ", " 1e2"})
         EXPECT_EQ(formatAmount(text), text);
 }
 
@@ -125,6 +134,8 @@ TEST(FormatTelephone, FillsThePlacesFromTheRight)
                               {"0", "----"},
                               {"0055", "----55"},
                               {"-12", "-----12"},
+                              {"-0", "----"},
+                              {"-0.4", "----"},
                               {"12.5", "----13"},
                               {"12.4", "----12"}})
         EXPECT_EQ(formatTelephone(c.text), c.expected) << c.text;

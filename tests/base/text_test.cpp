@@ -119,6 +119,10 @@ TEST(ContainsNoCase, FindsPartsAnywhere)
     EXPECT_TRUE(containsNoCase("Muñoz Ávila", "áVI"));
     EXPECT_TRUE(containsNoCase("Muñoz Ávila", "la"));
     EXPECT_TRUE(containsNoCase("abcabd", "ABD"));
+    EXPECT_TRUE(containsNoCase("a{B}~", "{b}"));
+    EXPECT_TRUE(containsNoCase("ABCXYZ", "abcxyz"));
+    EXPECT_FALSE(containsNoCase("@[", "`{")); // the neighbours of A and Z
+    EXPECT_FALSE(containsNoCase("a{B}~", "}b"));
     EXPECT_FALSE(containsNoCase("Muñoz", "munoz"));
     EXPECT_FALSE(containsNoCase("abc", "abcd"));
     EXPECT_FALSE(containsNoCase("", "a"));

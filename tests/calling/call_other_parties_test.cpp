@@ -244,6 +244,18 @@ TEST_F(CallToOthers, an_end_on_another_tab_writes_to_the_called_party_and_logs_a
         }
 }
 
+TEST_F(CallToOthers, the_keyboard_goes_to_no_list_while_none_shows)
+{
+    lvwProy().SetFocus();
+    rings();
+    ASSERT_TRUE(call().cmdContesta.hasFocus());
+    lvwProy().Visible(false);
+    call().cmdCancelCall.press();
+    for (screen::ListView* list : {&lvw(), &lvwProy(), &lvwHoy()})
+        EXPECT_FALSE(list->hasFocus()) << list->name();
+    EXPECT_FALSE(control.Call_Progress());
+}
+
 TEST_F(CallToOthers, the_keyboard_comes_back_to_the_list_in_sight)
 {
     lvwProy().SetFocus();

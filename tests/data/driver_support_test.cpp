@@ -66,6 +66,24 @@ TEST(DigitsOfBits, ReadTheHighestByteFirst)
     EXPECT_EQ(digitsOfBits("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF"), "18446744073709551615");
 }
 
+/// SQLSTATE, native code and text.
+std::string allOf(const Error& error)
+{
+    return error.sqlState() + " " + std::to_string(error.nativeCode()) + " " + error.what();
+}
+
+TEST(DriversErrors, HaveTheirStateAndSpanishWords)
+{
+    EXPECT_EQ(allOf(connectionClosed()), "08003 0 La conexión con la base de datos está cerrada");
+    EXPECT_EQ(allOf(noRow()), "24000 0 No hay ningún registro activo");
+    try {
+        requireText("");
+        FAIL();
+    } catch (const Error& error) {
+        EXPECT_EQ(allOf(error), "42000 0 La instrucción SQL está vacía");
+    }
+}
+
 TEST(RequireText, TakesAnythingButBlanks)
 {
     EXPECT_NO_THROW(requireText("x"));

@@ -171,5 +171,18 @@ TEST_F(Streaming, ACutWireEndsTheLoopBehindTheRowsThatAreHeld)
     EXPECT_TRUE(recordset->Eof());
 }
 
+TEST_F(Streaming, BehindTheLastRowAndTheLastColumnThereIsNothing)
+{
+    script.rows = 1;
+    const auto recordset = open();
+    EXPECT_EQ(recordset->value(0).raw(), "0   ");
+    EXPECT_THROW(recordset->value(1), Error);
+    recordset->MoveNext();
+    EXPECT_TRUE(recordset->Eof());
+    EXPECT_THROW(recordset->value(0), Error);
+    EXPECT_THROW(recordset->MoveNext(), Error);
+    EXPECT_FALSE(recordset->Bof());
+}
+
 } // namespace
 } // namespace dn::data

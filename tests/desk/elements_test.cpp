@@ -6,7 +6,9 @@
 
 #include "desk/elements.h"
 #include "desk/tab_strip.h"
+#include "tests/support/approved_text.h"
 #include "tests/support/element_tree.h"
+#include "tests/support/screen_design.h"
 
 #include <gmock/gmock.h>
 
@@ -298,6 +300,12 @@ TEST(ElementOrder, puts_the_call_and_the_panels_of_the_tabs_before_what_they_cov
     EXPECT_THAT(tests::namesIn(elements.control),
                 testing::ElementsAre("picContactos", "picOrganizacion", "picHoy", "picLlamada", "lvwProy",
                                      "picTop", "picRight", "lvw", "lvwHoy", "lvwContactos", "lvwOrganizaciones"));
+}
+
+TEST(ScreenDesign, is_the_approved_one)
+{
+    Elements elements;
+    tests::expectApproved(tests::designOf(elements.control), "desk/design/ctrDnContacts.txt");
 }
 
 TEST(OtherCaptions, are_as_designed)

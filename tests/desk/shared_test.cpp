@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "base/runtime_error.h"
+#include "desk/row_key.h"
 #include "desk/shared.h"
+#include "screen/panels.h"
 #include "tests/support/prospect_list.h"
 
 #include <gtest/gtest.h>
@@ -107,6 +110,20 @@ TEST_F(Painting, leaves_other_rows_alone)
 
     EXPECT_EQ(other.ForeColor(), 0U);
     EXPECT_FALSE(other.Bold());
+}
+
+TEST(RowKey, is_what_stands_behind_the_first_letter)
+{
+    screen::UserControl control("control");
+    screen::ListView list(&control, "list");
+    EXPECT_EQ(keyDigits(list.ListItems().Add("K123", "")), "123");
+    EXPECT_EQ(keyNumber(list.ListItems()("K123")), 123);
+    const screen::ListItem without = list.ListItems().Add("", "");
+    EXPECT_EQ(keyDigits(without), "");
+    EXPECT_THROW(keyNumber(without), RuntimeError);
+    EXPECT_EQ(selectedRow(list).Key(), "K123");
+    list.ListItems().Clear();
+    EXPECT_THROW(selectedRow(list), RuntimeError);
 }
 
 } // namespace

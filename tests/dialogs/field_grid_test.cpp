@@ -109,5 +109,21 @@ TEST_F(FieldGrid, with_a_tall_field_takes_a_larger_window)
     EXPECT_EQ(cNotas.Height(), 1200);
 }
 
+TEST_F(FieldGrid, moves_headings_and_pairs_that_stand_below_a_tall_field)
+{
+    screen::Label Label1(&form, "Label1");
+    grid.tall("Notas:", cNotas, 1200);
+    grid.heading(Label1);
+    grid.pair(txtNombre, txtPie, 1200);
+    grid.buttons(cmdOk, cmdCancel);
+    const auto heading = frameOf(Label1);
+    const auto left = frameOf(txtNombre);
+    const auto right = frameOf(txtPie);
+    form.resize(form.Width() + 300, form.Height() + 600);
+    EXPECT_THAT(frameOf(Label1), ElementsAre(heading[0], heading[1] + 600, heading[2] + 300, heading[3]));
+    EXPECT_THAT(frameOf(txtNombre), ElementsAre(left[0], left[1] + 600, left[2] + 300, left[3]));
+    EXPECT_THAT(frameOf(txtPie), ElementsAre(right[0] + 300, right[1] + 600, right[2], right[3]));
+}
+
 } // namespace
 } // namespace dn::tests

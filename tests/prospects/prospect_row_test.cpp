@@ -55,6 +55,17 @@ TEST_F(ProspectRow, has_seventeen_cells_in_the_order_of_the_columns)
                             "013", "2026-03-02", "12", "2026-03-04", "-1"));
 }
 
+// Columns of other types than the contract's.
+TEST_F(ProspectRow, shows_the_date_of_a_time_alone_as_none)
+{
+    const auto item = row({{"uf_Fecha", date("05:06:07")},
+                           {"e_ultimocontacto", date("05:06:07.25")},
+                           {"e_ultimointento", text("ayer")}});
+    EXPECT_EQ(item.ListSubItems()(11).Text(), "0000-00-00");
+    EXPECT_EQ(item.ListSubItems()(13).Text(), "0000-00-00");
+    EXPECT_EQ(item.ListSubItems()(15).Text(), "ayer");
+}
+
 TEST_F(ProspectRow, has_empty_cells_for_nulls)
 {
     EXPECT_THAT(cells(row({})),

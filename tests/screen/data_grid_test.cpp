@@ -97,6 +97,13 @@ TEST_F(DataGridTest, goes_to_the_first_row_where_there_is_one)
     EXPECT_EQ(revealed, 0U);
 }
 
+TEST_F(DataGridTest, says_whether_rows_can_be_opened)
+{
+    EXPECT_TRUE(dataset.Active());
+    dataset.Active(false);
+    EXPECT_FALSE(dataset.Active());
+}
+
 TEST_F(DataGridTest, is_sorted_by_a_header_and_the_other_way_round_by_the_same_again)
 {
     for (const char* name : {"ñu", "Ana", "nube", "", "Zoé"})
@@ -105,6 +112,8 @@ TEST_F(DataGridTest, is_sorted_by_a_header_and_the_other_way_round_by_the_same_a
     EXPECT_THAT(names(), ElementsAre("", "Ana", "nube", "ñu", "Zoé"));
     grid.clickHeader(0);
     EXPECT_THAT(names(), ElementsAre("Zoé", "ñu", "nube", "Ana", ""));
+    grid.clickHeader(0);
+    EXPECT_THAT(names(), ElementsAre("", "Ana", "nube", "ñu", "Zoé"));
     grid.clickHeader(1);
     EXPECT_EQ(names().back(), "Ana");
     EXPECT_EQ(grid.SortOrder(), screen::ListView::ascending);

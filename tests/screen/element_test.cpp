@@ -41,6 +41,16 @@ TEST_F(ElementTree, knows_names_parents_and_children)
     EXPECT_THAT(namesIn(control), ElementsAre("outer"));
 }
 
+TEST_F(ElementTree, has_those_that_are_not_named_behind_the_others_in_their_own_order)
+{
+    Label second(&inner, "second");
+    const Label third(&inner, "third");
+
+    inner.frontToBack({&second});
+
+    EXPECT_THAT(namesIn(inner), ElementsAre("second", "leaf", "third"));
+}
+
 TEST_F(ElementTree, is_visible_enabled_and_usable_at_first)
 {
     EXPECT_TRUE(leaf.Visible());

@@ -155,5 +155,16 @@ TEST_F(Lines, new_lines_after_Clear_carry_no_marks)
     EXPECT_THAT(selected(), ElementsAre(false));
 }
 
+TEST_F(Lines, a_double_click_below_them_raises_the_event_alone)
+{
+    list.ListIndex(1);
+    list.doubleClickEmpty();
+    EXPECT_EQ(list.ListIndex(), 1);
+    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_EQ(doubleClicks.count(), 1);
+    tests::outOfReach({&list, &form}, [&] { list.doubleClickEmpty(); });
+    EXPECT_EQ(doubleClicks.count(), 1);
+}
+
 } // namespace
 } // namespace dn::screen

@@ -282,5 +282,35 @@ TEST_F(Rows, scroll_into_view_by_their_position)
     EXPECT_THAT(revealed, ElementsAre(1, 0));
 }
 
+TEST_F(Rows, of_which_one_goes_keep_the_selection_of_another)
+{
+    for (const char* key : {"K1", "K2", "K3", "K4"})
+        addRow(list, key, {key});
+    list.ListItems()("K2").Selected(true);
+
+    list.ListItems().Remove("K3");
+    EXPECT_EQ(list.SelectedItem()->Key(), "K2") << "one behind it";
+    list.ListItems().Remove("K1");
+    EXPECT_EQ(list.SelectedItem()->Key(), "K2") << "one ahead of it";
+    list.ListItems().Remove("K2");
+    EXPECT_EQ(list.SelectedItem(), std::nullopt);
+    list.ListItems().Remove("K4");
+    EXPECT_EQ(list.SelectedItem(), std::nullopt);
+}
+
+TEST_F(Rows, without_a_key_stay_when_another_goes)
+{
+    list.ListItems().Add("", "one");
+    addRow(list, "K1", {"two"});
+    list.ListItems().Add("", "three");
+    addRow(list, "K2", {"four"});
+
+    list.ListItems().Remove("K1");
+
+    EXPECT_THAT(column(list), ElementsAre("one", "three", "four"));
+    EXPECT_EQ(list.ListItems()("K2").Index(), 3);
+    EXPECT_THROW(list.ListItems()(std::string_view()), RuntimeError);
+}
+
 } // namespace
 } // namespace dn::screen

@@ -211,5 +211,18 @@ TEST_F(Dialog, takes_no_size_while_it_is_hidden)
     EXPECT_THAT(frameOf(form), ElementsAre(0, 0, 3000, 1500));
 }
 
+TEST_F(Dialog, made_resizable_may_change_its_height_alone)
+{
+    const Listener resized(form.Resize);
+    form.Move(0, 0, 3000, 1500);
+    form.makeResizable();
+    form.Visible(true);
+
+    form.resize(3000, 2100);
+
+    EXPECT_THAT(frameOf(form), ElementsAre(0, 0, 3000, 2100));
+    EXPECT_EQ(resized.count(), 1);
+}
+
 } // namespace
 } // namespace dn::screen

@@ -110,6 +110,29 @@ TEST_F(Agents, a_key_beyond_16_bits_leaves_the_strip_and_shows_the_tab)
     EXPECT_TRUE(elements().top.lblItem(1).Visible()) << "the load of the list fits the strip by itself";
 }
 
+// A directory does not fit the strip, as the prospects do.
+TEST_F(Agents, a_key_of_16_bits_widens_the_strip_on_a_directory_and_none_beyond_does)
+{
+    cnn.on(agentsStatement)
+        .gives({"Sys_PK", "Nombre"}, {{whole(70000), text("Lejana")},
+                                      {whole(32768), text("Primera que no")},
+                                      {whole(-32769), text("Última que no")},
+                                      {whole(-40000), text("Negativa")},
+                                      {whole(32767), text("Última")},
+                                      {whole(-32768), text("Primera")}});
+    for (const int place : {1, 2, 3, 4, 5, 6}) {
+        start(0, true);
+        openProspects();
+        elements().top.lblItem(4).click();
+        ASSERT_FALSE(elements().top.lblItem(1).Visible());
+        cnn.forgetStatements();
+        cbAgente().pick(place);
+        EXPECT_EQ(elements().top.lblItem(1).Visible(), place > 4) << place;
+        EXPECT_THAT(cnn.statements(), ElementsAre(testing::HasSubstr("FROM Persona")))
+            << "the tab is shown all the same";
+    }
+}
+
 TEST_F(Agents, a_key_beyond_32_bits_is_an_error_of_the_call)
 {
     cnn.on(agentsStatement).gives({"Sys_PK", "Nombre"}, {{whole(3'000'000'000), text("Imposible")}});

@@ -42,6 +42,35 @@ TEST_F(StartUp, SetObjects_stores_what_it_is_given)
     EXPECT_THAT(cnn.statements(), ElementsAre("SELECT NOW()"));
 }
 
+TEST_F(StartUp, what_the_host_sets_it_reads_back_and_nothing_is_sent)
+{
+    HostLog log;
+    const auto screens = std::make_shared<FakeUICRM>(log);
+    control.Call_Tabla("Proyecto");
+    control.Call_PK(-7);
+    control.Call_Tel("5512345678");
+    control.Call_Progress(true);
+    control.TemplatePath("/plantillas");
+    control.oUICRM(screens);
+    control.Usuario("ana");
+    control.AdoCnn(&cnn);
+    control.PKAgente(9);
+    control.GAdmon(true);
+    control.eBasic(5);
+    EXPECT_EQ(control.Call_Tabla(), "Proyecto");
+    EXPECT_EQ(control.Call_PK(), -7);
+    EXPECT_EQ(control.Call_Tel(), "5512345678");
+    EXPECT_TRUE(control.Call_Progress());
+    EXPECT_EQ(control.TemplatePath(), "/plantillas");
+    EXPECT_EQ(control.oUICRM(), screens);
+    EXPECT_EQ(control.Usuario(), "ana");
+    EXPECT_EQ(control.AdoCnn(), &cnn);
+    EXPECT_EQ(control.PKAgente(), 9);
+    EXPECT_TRUE(control.GAdmon());
+    EXPECT_EQ(std::any_cast<int>(control.eBasic()), 5);
+    EXPECT_THAT(cnn.statements(), IsEmpty());
+}
+
 class StartUpRights : public StartUp, public testing::WithParamInterface<bool> {};
 
 TEST_P(StartUpRights, follow_the_administrator_flag)

@@ -96,6 +96,32 @@ TEST_F(NewFileTest, does_not_take_the_place_of_a_device)
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
 }
 
+// Not even the administrator of a machine may write to a program that runs.
+TEST_F(NewFileTest, does_not_take_the_place_of_a_file_that_cannot_be_written)
+{
+    const fs::path running = fs::canonical("/proc/self/exe");
+    EXPECT_THROW(NewFile file(running), RuntimeError);
+}
+
+TEST_F(NewFileTest, does_not_take_the_place_of_a_folder_that_was_made_meanwhile)
+{
+    NewFile file(folder.file("a"));
+    file.write("datos");
+    fs::create_directory(folder.file("a"));
+    EXPECT_THROW(file.keep(), RuntimeError);
+    EXPECT_TRUE(fs::is_directory(folder.file("a")));
+}
+
+TEST_F(NewFileTest, tells_of_bytes_that_cannot_be_written_over)
+{
+    NewFile file(folder.file("a"));
+    file.write(std::string(1000, 'x'));
+    file.overwrite(0, "y");
+    EXPECT_THROW(file.overwrite(std::uint64_t{1} << 63U, "y"), RuntimeError) << "there is no such place";
+    const FullDisk disk(10);
+    EXPECT_THROW(file.overwrite(500, "y"), RuntimeError);
+}
+
 TEST_F(NewFileTest, with_the_longest_name_is_made_all_the_same)
 {
     const std::string path = folder.file(std::string(255, 'x'));

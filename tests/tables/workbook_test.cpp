@@ -6,6 +6,7 @@
 #include "tables/workbook.h"
 
 #include "base/runtime_error.h"
+#include "tests/support/approved_text.h"
 #include "tests/support/table_files.h"
 
 #include <gmock/gmock.h>
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <utility>
 
 namespace dn::tests {
 namespace {
@@ -73,13 +75,103 @@ TEST_F(WorkbookFile, holds_what_programs_insist_on)
     EXPECT_EQ(kinds[0x000A], 2) << "EOF";
 }
 
+// What programs of others read well, tests/tables/readers. The bytes are no matter of taste: none changes unseen.
+TEST_F(WorkbookFile, has_the_approved_bytes)
+{
+    const MadeTable table({{"Nombre", 200}, {"Correos", 150}},
+                          {{"Ana Ñúñez", "a@x"}, {"", "b@x"}, {"日本 😀", ""}});
+    expectApproved(hexDump(written(table)), "tables/approved/small.xls.txt");
+    const MadeTable further({{"N", 50}}, 65'536, [](std::size_t, std::size_t) { return "x"; });
+    const std::string file = written(further);
+    const std::size_t directory = headerBytes + 512 * number32(file, 48);
+    expectApproved(hexDump(file.substr(0, 2048)) + hexDump(file.substr(directory - 1024, 1536)),
+                   "tables/approved/two_sheets.xls.txt"); // beginning, second sheet and directory
+}
+
+// The units of the texts in a workbook, put together over all records that they go on in.
+std::vector<std::u16string> sharedTexts(const std::string& file)
+{
+    std::size_t at = headerBytes;
+    while (number16(file, at) != 0x00FC)
+        at += 4 + number16(file, at + 2);
+    std::size_t end = at + 4 + number16(file, at + 2);
+    std::vector<std::u16string> texts(number32(file, at + 8));
+    at += 12;
+    const auto goOn = [&] {
+        EXPECT_EQ(number16(file, at), 0x003CU);
+        end = at + 4 + number16(file, at + 2);
+        at += 4;
+    };
+    for (std::u16string& text : texts) {
+        if (at == end) goOn();
+        const std::size_t length = number16(file, at);
+        bool wide = file[at + 2] != 0;
+        for (at += 3; text.size() < length; at += wide ? 2 : 1) {
+            if (at == end) {
+                goOn();
+                wide = file[at++] != 0;
+            }
+            text += static_cast<char16_t>(wide ? number16(file, at) : number16(file, at) & 0xFFU);
+        }
+    }
+    return texts;
+}
+
+bool isFirstHalf(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+
+TEST_F(WorkbookFile, holds_texts_that_go_on_in_further_records_whole)
+{
+    std::string bars;    // each of two units
+    std::string accents; // each of one byte in the file
+    for (int i = 0; i < 20'000; ++i)
+        bars += "\U0001D11E";
+    for (int i = 0; i < 40'000; ++i)
+        accents += "é";
+    const MadeTable table({{"N", 50}},
+                          {{bars}, {"x" + bars}, {accents}, {std::string(20'000, 'x')}, {"\uFFFD日"}});
+    const std::vector<std::u16string> texts = sharedTexts(written(table));
+    ASSERT_EQ(texts.size(), 6U);
+    ASSERT_EQ(texts[1].size(), 32'767U) << "the most that a cell holds";
+    ASSERT_EQ(texts[2].size(), 32'767U);
+    for (std::size_t i = 0; i < 32'766; i += 2) {
+        ASSERT_EQ(texts[1].substr(i, 2), u"\U0001D11E") << i;
+        ASSERT_EQ(texts[2].substr(i + 1, 2), u"\U0001D11E") << i;
+    }
+    EXPECT_EQ(texts[1].back(), u' ') << "half a character would be none";
+    EXPECT_EQ(texts[3], std::u16string(32'767, u'é'));
+    EXPECT_EQ(texts[4], std::u16string(20'000, u'x'));
+    EXPECT_EQ(texts[5], u"\uFFFD日");
+}
+
+// Readers take the texts record by record.
+TEST_F(WorkbookFile, has_both_halves_of_a_character_in_one_record)
+{
+    for (std::size_t ahead = 0; ahead < 4; ++ahead) {
+        std::string bars(ahead, 'x');
+        for (int i = 0; i < 9'000; ++i)
+            bars += "\U0001D11E";
+        const std::string file = written(MadeTable({{"N", 50}}, {{bars}}));
+        for (std::size_t at = headerBytes; number16(file, at) != 0; at += 4 + number16(file, at + 2)) {
+            const std::size_t end = at + 4 + number16(file, at + 2);
+            if (number16(file, end) != 0x003C) continue;
+            EXPECT_FALSE(isFirstHalf(static_cast<char16_t>(number16(file, end - 2)))) << ahead << ", " << at;
+        }
+    }
+}
+
 TEST_F(WorkbookFile, allocates_every_sector_once)
 {
-    for (const std::size_t rows : {0U, 1U, 127U, 5'000U, 40'000U}) { // the last takes more than the header's index
-        const std::string file = written(MadeTable({{"Nombre", 200}}, rows, [](std::size_t row, std::size_t) {
-            return std::to_string(row) + std::string(180, 'x');
-        }));
-        const std::uint32_t tables = number32(file, 44);
+    // The last but one takes more than the header's index, the last more than one list beyond it.
+    std::vector<std::pair<std::size_t, std::size_t>> sizes{{0, 1},       {1, 1},        {127, 180},
+                                                           {5'000, 180}, {260, 30'000}, {700, 30'000}};
+    for (std::size_t sector = 0; sector < 20; ++sector) // over the edge at which the table takes one sector more
+        sizes.emplace_back(2, 30'000 + 256 * sector);
+    for (const auto& [rows, wide] : sizes) {
+        const std::string file =
+            written(MadeTable({{"Nombre", 200}}, rows, [bytes = wide](std::size_t row, std::size_t) {
+                return std::to_string(row) + std::string(bytes, 'x');
+            }));
+        const std::uint32_t tableSectors = number32(file, 44);
         std::vector<std::uint32_t> places;
         for (std::size_t i = 0; i < 109; ++i)
             places.push_back(number32(file, 76 + 4 * i));
@@ -88,7 +180,7 @@ TEST_F(WorkbookFile, allocates_every_sector_once)
             for (std::size_t n = 0; n < 127; ++n)
                 places.push_back(number32(file, 512 + list * 512 + 4 * n));
         places.erase(std::remove(places.begin(), places.end(), 0xFFFFFFFFU), places.end());
-        ASSERT_EQ(places.size(), tables);
+        ASSERT_EQ(places.size(), tableSectors);
         std::vector<std::uint32_t> next;
         for (const std::uint32_t place : places)
             for (std::size_t n = 0; n < 128; ++n)
@@ -100,7 +192,7 @@ TEST_F(WorkbookFile, allocates_every_sector_once)
         const std::uint32_t directory = number32(file, 48);
         EXPECT_EQ(length * 512, (number32(file, 512 + directory * 512 + 128 + 120) + 511) / 512 * 512);
         EXPECT_EQ(next[directory], 0xFFFFFFFEU);
-        EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFDU), static_cast<std::ptrdiff_t>(tables));
+        EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFDU), static_cast<std::ptrdiff_t>(tableSectors));
         EXPECT_EQ(std::count(next.begin(), next.end(), 0xFFFFFFFFU),
                   static_cast<std::ptrdiff_t>(next.size() - (file.size() / 512 - 1)));
     }
