@@ -71,6 +71,7 @@ public:
     bool meets(const std::string&) const override { return true; }
     bool dear() const override { return true; }
     bool leavesOpen() const override { return true; }
+    std::chrono::seconds patience() const override { return 2s; } // it is waited out at each statement
     void ahead(WatchedConnection& connection, const std::string&) override
     {
         id_ = one(connection.real(), "SELECT CONNECTION_ID()");
@@ -146,7 +147,7 @@ private:
             return one(*looking,
                        "SELECT COUNT(*) FROM information_schema.innodb_trx WHERE trx_state = 'LOCK WAIT'") != "0";
         };
-        if (host::waitUntil(2s, waiting)) other_->execute("SELECT id FROM cerrojo WHERE id = 1 FOR UPDATE");
+        if (host::waitUntil(20s, waiting)) other_->execute("SELECT id FROM cerrojo WHERE id = 1 FOR UPDATE");
     }
 
     std::unique_ptr<data::Connection> other_;
