@@ -5,6 +5,9 @@
 
 #include "host/database/host_error.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <algorithm>
 #include <atomic>
 #include <thread>
@@ -16,6 +19,12 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto lookEvery = 250ms;
+constexpr auto lookAtRestEvery = 1s; // an idle program is to sleep
+
+bool isOfTheOperator(QEvent::Type type)
+{
+    return type == QEvent::KeyRelease || type == QEvent::MouseButtonRelease;
+}
 
 } // namespace
 
@@ -46,7 +55,23 @@ Reconnection::Reconnection(Database& database, Pauses pauses)
     : database_(database), pauses_(pauses.empty() ? Pauses{0s, 1s, 2s, 5s, 10s, 30s} : std::move(pauses))
 {
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
-    timer_.start(lookEvery);
+    soon_.setSingleShot(true);
+    soon_.setInterval(lookEvery);
+    connect(&soon_, &QTimer::timeout, this, [this] { look(); });
+    qApp->installEventFilter(this);
+    enter(State::connected);
+}
+
+bool Reconnection::eventFilter(QObject* watched, QEvent* event)
+{
+    if (isOfTheOperator(event->type()) && !soon_.isActive()) soon_.start();
+    return QObject::eventFilter(watched, event);
+}
+
+void Reconnection::enter(State state)
+{
+    state_ = state;
+    timer_.start(state == State::connected ? std::chrono::milliseconds(lookAtRestEvery) : lookEvery);
 }
 
 Reconnection::~Reconnection() = default;
@@ -77,7 +102,7 @@ void Reconnection::look()
 
 void Reconnection::wait()
 {
-    state_ = State::waiting;
+    enter(State::waiting);
     const std::chrono::seconds pause = pauses_[std::min(failures_, pauses_.size() - 1)];
     next_ = std::chrono::steady_clock::now() + pause;
     told_ = pause;
@@ -93,7 +118,7 @@ void Reconnection::tryNow()
         failed(QString::fromUtf8(error.what()));
         return;
     }
-    state_ = State::trying;
+    enter(State::trying);
     attempt_ = std::make_unique<Attempt>(database_);
     changed.emit();
 }
@@ -110,7 +135,7 @@ void Reconnection::settle()
     const std::unique_ptr<Attempt> attempt = std::move(attempt_);
     if (!attempt->connection) return failed(QString::fromStdString(attempt->failure));
     database_.connection().renew(std::move(attempt->connection));
-    state_ = State::connected;
+    enter(State::connected);
     changed.emit();
     back.emit();
 }

@@ -39,14 +39,18 @@ public:
     /// Tries without waiting any longer. Does nothing while connected or trying.
     void tryNow();
 
-    screen::Signal<> alive;   ///< from time to time: the connection still stands
+    screen::Signal<> alive;   ///< soon after a key or a click, and from time to time: the connection still stands
     screen::Signal<> changed; ///< the state, or the seconds until the next attempt
     screen::Signal<> back;    ///< the control's connection works again; comes behind `changed`
+
+    /// Hears of the operator's keys and clicks, whatever window they go to.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Attempt;
 
     void look();
+    void enter(State state);
     void wait();
     void failed(const QString& reason);
     void settle();
@@ -60,6 +64,7 @@ private:
     std::chrono::seconds told_{0};
     std::unique_ptr<Attempt> attempt_;
     QTimer timer_;
+    QTimer soon_; // once, behind something that the operator did
 };
 
 } // namespace dn::host

@@ -18,8 +18,9 @@ constexpr std::array<std::string_view, 12> months{"ene", "feb", "mar", "abr", "m
 // The last two digits.
 void appendPair(std::string& text, int number)
 {
-    text += static_cast<char>('0' + number / 10 % 10);
-    text += static_cast<char>('0' + number % 10);
+    const std::array<char, 2> digits{static_cast<char>('0' + number / 10 % 10),
+                                     static_cast<char>('0' + number % 10)};
+    text.append(digits.data(), digits.size());
 }
 
 // @param width 2 or 4.
@@ -149,10 +150,22 @@ void appendDate(std::string& text, const DateTime& moment, std::string_view patt
     }
 }
 
+// "dd/mm/yyyy hh:nn:ss" without a pattern to be read: every date of every list comes through here.
 std::string defaultText(const DateTime& moment)
 {
-    if (!moment.hasDate()) return formatDate(moment, "hh:nn:ss");
-    return formatDate(moment, moment.isMidnight() ? "dd/mm/yyyy" : "dd/mm/yyyy hh:nn:ss");
+    std::string text;
+    if (moment.hasDate()) {
+        appendPair(text, moment.day);
+        appendPair(text += '/', moment.month);
+        appendPair(text += '/', moment.year / 100);
+        appendPair(text, moment.year);
+        if (moment.isMidnight()) return text;
+        text += ' ';
+    }
+    appendPair(text, moment.hour);
+    appendPair(text += ':', moment.minute);
+    appendPair(text += ':', moment.second);
+    return text;
 }
 
 std::string formatThreeDigits(std::int64_t number)

@@ -55,6 +55,21 @@ public:
 
     char32_t fold(char32_t c) const { return c < table_.size() ? table_[c] : slow(c); }
 
+    /// The first bytes of all characters that fold to this one.
+    std::bitset<256> leadsOf(char32_t folded) const
+    {
+        std::bitset<256> leads;
+        const auto add = [&](char32_t c) {
+            std::string text;
+            appendCharacter(text, c);
+            leads.set(static_cast<unsigned char>(text.front()));
+        };
+        add(folded);
+        for (char32_t c = 0; c < table_.size(); ++c)
+            if (table_[c] == folded) add(c);
+        return leads;
+    }
+
 private:
     char32_t slow(char32_t c) const { return static_cast<char32_t>(facet_.tolower(static_cast<wchar_t>(c))); }
 
@@ -62,6 +77,12 @@ private:
     const std::ctype<wchar_t>& facet_;
     std::vector<char16_t> table_ = std::vector<char16_t>(0x10000);
 };
+
+const FoldTable& foldTable()
+{
+    static const FoldTable table;
+    return table;
+}
 
 // Eight bytes at a time: every cell that is searched is asked.
 bool isAscii(std::string_view text)
@@ -88,17 +109,31 @@ bool startsWithFolded(std::string_view text, std::string_view folded)
     return true;
 }
 
+// From the end: patterns that begin alike, as links do, differ there. @param text no shorter than the pattern.
 bool startsWithAscii(std::string_view text, std::string_view folded)
 {
-    return std::equal(folded.begin(), folded.end(), text.begin(),
+    return std::equal(folded.rbegin(), folded.rend(), text.substr(0, folded.size()).rbegin(),
                       [](char wanted, char c) { return wanted == foldAscii(c); });
 }
 
-// The place of the first character that has no other case, if there is one.
+// The place of the last character that has no other case, if there is one: no other folds to a sign or a figure.
 std::size_t anchorOf(std::string_view folded)
 {
-    const auto hasCase = [](char c) { return c >= 'a' && c <= 'z'; };
-    return static_cast<std::size_t>(std::ranges::find_if_not(folded, hasCase) - folded.begin());
+    const auto hasCase = [](char c) { return (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80; };
+    const auto last = std::find_if_not(folded.rbegin(), folded.rend(), hasCase);
+    return last == folded.rend() ? folded.size() : static_cast<std::size_t>(folded.rend() - last) - 1;
+}
+
+std::bitset<256> leadsOf(std::string_view folded)
+{
+    if (folded.empty()) return {};
+    return foldTable().leadsOf(takeCharacter(folded));
+}
+
+// A byte that begins no character may yet stand inside of one.
+bool beginsInsideACharacter(std::string_view text)
+{
+    return (static_cast<unsigned char>(text[0]) & 0xC0U) == 0x80U;
 }
 
 // Goes from one anchor to the next, which is many characters at a step.
@@ -184,11 +219,7 @@ std::string without(std::string_view text, std::string_view part)
     return result.append(text, begin);
 }
 
-char32_t foldCase(char32_t character)
-{
-    static const FoldTable table;
-    return table.fold(character);
-}
+char32_t foldCase(char32_t character) { return foldTable().fold(character); }
 
 std::string toLower(std::string_view text)
 {
@@ -207,18 +238,29 @@ bool equalsNoCase(std::string_view left, std::string_view right)
 }
 
 NoCasePattern::NoCasePattern(std::string_view pattern)
-    : folded_(toLower(pattern)), anchor_(anchorOf(folded_)), ascii_(isAscii(folded_))
+    : folded_(toLower(pattern)), anchor_(anchorOf(folded_)), ascii_(isAscii(folded_)), starts_(leadsOf(folded_))
 {
 }
 
 bool NoCasePattern::isIn(std::string_view text) const
 {
     if (folded_.empty()) return true;
+    if (anchor_ < folded_.size() && text.find(folded_[anchor_]) == std::string_view::npos) return false;
     // The Kelvin sign and the dotted capital I fold to ASCII, so an ASCII pattern alone does not make the text
-    // ASCII.
-    if (ascii_ && isAscii(text)) return containsAsciiNoCase(text, folded_, anchor_);
-    for (; !text.empty(); takeCharacter(text))
-        if (startsWithFolded(text, folded_)) return true;
+    // ASCII. Nothing in ASCII folds to anything else.
+    if (isAscii(text)) return ascii_ && containsAsciiNoCase(text, folded_, anchor_);
+    return isInUnicode(text);
+}
+
+bool NoCasePattern::isInUnicode(std::string_view text) const
+{
+    if (beginsInsideACharacter(folded_)) {
+        for (; !text.empty(); takeCharacter(text))
+            if (startsWithFolded(text, folded_)) return true;
+        return false;
+    }
+    for (; !text.empty(); text.remove_prefix(1))
+        if (starts_[static_cast<unsigned char>(text.front())] && startsWithFolded(text, folded_)) return true;
     return false;
 }
 

@@ -7,6 +7,7 @@
 
 #include "base/export.h"
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -51,9 +52,12 @@ public:
     bool isIn(std::string_view text) const;
 
 private:
+    bool isInUnicode(std::string_view text) const;
+
     std::string folded_;
-    std::size_t anchor_; ///< of `folded_`, where a search looks first; its size for none
+    std::size_t anchor_; ///< of `folded_`: a sign that has no other case, looked for first; its size for none
     bool ascii_;
+    std::bitset<256> starts_; ///< the bytes with which a text can begin that folds to the pattern
 };
 
 /// Whether `text` holds `part`, without regard to case. An empty part is held by every text.

@@ -80,7 +80,11 @@ double Value::toNumber() const
     return parseNumber(raw_);
 }
 
-bool Value::toBoolean() const { return toNumber() != 0; }
+bool Value::toBoolean() const
+{
+    if (raw_ == "0" || raw_ == "1") return raw_ == "1"; // as nearly every flag comes
+    return toNumber() != 0;
+}
 
 DateTime Value::toDateTime() const
 {

@@ -17,6 +17,15 @@ void NullATexto(const data::Value& value, std::string& result)
         result = value.toText();
 }
 
+std::string_view textOrEmpty(const data::Value& value, std::string& room)
+{
+    using Kind = data::Value::Kind;
+    const Kind kind = value.kind();
+    if (kind == Kind::text || kind == Kind::whole || kind == Kind::number) return value.raw();
+    NullATexto(value, room);
+    return room;
+}
+
 screen::Colour ColorProyecto(const data::Value& code) { return code.isNull() ? 0 : ColorProyecto(code.toWhole()); }
 
 screen::Colour ColorProyecto(std::int64_t code)

@@ -101,10 +101,7 @@ bool ProjectRowBuilder::takeKey()
 
 void ProjectRowBuilder::addCell(screen::ListItem& item, const Column& column)
 {
-    resumeNext([&] {
-        NullATexto(read(column), text_);
-        item.ListSubItems().Add(text_);
-    });
+    resumeNext([&] { item.ListSubItems().Add(desk::textOrEmpty(read(column), text_)); });
 }
 
 void ProjectRowBuilder::addMonto(screen::ListItem& item)

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "data/failure_modes.h"
 
+#include <algorithm>
 #include <array>
 
 namespace dn::prospects {
@@ -51,11 +52,14 @@ void TipoOrigen(const data::Value& tipo, const data::Value& redirect, std::strin
 void ProductoInteres(const std::string& text, std::string& result)
 {
     static const NoCasePattern host(HostDescargas);
-    std::string_view name = text;
-    if (host.isIn(text)) // spares six searches: nearly every interest is a plain text
-        for (const Product& product : products())
-            if (product.link.isIn(text)) name = product.name;
-    result = std::string(name);
+    const auto isLinked = [&](const Product& product) { return product.link.isIn(text); };
+    const auto none = products().rend();
+    // Spares six searches where the interest is a plain text.
+    const auto last = host.isIn(text) ? std::find_if(products().rbegin(), none, isLinked) : none;
+    if (last != none)
+        result = last->name;
+    else if (&result != &text)
+        result = text;
 }
 
 } // namespace dn::prospects

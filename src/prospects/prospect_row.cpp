@@ -11,11 +11,14 @@
 #include "desk/shared.h"
 #include "prospects/origin.h"
 
+#include <algorithm>
+
 namespace dn::prospects {
 namespace {
 
 using data::resumeNext;
 using desk::NullATexto;
+using desk::textOrEmpty;
 
 constexpr int proxContacto = 2; // the sub-item "Prox. Contacto"
 constexpr std::string_view notScheduled = "Agendar";
@@ -23,6 +26,7 @@ constexpr screen::Colour scheduledColour = 0xFF8080;
 constexpr int iconOverdue = 5;
 constexpr int iconAhead = 6;
 constexpr std::string_view datePattern = "yyyy-mm-dd";
+constexpr std::string_view momentPattern = "yyyy-mm-dd hh:nn:ss";
 
 // A date as the drivers deliver it begins with what the pattern gives: three columns of each row need no calendar.
 bool startsWithDay(const data::Value& value)
@@ -30,6 +34,13 @@ bool startsWithDay(const data::Value& value)
     const std::string_view raw = value.raw();
     return value.kind() == data::Value::Kind::dateTime && raw.size() >= datePattern.size() && raw[4] == '-' &&
            raw[7] == '-';
+}
+
+// Whether each sign of the pattern that stands for no figure stands in its place, and nothing is left over.
+bool hasFormOf(std::string_view text, std::string_view pattern)
+{
+    const auto fits = [](char c, char p) { return (p >= 'a' && p <= 'z') ? c >= '0' && c <= '9' : c == p; };
+    return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(), fits);
 }
 
 } // namespace
@@ -93,24 +104,27 @@ std::string ProspectRowBuilder::key() const { return "K" + read(sysPk_).toText()
 
 void ProspectRowBuilder::addCell(screen::ListItem& item, const Column& column)
 {
-    text_.clear();
-    resumeNext([&] { NullATexto(read(column), text_); });
-    resumeNext([&] { item.ListSubItems().Add(text_); });
+    std::string_view text;
+    resumeNext([&] { text = textOrEmpty(read(column), text_); });
+    resumeNext([&] { item.ListSubItems().Add(text); });
 }
 
 void ProspectRowBuilder::addDateCell(screen::ListItem& item, const Column& column)
 {
+    std::string_view text;
     text_.clear();
     resumeNext([&] {
         const data::Value value = read(column);
-        if (startsWithDay(value))
-            text_ = value.raw().substr(0, datePattern.size());
-        else if (value.kind() == data::Value::Kind::dateTime)
+        if (startsWithDay(value)) {
+            text = value.raw().substr(0, datePattern.size());
+        } else if (value.kind() == data::Value::Kind::dateTime) {
             appendDate(text_, value.toDateTime(), datePattern);
-        else
-            NullATexto(value, text_);
+            text = text_;
+        } else {
+            text = textOrEmpty(value, text_);
+        }
     });
-    resumeNext([&] { item.ListSubItems().Add(text_); });
+    resumeNext([&] { item.ListSubItems().Add(text); });
 }
 
 void ProspectRowBuilder::addInteres(screen::ListItem& item)
@@ -133,7 +147,10 @@ void ProspectRowBuilder::addProxContacto(screen::ListItem& item)
     std::optional<DateTime> moment;
     resumeNext([&] {
         moment = value.toDateTime();
-        appendDate(text_, *moment, "yyyy-mm-dd hh:nn:ss");
+        if (hasFormOf(value.raw(), momentPattern))
+            text_ = value.raw();
+        else
+            appendDate(text_, *moment, momentPattern);
     });
     resumeNext([&] { item.ListSubItems().Add(text_); });
     if (!moment) return;
@@ -153,13 +170,13 @@ void ProspectRowBuilder::addDias(screen::ListItem& item)
 
 void ProspectRowBuilder::addToolTip(screen::ListItem& item)
 {
-    std::string part;
-    text_.clear();
-    resumeNext([&] { NullATexto(read(comentarios_), text_); });
-    resumeNext([&] { NullATexto(read(redirect_), part); });
-    text_ += crlf;
-    text_ += part;
-    resumeNext([&] { item.ToolTipText(text_); });
+    std::string_view comments;
+    std::string_view link;
+    std::string room;
+    resumeNext([&] { comments = textOrEmpty(read(comentarios_), text_); });
+    resumeNext([&] { link = textOrEmpty(read(redirect_), room); });
+    toolTip_.assign(comments).append(crlf).append(link);
+    resumeNext([&] { item.ToolTipText(toolTip_); });
 }
 
 void ProspectRowBuilder::setSmallIcon(screen::ListItem& item)

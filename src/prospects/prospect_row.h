@@ -49,6 +49,7 @@ private:
         eUltimoIntento_, eDui_, comentarios_, correoVerif_, contactado_, color_;
     std::array<Column, 8> plain_; // name to country, sub-items 3 to 10
     std::string text_;
+    std::string toolTip_;
     std::string label_;
 };
 

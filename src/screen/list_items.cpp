@@ -40,8 +40,9 @@ void ListSubItem::ReportIcon(int icon)
 
 void ListSubItems::Add(std::string_view text)
 {
-    item_.rows().edit(item_.row(), [&](RowDraft& row) { row.add(text); });
-    item_.textChanged();
+    const ListRows::RowNumber row = item_.row();
+    item_.list_->rows_.addCell(row, text);
+    item_.list_->textChanged(row);
 }
 
 int ListSubItems::Count() const { return static_cast<int>(item_.rows().cellCount(item_.row())) - 1; }
@@ -138,6 +139,7 @@ void ListItem::EnsureVisible() const { list_->revealed.emit(list_->rows().positi
 
 ListItem ListItems::Add(std::string_view key, std::string_view text, int smallIcon)
 {
+    if (list_->rows_.count() == ListView::screenful) list_->begun.emit();
     const ListRows::RowNumber row = list_->rows_.add(key, text, smallIcon);
     if (list_->selected_ == ListRows::none) list_->select(list_->rows().rowAt(0));
     list_->textChanged(row);
@@ -149,7 +151,7 @@ void ListItems::Clear()
     if (list_->rows_.count() == 0) return;
     list_->rows_.clear();
     list_->unsorted_ = false;
-    list_->changes_ = ListChanges();
+    list_->forgetChanges();
     ++list_->generation_;
     list_->selected_ = ListRows::none;
     list_->cleared.emit();
@@ -167,7 +169,7 @@ void ListItems::Remove(std::string_view key)
     else if (selected != ListRows::none && selected > row)
         --selected;
     ++list_->generation_;
-    list_->changes_ = ListChanges(); // every row that is left is shown anew
+    list_->forgetChanges(); // every row that is left is shown anew
     list_->cleared.emit();
     list_->changed.emit();
     list_->markDirty();

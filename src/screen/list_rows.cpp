@@ -67,6 +67,15 @@ std::string_view ListRows::cell(RowNumber row, std::size_t cell) const
     return isOpen(row) ? draft_.cell(cell) : rows_[row].cell(cell);
 }
 
+std::string_view ListRows::cellsFrom(RowNumber row, std::size_t cell) const
+{
+    const std::size_t count = cellCount(row);
+    if (cell >= count) return {};
+    const std::string_view first = this->cell(row, cell);
+    const std::string_view last = this->cell(row, count - 1);
+    return {first.data(), static_cast<std::size_t>(last.data() - first.data()) + last.size()};
+}
+
 Colour ListRows::colour(RowNumber row, std::size_t cell) const
 {
     if (isOpen(row)) {

@@ -46,6 +46,9 @@ public:
     /// Empty for a cell that the row does not have.
     std::string_view cell(RowNumber row, std::size_t cell) const;
 
+    /// The texts of all cells from one on, one behind the other without anything between.
+    std::string_view cellsFrom(RowNumber row, std::size_t cell) const;
+
     std::string_view toolTip(RowNumber row) const { return isOpen(row) ? draft_.toolTip : rows_[row].toolTip(); }
 
     Colour colour(RowNumber row, std::size_t cell) const;
@@ -61,6 +64,12 @@ public:
     // Changing.
     void checked(RowNumber row, bool value);
     void smallIcon(RowNumber row, int icon);
+
+    /// Adds a text behind the cells that the row has.
+    void addCell(RowNumber row, std::string_view text)
+    {
+        edit(row, [text](RowDraft& draft) { draft.add(text); });
+    }
 
     /// Applies a change to a row's draft; a row that is not open is rebuilt.
     template <class Change>

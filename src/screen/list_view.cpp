@@ -98,7 +98,9 @@ std::optional<std::size_t> ListView::selectedPosition() const
 ListChanges ListView::takeChanges()
 {
     dirty_ = false;
-    return std::exchange(changes_, ListChanges());
+    const ListChanges changes = changes_;
+    forgetChanges();
+    return changes;
 }
 
 void ListView::select(ListRows::RowNumber row)
@@ -133,6 +135,8 @@ void ListView::textChanged(ListRows::RowNumber row)
 
 void ListView::markChanged(ListRows::RowNumber row)
 {
+    if (row == marked_) return; // a row is filled cell by cell
+    marked_ = row;
     if (!unsorted_) { // else its position is not known yet, and all positions are shown anew
         const std::size_t position = rows_.positionOf(row);
         const bool none = changes_.firstChanged == changes_.behindLastChanged;
@@ -140,6 +144,12 @@ void ListView::markChanged(ListRows::RowNumber row)
         changes_.behindLastChanged = none ? position + 1 : std::max(changes_.behindLastChanged, position + 1);
     }
     markDirty(); // last: whoever takes the changes at once gets this one too
+}
+
+void ListView::forgetChanges()
+{
+    changes_ = ListChanges();
+    marked_ = ListRows::none;
 }
 
 void ListView::markDirty()

@@ -194,14 +194,17 @@ public:
     std::optional<std::size_t> selectedPosition() const;
     /// What changed since the last call; the next change raises `dirty` anew.
     ListChanges takeChanges();
-    Signal<> cleared; ///< rows are gone: nothing that was shown is there any more
-    Signal<> dirty;   ///< raised once, at the first change after `takeChanges`
+    static constexpr std::size_t screenful = 64; ///< rows, more than a usual window shows
+    Signal<> begun;                              ///< the first screenful of rows is there, and another one comes
+    Signal<> cleared;                            ///< rows are gone: nothing that was shown is there any more
+    Signal<> dirty;                              ///< raised once, at the first change after `takeChanges`
     Signal<> columnsChanged;
     Signal<std::size_t> revealed; ///< a position to scroll to
 
 private:
     friend class ListItem;
     friend class screen::ListItems;
+    friend class screen::ListSubItems;
 
     ListItem handle(ListRows::RowNumber row) { return {*this, row, generation_}; }
 
@@ -210,11 +213,13 @@ private:
     void sortingChanged();
     void textChanged(ListRows::RowNumber row);
     void markChanged(ListRows::RowNumber row);
+    void forgetChanges();
     void markDirty();
 
     mutable ListRows rows_;         // sorted late, when somebody asks for the order
     mutable bool unsorted_ = false; // the sorted flag is set and the order is not up to date
     ListChanges changes_;
+    ListRows::RowNumber marked_ = ListRows::none; // the row marked last since the changes were taken
     bool dirty_ = false;
     ListRows::RowNumber selected_ = ListRows::none;
     std::uint32_t generation_ = 0; // one more each time that row numbers lose their meaning

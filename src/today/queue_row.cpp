@@ -46,18 +46,15 @@ data::Value QueueRowBuilder::read(const Column& column) const
 
 std::optional<screen::ListItem> QueueRowBuilder::addRow()
 {
-    desk::NullATexto(read(tipo_), text_);
-    key_ = text_ == prospectType ? "K" : "P";
+    const std::string_view tipo = desk::textOrEmpty(read(tipo_), text_);
+    key_ = tipo == prospectType ? "K" : "P";
     key_ += read(sysPk_).toText();
-    return lvwHoy_.ListItems().Add(key_, text_);
+    return lvwHoy_.ListItems().Add(key_, tipo);
 }
 
 void QueueRowBuilder::addCell(screen::ListItem& row, const Column& column)
 {
-    resumeNext([&] {
-        desk::NullATexto(read(column), text_);
-        row.ListSubItems().Add(text_);
-    });
+    resumeNext([&] { row.ListSubItems().Add(desk::textOrEmpty(read(column), text_)); });
 }
 
 // A past day shows in full, today and whatever comes later by its hour alone. What reads as no date shows as it

@@ -150,6 +150,32 @@ TEST(ContainsNoCase, FindsWhatAPlainSearchInFoldedTextsFinds)
     }
 }
 
+// A search looks for signs and figures as they stand, and for the first bytes of what folds to the first letter.
+TEST(ContainsNoCase, FindsEveryCharacterByEveryCaseOfIt)
+{
+    for (char32_t c = 1; c < 0x2100; ++c) {
+        std::string text;
+        appendCharacter(text, c);
+        const std::string folded = toLower(text);
+        const NoCasePattern pattern(text + "z");
+        ASSERT_TRUE(pattern.isIn("ñ" + folded + "Z")) << std::hex << static_cast<unsigned>(c);
+        ASSERT_TRUE(NoCasePattern(folded).isIn("1 ñ" + text)) << std::hex << static_cast<unsigned>(c);
+        ASSERT_FALSE(pattern.isIn("ñ" + folded)) << std::hex << static_cast<unsigned>(c);
+        const bool letter = folded != text || (c >= 'a' && c <= 'z') || c >= 0x80;
+        if (!letter) continue;
+        for (const char sign : {'.', '/', '7', '_'})
+            ASSERT_NE(folded, std::string(1, sign)) << std::hex << static_cast<unsigned>(c);
+    }
+}
+
+TEST(ContainsNoCase, FindsInvalidBytesAloneAndNotInsideOfCharacters)
+{
+    EXPECT_TRUE(containsNoCase("a\xBA", "\xBA"));
+    EXPECT_FALSE(containsNoCase("aú", "\xBA")); // its second byte
+    EXPECT_FALSE(containsNoCase("aú", "\xC3")); // its first byte
+    EXPECT_TRUE(containsNoCase("aú\xC3", "\xC3"));
+}
+
 TEST(ContainsNoCase, FindsSignsBehindEightAndMoreBytes)
 {
     EXPECT_TRUE(containsNoCase("a?b?c?Curso_Gratis=1", "?curso_gratis"));

@@ -59,6 +59,32 @@ TEST_F(Keys, are_told_apart_by_case_and_length)
     EXPECT_EQ(find("K"), KeyIndex::none);
 }
 
+TEST_F(Keys, of_other_letters_without_a_number_or_written_otherwise_are_found_too)
+{
+    const std::vector<std::string> all{
+        "K7", "K07", "P7", "PK7", "K", "7", "K7a", "K-7", "K4294967295", "K4294967296", "K99999999999999999999",
+        "K0", "K00", "Ñ7"};
+    for (const std::string& key : all)
+        add(key);
+
+    for (std::size_t i = 0; i < all.size(); ++i)
+        EXPECT_EQ(find(all[i]), i) << all[i];
+    for (const char* key : {"K1", "K007", "P07", "k7", "K 7", "K7 ", "K4294967294", ""})
+        EXPECT_EQ(find(key), KeyIndex::none) << key;
+}
+
+TEST_F(Keys, that_begin_with_one_far_away_are_found_each)
+{
+    add("K900000");
+    for (int i = 0; i < 1000; ++i)
+        add("K" + std::to_string(i * 7));
+
+    EXPECT_EQ(find("K900000"), 0U);
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_EQ(find("K" + std::to_string(i * 7)), static_cast<KeyIndex::RowNumber>(i + 1));
+    EXPECT_EQ(find("K8"), KeyIndex::none);
+}
+
 TEST_F(Keys, are_gone_after_clear_and_so_is_the_memory)
 {
     add("K1");
@@ -77,9 +103,29 @@ TEST_F(Keys, cost_at_most_twenty_bytes_each_in_a_long_list)
     // The table doubles: between four fifths and two fifths of it are in use.
     for (const std::size_t count : {50'000U, 100'000U, 105'000U}) {
         while (keys.size() < count)
-            add("K" + std::to_string(keys.size()));
-        EXPECT_LE(index.bytes(), count * 20 + 200) << count;
+            add("K" + std::to_string(keys.size() * 1000));
+        EXPECT_LE(index.bytes(), count * 20 + 500) << count;
     }
+}
+
+TEST_F(Keys, of_numbers_close_together_cost_less_than_half_of_that)
+{
+    for (const std::size_t count : {50'000U, 100'000U, 105'000U}) {
+        while (keys.size() < count)
+            add("K" + std::to_string(keys.size()));
+        EXPECT_LE(index.bytes(), count * 8 + 500) << count;
+    }
+}
+
+TEST_F(Keys, of_numbers_that_come_in_any_order_cost_no_more)
+{
+    constexpr std::size_t count = 100'003; // a prime: each number comes once
+    for (std::size_t i = 0; i < count; ++i)
+        add("K" + std::to_string(i * 48'271 % count));
+
+    EXPECT_LE(index.bytes(), count * 20 + 500);
+    for (std::size_t i = 0; i < count; ++i)
+        ASSERT_EQ(find(keys[i]), i);
 }
 
 } // namespace

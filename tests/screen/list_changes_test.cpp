@@ -55,6 +55,31 @@ TEST_F(Changes, of_a_whole_load_are_told_once)
     expectRange(0, 1000);
 }
 
+TEST_F(Changes, of_one_row_and_then_another_and_the_first_again_are_all_told)
+{
+    fill();
+    for (const char* key : {"K1", "K3", "K1"})
+        list.ListItems()(key).ListSubItems().Add("more");
+    expectRange(1, 4);
+    list.ListItems()("K1").ListSubItems().Add("more"); // the row that was told last
+    expectRange(1, 2);
+}
+
+TEST_F(Changes, begin_with_a_screenful_when_another_row_comes)
+{
+    const Listener begun(list.begun);
+    std::size_t rowsThen = 0;
+    const Subscription first = list.begun.connect([&] { rowsThen = list.rows().count(); });
+    for (std::size_t i = 0; i < ListView::screenful; ++i)
+        addRow(list, "K" + std::to_string(i), {"text", "sub"});
+    EXPECT_EQ(begun.count(), 0);
+    addRow(list, "another", {"text", "sub"});
+    EXPECT_EQ(begun.count(), 1);
+    EXPECT_EQ(rowsThen, ListView::screenful); // each with all its cells
+    addRow(list, "and another", {"text", "sub"});
+    EXPECT_EQ(begun.count(), 1);
+}
+
 TEST_F(Changes, are_told_anew_once_they_were_taken)
 {
     fill();

@@ -43,6 +43,23 @@ TEST(ListRows, finds_ten_thousand_keys_while_the_last_row_is_still_open)
     EXPECT_EQ(rows.find("K10000"), ListRows::none);
 }
 
+TEST(ListRows, gives_the_texts_of_cells_in_one_of_the_open_row_and_of_a_closed_one)
+{
+    ListRows rows;
+    for (const char* key : {"K1", "K2"}) {
+        const auto row = rows.add(key, "own", 0);
+        for (const char* text : {"a", "", "bc"})
+            rows.addCell(row, text);
+    }
+
+    for (const ListRows::RowNumber row : {0U, 1U}) {
+        EXPECT_EQ(rows.cellsFrom(row, 0), "ownabc");
+        EXPECT_EQ(rows.cellsFrom(row, 1), "abc");
+        EXPECT_EQ(rows.cellsFrom(row, 3), "bc");
+        EXPECT_EQ(rows.cellsFrom(row, 4), "");
+    }
+}
+
 TEST(ListRows, refuses_a_repeated_key_of_the_open_row_and_of_a_closed_one)
 {
     ListRows rows;

@@ -52,6 +52,13 @@ QColor legible(const QColor& colour, const QColor& background)
     return contrast(result, background) < readable ? inkOn(background) : result;
 }
 
+QColor LegibleInks::on(const QColor& background, const QColor& colour) const
+{
+    QColor& ink = known_[{background.rgba(), colour.rgba()}];
+    if (!ink.isValid()) ink = legible(colour, background);
+    return ink;
+}
+
 QColor mixed(const QColor& one, const QColor& other, float share)
 {
     return QColor::fromRgbF(one.redF() + (other.redF() - one.redF()) * share,

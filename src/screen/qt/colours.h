@@ -7,8 +7,10 @@
 #include "screen/element.h"
 
 #include <QColor>
+#include <QHash>
 
 #include <optional>
+#include <utility>
 
 class QWidget;
 
@@ -22,6 +24,15 @@ double contrast(const QColor& one, const QColor& other);
 
 /// The colour itself where it can be read on the background, else the nearest lighter or darker one that can.
 QColor legible(const QColor& colour, const QColor& background);
+
+/// The same, found out once for each pair: a list paints a few colours over and over.
+class LegibleInks {
+public:
+    QColor on(const QColor& background, const QColor& colour) const;
+
+private:
+    mutable QHash<std::pair<QRgb, QRgb>, QColor> known_;
+};
 
 /// A colour between two: 0 is the one, 1 the other.
 QColor mixed(const QColor& one, const QColor& other, float share);

@@ -3,8 +3,6 @@
 
 #include "screen/qt/list_cell_painter.h"
 
-#include "screen/qt/colours.h"
-
 #include <QApplication>
 
 #include <algorithm>
@@ -67,8 +65,8 @@ void ListCellPainter::initStyleOption(QStyleOptionViewItem* option, const QModel
     const bool second = (option->features & QStyleOptionViewItem::Alternate) != 0;
     const QColor paper = palette.color(second ? QPalette::AlternateBase : QPalette::Base);
     const bool enabled = (option->state & QStyle::State_Enabled) != 0;
-    const QColor ink = enabled ? legible(colour, paper) : mixed(colour, paper, 0.5F);
-    const QColor selected = legible(colour, palette.color(QPalette::Highlight));
+    const QColor ink = enabled ? inks_.on(paper, colour) : mixed(colour, paper, 0.5F);
+    const QColor selected = inks_.on(palette.color(QPalette::Highlight), colour);
     option->palette.setColor(QPalette::Text, ink);
     option->palette.setColor(QPalette::HighlightedText, selected);
 }

@@ -5,6 +5,8 @@
 // present palette, and figures that are a little too wide for their column in full.
 #pragma once
 
+#include "screen/qt/colours.h"
+
 #include <QStyledItemDelegate>
 
 namespace dn::screen::qt {
@@ -21,6 +23,9 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+private:
+    LegibleInks inks_;
 };
 
 } // namespace dn::screen::qt

@@ -130,6 +130,11 @@ void ListViewModel::publish()
     Q_EMIT published(columnsAreNew, anew);
 }
 
+void ListViewModel::publishBeginning()
+{
+    if (list_ != nullptr && !columnsChanged_) publishRows();
+}
+
 void ListViewModel::publishColumns()
 {
     beginResetModel();

@@ -30,6 +30,9 @@ public:
     /// Makes the model what the element is now; does nothing when it is so already.
     void publish();
 
+    /// Shows the rows that there are in the middle of a load: no selection, no place in the list follows yet.
+    void publishBeginning();
+
 Q_SIGNALS:
     /// Rows and columns are up to date; selection and scrolling may follow.
     /// @param rowsAreNew there were none before, since they were cleared or never there.

@@ -44,6 +44,7 @@ ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard
         model_->publish(); // the row may have come in this very turn
         reveal(static_cast<int>(position));
     });
+    begun_ = list.begun.connect([this] { paintBeginning(); });
     model_->publish();
     bond_.refresh();
 }
@@ -113,6 +114,14 @@ void ListViewView::takePlaceAgain()
         verticalScrollBar()->setValue(currentIndex().row() - *linesAbove_);
     }
     reveal(currentIndex().row());
+}
+
+// A hundred thousand rows take a second or two; the first of them are there to be read much sooner.
+void ListViewView::paintBeginning()
+{
+    if (!isVisible() || !sincePaint_.isValid() || sincePaint_.elapsed() < patience_.count()) return;
+    model_->publishBeginning();
+    viewport()->repaint();
 }
 
 void ListViewView::mirrorSelection()

@@ -9,8 +9,10 @@
 #include "screen/list_view.h"
 #include "screen/qt/bond.h"
 
+#include <QElapsedTimer>
 #include <QTableView>
 
+#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -32,6 +34,9 @@ public:
     /// Offers buttons in the menu of the context: those that show, enabled as they are.
     /// @param commands those of one panel together. They outlive this view.
     void offer(std::vector<screen::Button*> commands) { commands_ = std::move(commands); }
+
+    /// How long nothing may have been painted before a load shows its first rows while the others come.
+    void paintBeginningAfter(std::chrono::milliseconds pause) { patience_ = pause; }
 
     void keyboardSearch(const QString& text) override;
 
@@ -68,6 +73,7 @@ private:
     void setColumnWidths();
     void rememberPlace();
     void takePlaceAgain();
+    void paintBeginning();
     void click(int row);
     bool handleKey(const QKeyEvent& event);
     void pressSpace(int row);
@@ -83,9 +89,12 @@ private:
     int pressedCheck_ = -1;
     std::optional<int> linesAbove_; ///< those above the selected row, if it was in view when the rows went away
     bool mirroring_ = false;
+    std::chrono::milliseconds patience_{100}; // what comes sooner is taken for at once
+    QElapsedTimer sincePaint_;
     std::vector<screen::Button*> commands_;
     Bond<screen::ListView> bond_;
     Subscription revealed_;
+    Subscription begun_;
 };
 
 } // namespace dn::screen::qt

@@ -20,9 +20,26 @@ namespace {
 
 using namespace dn::screen;
 
+class PaintSpy : public QObject {
+public:
+    explicit PaintSpy(QWidget& widget) : QObject(&widget) { widget.installEventFilter(this); }
+
+    int count() const { return count_; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) ++count_;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int count_ = 0;
+};
+
 TEST_F(ListViewTest, rows_are_published_once_a_turn)
 {
     show();
+    table().paintBeginningAfter(std::chrono::hours(1));
     const QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
     addRows(0, 1200);
     EXPECT_EQ(model().rowCount(), 0);
@@ -34,6 +51,53 @@ TEST_F(ListViewTest, rows_are_published_once_a_turn)
     settle();
     EXPECT_EQ(inserted.count(), 2);
     EXPECT_EQ(shown(1299, 2), QStringLiteral("c1299"));
+}
+
+TEST_F(ListViewTest, the_first_rows_of_a_long_load_are_painted_while_the_others_come)
+{
+    show();
+    table().paintBeginningAfter(std::chrono::milliseconds(0));
+    const PaintSpy& paints = *new PaintSpy(*table().viewport()); // owned by the viewport
+    addRows(0, 1200);
+    EXPECT_EQ(model().rowCount(), 64);
+    EXPECT_EQ(paints.count(), 1);
+    EXPECT_EQ(shown(63, 2), QStringLiteral("c63"));
+    EXPECT_FALSE(table().currentIndex().isValid()); // which row is selected is told at the end
+    settle();
+    EXPECT_EQ(model().rowCount(), 1200);
+    EXPECT_EQ(shown(1199, 2), QStringLiteral("c1199"));
+    EXPECT_EQ(table().currentIndex().row(), 0);
+}
+
+TEST_F(ListViewTest, a_load_that_begins_on_the_screen_keeps_the_place_of_the_selected_row)
+{
+    addRows(0, 1000);
+    show();
+    table().paintBeginningAfter(std::chrono::milliseconds(0));
+    list.ListItems()("K500").Selected(true);
+    settle();
+    table().verticalScrollBar()->setValue(495);
+    list.ListItems().Clear();
+    addRows(0, 1000);
+    EXPECT_EQ(model().rowCount(), 64);
+    list.ListItems()("K500").Selected(true);
+    settle();
+    EXPECT_EQ(table().verticalScrollBar()->value(), 495);
+    EXPECT_EQ(table().currentIndex().row(), 500);
+}
+
+TEST_F(ListViewTest, a_load_of_one_screenful_or_out_of_sight_is_painted_once_it_is_whole)
+{
+    show();
+    table().paintBeginningAfter(std::chrono::milliseconds(0));
+    addRows(0, 64);
+    EXPECT_EQ(model().rowCount(), 0);
+    settle();
+    list.ListItems().Clear();
+    list.Visible(false);
+    settle();
+    addRows(0, 1200);
+    EXPECT_EQ(model().rowCount(), 0);
 }
 
 TEST_F(ListViewTest, rows_that_go_away_are_gone_before_anything_is_painted)
