@@ -52,7 +52,8 @@ DateTime MachineClock::Now() const
 Agent::Agent(const LoadOptions& options, std::size_t number)
     : random_(options.seed * 1'000'003 + number),
       thinking_(options.thinking),
-      connection_(host::connect(options.server))
+      connection_(host::connect(options.server)),
+      kept_(options.stepsKept)
 {
     const double before = wallNow();
     control_.SetObjects(&connection_, options.agents.at(number), false, userPrefix + std::to_string(number));
@@ -91,9 +92,18 @@ Step Agent::timed(Action action, const std::function<void()>& work)
     return step;
 }
 
+void Agent::keep(const Step& step)
+{
+    if (kept_ == 0 || steps_.size() < kept_)
+        steps_.push_back(step);
+    else
+        steps_[actions_ % kept_] = step;
+    ++actions_;
+}
+
 void Agent::record(Action action, const std::function<void()>& work, const std::function<bool()>& right)
 {
-    steps_.push_back(timed(action, work));
+    keep(timed(action, work));
     if (!right())
         wrong_.push_back(std::string(actionNames[static_cast<std::size_t>(action)]) + ": not what was to be seen");
 }

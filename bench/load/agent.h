@@ -59,6 +59,8 @@ public:
     void act();
 
     const std::vector<Step>& steps() const { return steps_; }
+    /// Steps taken, kept or not.
+    std::size_t actions() const { return actions_; }
     const std::vector<std::string>& wrong() const { return wrong_; }
     std::size_t statements() const { return statements_; }
     /// Notes that were registered, each a line in the activity log.
@@ -72,6 +74,7 @@ public:
 
 private:
     Step timed(Action action, const std::function<void()>& work);
+    void keep(const Step& step);
     void record(Action action, const std::function<void()>& work, const std::function<bool()>& right);
     Action choose();
     std::string clickSomeRow();
@@ -92,6 +95,8 @@ private:
     WatchedConnection connection_;
     ctrDnContacts control_{screen::Ports{dialogs_, pointer_, events_, clock_}};
 
+    std::size_t kept_;
+    std::size_t actions_ = 0;
     std::vector<Step> steps_;
     std::vector<std::string> wrong_;
     std::size_t statements_ = 0;

@@ -84,6 +84,7 @@ private:
         const std::lock_guard lock(mutex_);
         result_.steps.insert(result_.steps.end(), agent.steps().begin(), agent.steps().end());
         result_.wrong.insert(result_.wrong.end(), agent.wrong().begin(), agent.wrong().end());
+        result_.actions += agent.actions();
         result_.statements += agent.statements();
         result_.startMilliseconds = std::max(result_.startMilliseconds, agent.startMilliseconds());
         notes_ += agent.notes();

@@ -42,6 +42,9 @@ struct LoadOptions {
     std::chrono::milliseconds duration = std::chrono::seconds(20);
     std::chrono::milliseconds thinking = std::chrono::seconds(4); ///< on average, between two actions
     std::uint64_t seed = 1;
+    /// Of each agent's steps only the last so many are kept, so that what is measured does not fill the memory; 0
+    /// keeps all.
+    std::size_t stepsKept = 0;
 };
 
 /// One action of one agent, in milliseconds.
@@ -55,6 +58,7 @@ struct Step {
 
 struct LoadResult {
     std::vector<Step> steps;
+    std::size_t actions = 0;        ///< steps taken, kept or not
     std::vector<std::string> wrong; ///< answers that were not as they should, and failed statements
     std::size_t statements = 0;
     double seconds = 0;           ///< from the first action to the last

@@ -7,6 +7,7 @@
 #include "tests/faults/office.h"
 #include "tests/faults/watched_connection.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,6 +23,8 @@ public:
     virtual std::string origin() const { return "server"; }
     /// Whether the statement can meet with it at all.
     virtual bool meets(const std::string& statement) const { return !office().tableOf(statement).empty(); }
+    /// How long the control's connection waits for an answer.
+    virtual std::chrono::seconds patience() const { return std::chrono::seconds(30); }
     /// Whether it costs more than a few milliseconds.
     virtual bool dear() const { return false; }
     /// Whether the statement may have run though nobody acknowledged it.

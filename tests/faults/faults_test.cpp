@@ -58,7 +58,7 @@ std::string goesOn(AtWork& work)
 Course perform(const Action& action, Fault* fault, std::size_t at)
 {
     office().reset();
-    AtWork work(office().salesperson());
+    AtWork work(fault == nullptr ? office().salesperson() : office().salesperson(fault->patience()));
     action.prepare(work);
     work.cnn->sent.clear();
     work.dialogs.boxes.clear();
@@ -184,13 +184,11 @@ struct Count {
     std::size_t statements = 0;
 };
 
-// The dear ones at the first statement of the first action that can meet with them; where all are asked for at
-// every statement of the first actions, and at the first one of each of the others.
+// The dear ones at the first statement of the first action that can meet with them, unless all are asked for.
 bool isDue(const Fault& fault, std::size_t action, std::size_t number, const Course& undisturbed)
 {
-    constexpr std::size_t firstActions = 4;
-    if (!fault.dear() || (everything() && action < firstActions)) return true;
-    if (action != 0 && !everything()) return false;
+    if (!fault.dear() || everything()) return true;
+    if (action != 0) return false;
     return std::none_of(undisturbed.sent.begin(), undisturbed.sent.begin() + static_cast<std::ptrdiff_t>(number),
                         [&](const Sent& earlier) { return fault.meets(earlier.text); });
 }

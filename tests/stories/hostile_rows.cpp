@@ -3,6 +3,8 @@
 
 #include "tests/stories/hostile_rows.h"
 
+#include <initializer_list>
+
 namespace dn::tests {
 namespace {
 
@@ -17,6 +19,14 @@ const std::vector<std::string> otherColumns{"uf_Nombre",      "uf_EMail",       
                                             "uf_color",       "uf_Redirect",     "uf_proxcontac",
                                             "uf_NotaStatus",  "uf_FechaStatus",  "uf_res_ultimointento",
                                             "uf_contactado",  "uf_primercontac", "uf_correoverif"};
+
+std::string directoryColumns(std::initializer_list<const char*> names, const std::string& type)
+{
+    std::string columns = "Sys_PK BIGINT, IEjecutivo INT";
+    for (const char* name : names)
+        columns.append(", ").append(name).append(" ").append(type);
+    return columns;
+}
 
 } // namespace
 
@@ -80,11 +90,16 @@ const char* const projectColumns =
 
 std::string personColumnsOf(const std::string& type)
 {
-    std::string columns = "Sys_PK BIGINT, IEjecutivo INT";
-    for (const char* column : {"Codigo", "Nombre", "Apellido1", "Apellido2", "EMail", "EMail2", "MSN", "Tel_Casa",
-                               "Tel_Trabajo", "Tel_Movil", "Domicilio", "Colonia", "CodPostal"})
-        columns += std::string(", ") + column + " " + type;
-    return columns;
+    return directoryColumns({"Codigo", "Nombre", "Apellido1", "Apellido2", "EMail", "EMail2", "MSN", "Tel_Casa",
+                             "Tel_Trabajo", "Tel_Movil", "Domicilio", "Colonia", "CodPostal"},
+                            type);
+}
+
+std::string organisationColumnsOf(const std::string& type)
+{
+    return directoryColumns({"Codigo", "Nombre", "NomComercial", "Tel1", "Tel2", "Tel3", "Fax", "EMail", "WebSite",
+                             "Domicilio", "Colonia", "CodPostal", "Nacionalidad"},
+                            type);
 }
 
 } // namespace dn::tests

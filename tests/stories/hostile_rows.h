@@ -29,6 +29,8 @@ std::string longProspectRowOf(int key, const std::string& literal);
 /// The columns of the projects without a key that is unique, and with any number of digits.
 extern const char* const projectColumns;
 
+/// The columns of a directory with one type for all but the key and the agent.
 std::string personColumnsOf(const std::string& type);
+std::string organisationColumnsOf(const std::string& type);
 
 } // namespace dn::tests

@@ -48,6 +48,20 @@ std::string WorkingDay::named(const std::string& name, const std::string& next)
                                           {"uf_proxcontac", next}}));
 }
 
+std::vector<WorkingDay::Piece> WorkingDay::pieces()
+{
+    return {{"09:00:00", [this] { opensTheQueue(); }},
+            {"09:10:00", [this] { losesMaria(); }},
+            {"09:15:00", [this] { makesAProjectOfNora(); }},
+            {"09:20:00", [this] { promotesLuz(); }},
+            {"09:30:00", [this] { reachesNobodyAtRitas(); }},
+            {"09:40:00", [this] { reachesSomebodyElseAtRitas(); }},
+            {"10:00:00", [this] { agreesWithRita(); }},
+            {"10:10:00", [this] { callsAboutSilo(); }},
+            {"10:20:00", [this] { plansAnActivityOfMolino(); }},
+            {"10:30:00", [this] { discardsPedro(); }}};
+}
+
 void WorkingDay::opensTheQueue()
 {
     enters(ana);

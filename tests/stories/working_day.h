@@ -6,6 +6,7 @@
 
 #include "tests/stories/day.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,15 @@ class WorkingDay : public Day {
 protected:
     /// The evening before, this was there: six prospects of hers, one of them for the day after, and two projects.
     WorkingDay();
+
+    struct Piece {
+        std::string hour;
+        std::function<void()> work;
+    };
+    /// All of what follows, each at its hour.
+    std::vector<Piece> pieces();
+    /// Both clocks stand at that hour of the day.
+    void itIsAt(const std::string& hour) { itIs("2026-03-14 " + hour); }
 
     void opensTheQueue();
     /// Notes what she hears, finds the prospect by the search, and gives it up with a reason.
@@ -45,6 +55,8 @@ protected:
     std::vector<std::string> changesToBeSent() const;
     std::vector<std::string> readsToBeSent() const;
     std::vector<std::string> logToBeWritten() const;
+    /// Looks at every row that the day was to leave.
+    void leftItsRows();
 
     std::string maria, luz, nora, rita, pedro, tere, silo, molino;
 

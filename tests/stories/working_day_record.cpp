@@ -14,6 +14,9 @@
 namespace dn::tests {
 namespace {
 
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
 constexpr std::array answersWithoutContact{"No se encuentra", "Ocupado o \"en junta\"", "Número equivocado",
                                            "Me colgaron",     "No quiere saber nada",   "habla otro idioma"};
 
@@ -146,6 +149,33 @@ std::vector<std::string> WorkingDay::logToBeWritten() const
     all.push_back(line(pedro, "10:30:00", noContact + "Número equivocado>"));
     all.push_back(line(pedro, "10:30:00", ">> Descartado: teléfono equivocado"));
     return all;
+}
+
+void WorkingDay::leftItsRows()
+{
+    // The form of the statement that stores the first contact is one that SQL Server refuses.
+    const std::string firstContactOfRita = onSqlServer() ? "NULL|NULL" : "1|2026-03-14 10:00:00";
+    EXPECT_THAT(
+        inTheDatabase(
+            "SELECT uf_Nombre, uf_Telefono, uf_Status, uf_NotaStatus, uf_FechaStatus, uf_proxcontac, "
+            "uf_ultimointento, uf_res_ultimointento, uf_contactado, uf_primercontac, uf_ultimocontac FROM "
+            "ut_icontact ORDER BY Sys_PK"),
+        ElementsAre("María|961|2|compró|2026-03-14 09:10:00|2026-03-13 10:00:00|NULL|NULL|NULL|NULL|NULL",
+                    "Luz|961 555|3||2026-03-14 09:20:00|2026-03-14 12:00:00|NULL|NULL|NULL|NULL|NULL",
+                    "Nora|961|1|Actualizado por creación de proyecto|2026-03-14 09:15:00|2026-03-14 11:00:00|"
+                    "NULL|NULL|NULL|NULL|NULL",
+                    "Rita|961|0|NULL|NULL|2026-03-15 10:00:00|2026-03-14 10:00:00|50|" + firstContactOfRita +
+                        "|2026-03-14 10:00:00",
+                    "Pedro|961|1|teléfono equivocado|2026-03-14 10:30:00|NULL|2026-03-14 10:30:00|13|NULL|NULL|"
+                    "NULL",
+                    "Tere|961|0|NULL|NULL|2026-03-15 09:00:00|NULL|NULL|NULL|NULL|NULL"));
+    EXPECT_THAT(log(), ElementsAreArray(logToBeWritten()));
+    EXPECT_THAT(inTheDatabase("SELECT Sys_PK, UF_Status1, uf_ultimointento, uf_res_ultimointento FROM Proyecto "
+                              "ORDER BY Sys_PK"),
+                ElementsAre(silo + "|1|2026-03-14 10:10:00|2", molino + "|1|NULL|NULL"));
+    EXPECT_THAT(inTheDatabase("SELECT IProyecto, FInicio, Hecho FROM actividad ORDER BY Sys_PK"),
+                ElementsAre(silo + "|2026-03-14 08:00:00|1", silo + "|2026-03-20 10:00:00|0",
+                            molino + "|2026-03-20 10:00:00|0"));
 }
 
 } // namespace dn::tests
