@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 #include <locale>
+#include <map>
 #include <vector>
 
 namespace dn {
@@ -49,8 +50,10 @@ class FoldTable {
 public:
     FoldTable() : locale_(unicodeLocale()), facet_(std::use_facet<std::ctype<wchar_t>>(locale_))
     {
-        for (char32_t c = 0; c < table_.size(); ++c)
+        for (char32_t c = 0; c < table_.size(); ++c) {
             table_[c] = static_cast<char16_t>(isSurrogate(c) ? c : static_cast<char32_t>(slow(c)));
+            if (table_[c] != c) others_.emplace(table_[c], c);
+        }
     }
 
     char32_t fold(char32_t c) const { return c < table_.size() ? table_[c] : slow(c); }
@@ -65,8 +68,9 @@ public:
             leads.set(static_cast<unsigned char>(text.front()));
         };
         add(folded);
-        for (char32_t c = 0; c < table_.size(); ++c)
-            if (table_[c] == folded) add(c);
+        const auto [first, behind] = others_.equal_range(folded);
+        for (auto other = first; other != behind; ++other)
+            add(other->second);
         return leads;
     }
 
@@ -76,6 +80,7 @@ private:
     std::locale locale_;
     const std::ctype<wchar_t>& facet_;
     std::vector<char16_t> table_ = std::vector<char16_t>(0x10000);
+    std::multimap<char32_t, char32_t> others_; // what folds to a character, besides itself
 };
 
 const FoldTable& foldTable()

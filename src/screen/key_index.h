@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Finds a row of a list view by its key in constant time, at four to twenty bytes a row: by the number in the key
-// where the numbers lie close together, else in a flat table of row numbers with open addressing. The keys
-// themselves lie in the rows.
+// Finds a row of a list view by its key in constant time, at ten to twenty bytes a row: a flat table of row
+// numbers with open addressing. The keys themselves lie in the rows.
 #pragma once
 
 #include "base/export.h"
-#include "screen/numbered_keys.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,20 +18,23 @@ namespace dn::screen {
 
 class DN_INTERNAL KeyIndex {
 public:
-    using RowNumber = NumberedKeys::RowNumber;
+    using RowNumber = std::uint32_t;
 
-    static constexpr RowNumber none = NumberedKeys::none;
+    static constexpr RowNumber none = 0xFFFFFFFF;
 
-    void clear() { *this = KeyIndex(); }
+    void clear()
+    {
+        std::vector<Slot>().swap(slots_);
+        used_ = 0;
+    }
 
-    std::size_t bytes() const { return numbered_.bytes() + slots_.capacity() * sizeof(Slot); }
+    std::size_t bytes() const { return slots_.capacity() * sizeof(Slot); }
 
     /// The row of a key, or `none`.
     /// @param keyOf gives the key of a row; asked only where the hashes are equal.
     template <class KeyOfRow>
     RowNumber find(std::string_view key, const KeyOfRow& keyOf) const
     {
-        if (const RowNumber row = numbered_.find(key); row != none) return row;
         if (slots_.empty()) return none;
         const std::uint32_t hash = hashOf(key);
         for (std::size_t slot = home(hash);; slot = next(slot)) {
@@ -46,7 +47,6 @@ public:
     /// Adds a row whose key the index does not hold yet.
     void insert(std::string_view key, RowNumber row)
     {
-        if (numbered_.insert(key, row)) return;
         if ((used_ + 1) * 5 > slots_.size() * 4) grow();
         place({row, hashOf(key)});
         ++used_;
@@ -84,8 +84,7 @@ private:
             if (entry.row != none) place(entry);
     }
 
-    NumberedKeys numbered_;
-    std::vector<Slot> slots_; // all other keys
+    std::vector<Slot> slots_;
     std::size_t used_ = 0;
 };
 

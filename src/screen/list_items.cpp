@@ -139,7 +139,7 @@ void ListItem::EnsureVisible() const { list_->revealed.emit(list_->rows().positi
 
 ListItem ListItems::Add(std::string_view key, std::string_view text, int smallIcon)
 {
-    if (list_->rows_.count() == ListView::screenful) list_->begun.emit();
+    if (list_->rows_.count() % ListView::manyRows == ListView::screenful) list_->growing.emit();
     const ListRows::RowNumber row = list_->rows_.add(key, text, smallIcon);
     if (list_->selected_ == ListRows::none) list_->select(list_->rows().rowAt(0));
     list_->textChanged(row);

@@ -195,9 +195,10 @@ public:
     /// What changed since the last call; the next change raises `dirty` anew.
     ListChanges takeChanges();
     static constexpr std::size_t screenful = 64; ///< rows, more than a usual window shows
-    Signal<> begun;                              ///< the first screenful of rows is there, and another one comes
-    Signal<> cleared;                            ///< rows are gone: nothing that was shown is there any more
-    Signal<> dirty;                              ///< raised once, at the first change after `takeChanges`
+    static constexpr std::size_t manyRows = 1024;
+    Signal<> growing; ///< in the middle of a load: behind the first screenful, then once in many rows
+    Signal<> cleared; ///< rows are gone: nothing that was shown is there any more
+    Signal<> dirty;   ///< raised once, at the first change after `takeChanges`
     Signal<> columnsChanged;
     Signal<std::size_t> revealed; ///< a position to scroll to
 

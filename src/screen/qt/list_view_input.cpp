@@ -168,7 +168,6 @@ void ListViewView::keyboardSearch(const QString& text)
 
 bool ListViewView::viewportEvent(QEvent* event)
 {
-    if (event->type() == QEvent::Paint) sincePaint_.start();
     if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
     const auto* const help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());

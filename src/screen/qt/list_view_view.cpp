@@ -44,7 +44,8 @@ ListViewView::ListViewView(screen::ListView& list, QWidget* parent, Guard& guard
         model_->publish(); // the row may have come in this very turn
         reveal(static_cast<int>(position));
     });
-    begun_ = list.begun.connect([this] { paintBeginning(); });
+    cleared_ = list.cleared.connect([this] { rowsGone_.start(); });
+    growing_ = list.growing.connect([this] { paintBeginning(); });
     model_->publish();
     bond_.refresh();
 }
@@ -91,6 +92,7 @@ void ListViewView::mirrorSorting(const screen::ListView& list)
 
 void ListViewView::showPublished(bool columnsAreNew, bool rowsAreNew)
 {
+    rowsGone_.invalidate();
     if (columnsAreNew) setColumnWidths();
     mirrorSelection();
     if (rowsAreNew && currentIndex().isValid()) takePlaceAgain();
@@ -119,7 +121,10 @@ void ListViewView::takePlaceAgain()
 // A hundred thousand rows take a second or two; the first of them are there to be read much sooner.
 void ListViewView::paintBeginning()
 {
-    if (!isVisible() || !sincePaint_.isValid() || sincePaint_.elapsed() < patience_.count()) return;
+    if (!isVisible() || !rowsGone_.isValid() || rowsGone_.elapsed() < patience_.count()) return;
+    if (const screen::ListView* const list = bond_.element(); list == nullptr || list->Sorted())
+        return; // the first to come need not be the first in the end
+    rowsGone_.invalidate();
     model_->publishBeginning();
     viewport()->repaint();
 }

@@ -35,7 +35,7 @@ public:
     /// @param commands those of one panel together. They outlive this view.
     void offer(std::vector<screen::Button*> commands) { commands_ = std::move(commands); }
 
-    /// How long nothing may have been painted before a load shows its first rows while the others come.
+    /// How long the rows may be gone before a load shows the first new ones while the others come.
     void paintBeginningAfter(std::chrono::milliseconds pause) { patience_ = pause; }
 
     void keyboardSearch(const QString& text) override;
@@ -90,11 +90,12 @@ private:
     std::optional<int> linesAbove_; ///< those above the selected row, if it was in view when the rows went away
     bool mirroring_ = false;
     std::chrono::milliseconds patience_{100}; // what comes sooner is taken for at once
-    QElapsedTimer sincePaint_;
+    QElapsedTimer rowsGone_;                  // runs until the new ones are on the screen
     std::vector<screen::Button*> commands_;
     Bond<screen::ListView> bond_;
     Subscription revealed_;
-    Subscription begun_;
+    Subscription cleared_;
+    Subscription growing_;
 };
 
 } // namespace dn::screen::qt

@@ -39,7 +39,6 @@ private:
 TEST_F(ListViewTest, rows_are_published_once_a_turn)
 {
     show();
-    table().paintBeginningAfter(std::chrono::hours(1));
     const QSignalSpy inserted(&model(), &QAbstractItemModel::rowsInserted);
     addRows(0, 1200);
     EXPECT_EQ(model().rowCount(), 0);
@@ -53,19 +52,21 @@ TEST_F(ListViewTest, rows_are_published_once_a_turn)
     EXPECT_EQ(shown(1299, 2), QStringLiteral("c1299"));
 }
 
-TEST_F(ListViewTest, the_first_rows_of_a_long_load_are_painted_while_the_others_come)
+TEST_F(ListViewTest, the_first_rows_of_a_long_load_are_painted_once_while_the_others_come)
 {
+    addRows(0, 3);
     show();
     table().paintBeginningAfter(std::chrono::milliseconds(0));
     const PaintSpy& paints = *new PaintSpy(*table().viewport()); // owned by the viewport
-    addRows(0, 1200);
+    list.ListItems().Clear();
+    addRows(0, 3000);
     EXPECT_EQ(model().rowCount(), 64);
     EXPECT_EQ(paints.count(), 1);
     EXPECT_EQ(shown(63, 2), QStringLiteral("c63"));
     EXPECT_FALSE(table().currentIndex().isValid()); // which row is selected is told at the end
     settle();
-    EXPECT_EQ(model().rowCount(), 1200);
-    EXPECT_EQ(shown(1199, 2), QStringLiteral("c1199"));
+    EXPECT_EQ(model().rowCount(), 3000);
+    EXPECT_EQ(shown(2999, 2), QStringLiteral("c2999"));
     EXPECT_EQ(table().currentIndex().row(), 0);
 }
 
@@ -86,16 +87,40 @@ TEST_F(ListViewTest, a_load_that_begins_on_the_screen_keeps_the_place_of_the_sel
     EXPECT_EQ(table().currentIndex().row(), 500);
 }
 
-TEST_F(ListViewTest, a_load_of_one_screenful_or_out_of_sight_is_painted_once_it_is_whole)
+TEST_F(ListViewTest, rows_that_came_soon_enough_are_painted_once_all_are_there)
 {
+    addRows(0, 3);
+    show();
+    table().paintBeginningAfter(std::chrono::hours(1));
+    list.ListItems().Clear();
+    addRows(0, 1200);
+    EXPECT_EQ(model().rowCount(), 0);
+}
+
+TEST_F(ListViewTest, a_load_is_painted_as_a_whole_where_its_beginning_would_tell_nothing)
+{
+    addRows(0, 3);
     show();
     table().paintBeginningAfter(std::chrono::milliseconds(0));
-    addRows(0, 64);
+
+    list.ListItems().Clear();
+    addRows(0, 64); // one screenful
     EXPECT_EQ(model().rowCount(), 0);
     settle();
+    addRows(64, 1200); // more rows, and no new load
+    EXPECT_EQ(model().rowCount(), 64);
+    settle();
+
+    list.Sorted(true); // the first to come need not be the first in the end
     list.ListItems().Clear();
+    addRows(0, 1200);
+    EXPECT_EQ(model().rowCount(), 0);
+    settle();
+    list.Sorted(false);
+
     list.Visible(false);
     settle();
+    list.ListItems().Clear();
     addRows(0, 1200);
     EXPECT_EQ(model().rowCount(), 0);
 }
