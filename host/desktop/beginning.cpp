@@ -52,7 +52,18 @@ std::optional<StartAnswer> Beginning::ask(const std::optional<StartChoice>& befo
     if (before) window.fillWith(*before);
     if (!problem.isEmpty()) window.complain(problem);
     if (window.exec() != QDialog::Accepted) return std::nullopt;
-    return window.answer();
+    StartAnswer answer = window.answer();
+    if (before) takeKeptPassword(answer, *before);
+    return answer;
+}
+
+// The field comes up empty, also where the keyring has a password for that account: then it is still the one.
+void Beginning::takeKeptPassword(StartAnswer& answer, const StartChoice& before)
+{
+    if (!answer.choice.own || !before.own || !answer.password.empty()) return;
+    const std::string account = accountOf(answer.choice.database);
+    if (account != accountOf(before.database)) return;
+    if (const auto kept = keyring_.find(account)) answer.password = *kept;
 }
 
 /// The choice with its password; nothing when that is not to be had, which brings up the window of the first

@@ -34,6 +34,7 @@ public:
 private:
     std::optional<StartAnswer> ask(const std::optional<StartChoice>& before, const QString& problem,
                                    QWidget* over);
+    void takeKeptPassword(StartAnswer& answer, const StartChoice& before);
     std::optional<StartAnswer> remembered(const StartChoice& choice);
     void keep(const StartAnswer& answer);
 

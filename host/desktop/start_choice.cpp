@@ -25,10 +25,12 @@ std::string braced(const std::string& value)
     return out + "}";
 }
 
+// Every driver has names of its own for them; a password that is not seen as one would lie in a file.
 bool namesAnOperator(const QString& odbc)
 {
-    static const QRegularExpression key(QStringLiteral(R"((^|;)\s*(pwd|password|uid|user)\s*=)"),
-                                        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression key(
+        QStringLiteral(R"((^|;)\s*(\w*pwd|\w*passw\w*|passphrase|uid|user[ _]?(id|name)?|login)\s*=)"),
+        QRegularExpression::CaseInsensitiveOption);
     return key.match(odbc).hasMatch();
 }
 

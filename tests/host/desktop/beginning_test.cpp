@@ -322,5 +322,45 @@ TEST_F(BeginningTest, another_database_can_be_chosen_for_the_next_start)
     EXPECT_EQ(opened.back(), own);
 }
 
+TEST_F(BeginningTest, a_password_that_is_kept_need_not_be_typed_again)
+{
+    expectStart([](QWidget& window) {
+        choosesOwn(window);
+        key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(opens());
+    expectStart([](QWidget& window) {
+        EXPECT_EQ(part<QLineEdit>(window, "txtClave").text(), "");
+        part<QLineEdit>(window, "txtUsuario").setFocus();
+        key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(beginning.chooseAgain(nullptr));
+    EXPECT_EQ(keyring.kept.at(account), "muysecreta");
+    refusal = "El servidor no contesta.";
+    expectStart([](QWidget& window) {
+        part<QLineEdit>(window, "txtUsuario").setFocus();
+        key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(opens());
+    EXPECT_THAT(opened, ElementsAre(own, own, own));
+    EXPECT_EQ(keyring.kept.at(account), "muysecreta");
+}
+
+TEST_F(BeginningTest, a_kept_password_goes_to_no_other_account)
+{
+    expectStart([](QWidget& window) {
+        choosesOwn(window);
+        key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(opens());
+    expectStart([](QWidget& window) {
+        types(window, "txtServidor", "otro.example.com");
+        key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(beginning.chooseAgain(nullptr));
+    EXPECT_TRUE(opens());
+    EXPECT_EQ(opened.back(), "mariadb://ana:@otro.example.com:3306/ventas");
+}
+
 } // namespace
 } // namespace dn::host

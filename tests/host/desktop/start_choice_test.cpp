@@ -38,7 +38,8 @@ TEST(StartChoice, a_database_needs_what_leads_to_it)
     EXPECT_EQ(problemOf(odbc("SERVER=x; dsn=ventas")), "");
     EXPECT_EQ(problemOf(odbc("SERVER=x")), "La cadena de conexión debe llevar DRIVER= o DSN=.");
     for (const char* text :
-         {"DSN=v;PWD=x", "DSN=v; pwd =x", "password=x;DSN=v", "DSN=v;UID=ana", "DSN=v;user=ana"})
+         {"DSN=v;PWD=x", "DSN=v; pwd =x", "password=x;DSN=v", "DSN=v;Passwd=x", "DSN=v;PASSPHRASE=x",
+          "DSN=v;User Id=ana", "DSN=v; UserName =ana", "DSN=v;UID=ana", "DSN=v;user=ana"})
         EXPECT_EQ(problemOf(odbc(text)),
                   "Escriba el usuario y la clave en sus propios campos, no en la cadena de conexión.")
             << text;
