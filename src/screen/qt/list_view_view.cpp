@@ -92,7 +92,7 @@ void ListViewView::mirrorSorting(const screen::ListView& list)
 
 void ListViewView::showPublished(bool columnsAreNew, bool rowsAreNew)
 {
-    rowsGone_.invalidate();
+    if (model_->rowCount() > 0) rowsGone_.invalidate(); // a load may yield between the old rows and the new ones
     if (columnsAreNew) setColumnWidths();
     mirrorSelection();
     if (rowsAreNew && currentIndex().isValid()) takePlaceAgain();

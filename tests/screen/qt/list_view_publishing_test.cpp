@@ -87,6 +87,18 @@ TEST_F(ListViewTest, a_load_that_begins_on_the_screen_keeps_the_place_of_the_sel
     EXPECT_EQ(table().currentIndex().row(), 500);
 }
 
+TEST_F(ListViewTest, a_load_that_yields_ahead_of_its_statement_begins_on_the_screen_too)
+{
+    addRows(0, 3);
+    show();
+    table().paintBeginningAfter(std::chrono::milliseconds(0));
+    list.ListItems().Clear();
+    settle();
+    EXPECT_EQ(model().rowCount(), 0);
+    addRows(0, 3000);
+    EXPECT_EQ(model().rowCount(), 64);
+}
+
 TEST_F(ListViewTest, rows_that_came_soon_enough_are_painted_once_all_are_there)
 {
     addRows(0, 3);
