@@ -150,22 +150,27 @@ void appendDate(std::string& text, const DateTime& moment, std::string_view patt
     }
 }
 
-// "dd/mm/yyyy hh:nn:ss" without a pattern to be read: every date of every list comes through here.
 std::string defaultText(const DateTime& moment)
 {
     std::string text;
+    appendDefaultText(text, moment);
+    return text;
+}
+
+// "dd/mm/yyyy hh:nn:ss" without a pattern to be read: every date of every list comes through here.
+void appendDefaultText(std::string& text, const DateTime& moment)
+{
     if (moment.hasDate()) {
         appendPair(text, moment.day);
         appendPair(text += '/', moment.month);
         appendPair(text += '/', moment.year / 100);
         appendPair(text, moment.year);
-        if (moment.isMidnight()) return text;
+        if (moment.isMidnight()) return;
         text += ' ';
     }
     appendPair(text, moment.hour);
     appendPair(text += ':', moment.minute);
     appendPair(text += ':', moment.second);
-    return text;
 }
 
 std::string formatThreeDigits(std::int64_t number)

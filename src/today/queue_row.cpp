@@ -67,7 +67,10 @@ void QueueRowBuilder::addHora(screen::ListItem& row)
         if (!cita.isNull())
             resumeNext([&] {
                 const DateTime moment = cita.toDateTime();
-                text_ = moment.date() < today_ ? cita.toText() : defaultText(moment.timeOfDay());
+                const bool past = moment.date() < today_;
+                if (past && cita.kind() != data::Value::Kind::dateTime) return; // a text shows as it came
+                text_.clear();
+                appendDefaultText(text_, past ? moment : moment.timeOfDay());
             });
         row.ListSubItems().Add(text_);
     });
