@@ -127,7 +127,8 @@ void Agent::act()
 {
     const Action action = choose();
     // Whatever was done last, the prospects are where most work begins.
-    if (action < Action::queue && !lvw().Visible()) openTab(desk::prospectos);
+    const bool elsewhere = action >= Action::queue && action <= Action::companies;
+    if (!elsewhere && !lvw().Visible()) openTab(desk::prospectos);
     switch (action) {
     case Action::refresh:
         record(
@@ -214,7 +215,7 @@ void Agent::searchLast()
         Action::search, [&] { control_.elements().top.cmdOkBuscar.press(); },
         [&] {
             const auto found = lvw().SelectedItem();
-            return found && found->ListSubItems()(name).Text() == text;
+            return found && found->ListSubItems()(name).Text().find(text) != std::string_view::npos;
         });
 }
 
@@ -223,7 +224,11 @@ void Agent::sortBySome()
     const auto column = static_cast<int>(random_() % lvw().ColumnHeaders().size());
     const int rows = lvw().ListItems().Count();
     record(
-        Action::sort, [&] { lvw().clickHeader(column); },
+        Action::sort,
+        [&] {
+            lvw().clickHeader(column);
+            lvw().ListItems()(1); // rows are sorted once somebody looks at them, as a view does
+        },
         [&] { return lvw().SortKey() == column && lvw().ListItems().Count() == rows; });
 }
 
