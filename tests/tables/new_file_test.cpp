@@ -10,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
