@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/database/database.h"
+#include "host/keyboard_place.h"
 #include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
 #include "host/program_options.h"
@@ -29,8 +30,8 @@ class ConnectionBar;
 class MainWindow : public QMainWindow {
 public:
     /// @param database outlives the window.
-    /// @param pauses between the attempts to reach a database that was lost; none: the usual ones.
-    MainWindow(Database& database, const Worker& worker, Reconnection::Pauses pauses = {});
+    /// @param rhythm of the attempts to reach a database that was lost.
+    MainWindow(Database& database, const Worker& worker, Rhythm rhythm = {});
     ~MainWindow() override;
 
     /// Hands the connection, the worker and the host's screens to the control and shows its first screen.
@@ -59,7 +60,9 @@ private:
     bool atRest();
     static bool isLoading();
     bool isOpen() const;
+    void watchNote();
     void resumeWhenAtRest();
+    void rememberPlace();
     void resume();
     void refresh();
     void reportError(const std::exception& failure);
@@ -71,8 +74,9 @@ private:
     Reconnection reconnection_;
     ConnectionBar* bar_;
     screen::qt::CtrDnContactsWidget* widget_;
-    WorkPlace place_;                  // while the connection stood, a moment ago
+    WorkPlace place_;                  // a moment ago, or where the last note was typed
     std::optional<WorkPlace> leading_; // where to take the operator back to; until it is done
+    KeyboardPlace keyboard_;           // with it
     bool waiting_ = false;             // for the control to be at rest
     int looks_ = 0;                    // how often it was not
     screen::Subscription calls_;
