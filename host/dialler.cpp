@@ -40,7 +40,7 @@ QString telephoneAddress(const std::string& text)
     const QString numbers = QString::fromStdString(text).replace(counted, QStringLiteral(";"));
     for (const QRegularExpressionMatch& candidate : run.globalMatch(numbers)) {
         const QString digits = firstOf(candidate.captured());
-        if (digits.size() < shortest) continue;
+        if (digits.size() < shortest || digits.size() > longest) continue;
         return (candidate.capturedView().startsWith(u'+') ? "tel:+" : "tel:") + digits;
     }
     return {};
