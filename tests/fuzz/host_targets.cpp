@@ -119,8 +119,8 @@ std::string stripped(const std::string& text)
 
 bool isLoopback(const std::string& server)
 {
-    return server == "localhost" || server == "[::1]" ||
-           std::regex_match(server, std::regex(R"(127\.\d{1,3}\.\d{1,3}\.\d{1,3})"));
+    static const std::regex address(R"(127\.\d{1,3}\.\d{1,3}\.\d{1,3})");
+    return server == "localhost" || server == "[::1]" || std::regex_match(server, address);
 }
 
 void requireSound(const host::MailSettings& settings)
@@ -302,8 +302,8 @@ void amounts(Input& input)
     std::string core(trimmed(text));
     if (core.starts_with('$')) core = trimmed(core.substr(1));
     std::smatch parts;
-    const bool holds =
-        std::regex_match(core, parts, std::regex(R"((?=.*\d)(\d*|\d{1,3}(?:,\d{3})+)(?:\.(\d{0,2}))?)"));
+    static const std::regex form(R"((?=.*\d)(\d*|\d{1,3}(?:,\d{3})+)(?:\.(\d{0,2}))?)");
+    const bool holds = std::regex_match(core, parts, form);
     std::string whole = holds ? without(parts[1].str(), ",") : "";
     whole.erase(0, std::min(whole.find_first_not_of('0'), whole.size()));
     require(amount.has_value() == (holds && whole.size() <= 15), "an amount is read, and nothing else");

@@ -224,7 +224,8 @@ std::string takeText(std::string_view& statement, host::Engine engine)
 
 bool isDecimalText(std::string_view text)
 {
-    return std::regex_match(text.begin(), text.end(), std::regex(R"(-?\d+(\.\d+)?)"));
+    static const std::regex form(R"(-?\d+(\.\d+)?)");
+    return std::regex_match(text.begin(), text.end(), form);
 }
 
 /// Whether a text fits a pattern for LIKE with "!" as the sign that takes a wildcard's power.
