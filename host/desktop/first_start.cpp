@@ -102,11 +102,12 @@ QWidget* FirstStart::ownFields()
     kind_->addItems({"MariaDB o MySQL", "SQL Server u otro, por ODBC"});
     add("&Clase de servidor:", kind_, "cbClase");
     add("Ser&vidor:", servers_, "txtServidor");
-    serversHint_ =
-        paragraph("Si la base está en varios servidores, escríbalos todos, el preferido primero: nodo1, "
-                  "nodo2:3307. También sirve la ruta de un socket.",
-                  fields);
-    form_->addRow(QString(), serversHint_);
+    const QString several =
+        "Si la base está en varios servidores, escríbalos todos, el preferido primero, separados por "
+        "comas o espacios. También sirve la ruta de un socket.";
+    servers_->setPlaceholderText("servidor, o varios: nodo1, nodo2:3307");
+    servers_->setToolTip(several);
+    servers_->setAccessibleDescription(several);
     port_->setRange(1, ServerAddress::lastPort);
     port_->setValue(ServerAddress::standardPort);
     add("Puert&o:", port_, "txtPuerto");
@@ -134,7 +135,7 @@ void FirstStart::follow()
 {
     const bool byOdbc = kind_->currentIndex() == odbc;
     fields_->setVisible(own_->isChecked());
-    for (QWidget* const field : std::initializer_list<QWidget*>{servers_, serversHint_, port_, name_})
+    for (QWidget* const field : std::initializer_list<QWidget*>{servers_, port_, name_})
         form_->setRowVisible(field, !byOdbc);
     form_->setRowVisible(text_, byOdbc);
     say({}, false);

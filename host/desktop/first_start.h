@@ -62,7 +62,6 @@ private:
     QFormLayout* form_ = nullptr;
     QComboBox* kind_ = new QComboBox(this);
     QLineEdit* servers_ = new QLineEdit(this);
-    QLabel* serversHint_ = nullptr;
     QSpinBox* port_ = new QSpinBox(this);
     QLineEdit* name_ = new QLineEdit(this);
     QLineEdit* text_ = new QLineEdit(this);
