@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/database/database.h"
+#include "host/desktop/manual_window.h"
 #include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
 #include "host/program_options.h"
@@ -16,6 +17,7 @@
 #include "screen/signal.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <filesystem>
 #include <functional>
@@ -62,6 +64,8 @@ private:
     void resumeWhenAtRest();
     void resume();
     void refresh();
+    void tellAbout();
+    void showManual();
     void reportError(const std::exception& failure);
 
     Database& database_;
@@ -70,6 +74,7 @@ private:
     ScreensFactory screens_;
     Reconnection reconnection_;
     ConnectionBar* bar_;
+    QPointer<ManualWindow> manual_;
     screen::qt::CtrDnContactsWidget* widget_;
     WorkPlace place_;                  // while the connection stood, a moment ago
     std::optional<WorkPlace> leading_; // where to take the operator back to; until it is done
