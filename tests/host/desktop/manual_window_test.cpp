@@ -4,11 +4,13 @@
 // The manual as the program shows it: every page is reached, every link leads somewhere, every picture is there.
 
 #include "host/desktop/manual_window.h"
+#include "tests/approved/approval.h"
 #include "tests/screen/qt/accessible_tree.h"
 
 #include <QDir>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 
@@ -119,6 +121,24 @@ TEST_F(Manual, goes_back_forth_and_to_its_index_by_its_buttons)
     EXPECT_EQ(page(), "manual.md");
     EXPECT_THAT(dn::tests::unnamed(window), IsEmpty());
     EXPECT_THAT(dn::tests::unreached(window), IsEmpty());
+}
+
+TEST(ManualLooks, of_a_page)
+{
+    const QTemporaryDir folder;
+    QFile page(folder.filePath("manual.md"));
+    ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+    page.write("# Hoy\n\nLa cola de trabajo: primero lo que *vence hoy*. Vea [Llamadas](llamadas.md).\n\n"
+               "| Columna | Qué dice |\n|---|---|\n| **Tipo** | «Contacto» es un prospecto |\n"
+               "| **Hora** | solo la hora si la cita es de hoy; «URGENTE» si no tiene cita |\n\n"
+               "## Trabajar un renglón\n\n1. Haga clic en él.\n2. Llame con **Llamar** (F8).\n\n"
+               "```\ndncontacts --agent 4\n```\n\n- < Sin asignar >\n- `mail.ini`\n");
+    page.close();
+    ManualWindow window(folder.path(), nullptr);
+    window.resize(640, 460);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    dn::tests::looksAsApproved(window, "Manual");
 }
 
 TEST(ManualAnchors, are_those_that_links_use)
