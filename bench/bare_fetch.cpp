@@ -6,6 +6,7 @@
 #include <mysql.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
@@ -32,28 +33,52 @@ void send(MYSQL* handle, const std::string& statement)
         throw std::runtime_error(mysql_error(handle));
 }
 
-unsigned keyColumnOf(MYSQL_RES* result)
+unsigned columnOf(MYSQL_RES* result, const char* name)
 {
     const unsigned columns = mysql_num_fields(result);
     const MYSQL_FIELD* const fields = mysql_fetch_fields(result);
     for (unsigned i = 0; i < columns; ++i)
-        if (strcasecmp(fields[i].name, "Sys_PK") == 0) return i;
-    throw std::runtime_error("the statement gives no Sys_PK");
+        if (strcasecmp(fields[i].name, name) == 0) return i;
+    throw std::runtime_error(std::string("the statement gives no ") + name);
 }
 
-// Reads every byte of every cell, so that the compiler cannot leave the reading out.
-void readAll(MYSQL_RES* result, Fetched& fetched, std::size_t& bytes)
+// Looks at the length and the first byte of every cell, so that the compiler cannot leave the reading out.
+std::size_t bytesOf(MYSQL_ROW row, const unsigned long* lengths, unsigned columns)
+{
+    std::size_t bytes = 0;
+    for (unsigned i = 0; i < columns; ++i)
+        if (row[i] != nullptr && lengths[i] > 0) bytes += static_cast<unsigned char>(row[i][0]) + lengths[i];
+    return bytes;
+}
+
+void readAll(MYSQL_RES* result, Fetched& fetched)
 {
     const unsigned columns = mysql_num_fields(result);
-    const unsigned keyColumn = keyColumnOf(result);
     while (MYSQL_ROW row = mysql_fetch_row(result)) {
-        const unsigned long* const lengths = mysql_fetch_lengths(result);
-        for (unsigned i = 0; i < columns; ++i)
-            if (row[i] != nullptr && lengths[i] > 0) bytes += static_cast<unsigned char>(row[i][0]) + lengths[i];
-        if (fetched.rows == 0) fetched.firstKey = row[keyColumn];
+        fetched.bytes += bytesOf(row, mysql_fetch_lengths(result), columns);
         ++fetched.rows;
-        fetched.cells += columns;
     }
+}
+
+void stream(MYSQL* handle, const std::string& statement, const std::string& textField, Streamed& streamed)
+{
+    const auto start = std::chrono::steady_clock::now();
+    send(handle, statement);
+    const Result result(mysql_use_result(handle), &mysql_free_result);
+    MYSQL_ROW row = mysql_fetch_row(result.get());
+    const std::chrono::duration<double, std::milli> passed = std::chrono::steady_clock::now() - start;
+    if (streamed.fetched == 0) streamed.firstRow = passed.count();
+    const unsigned columns = mysql_num_fields(result.get());
+    const unsigned keyColumn = columnOf(result.get(), "Sys_PK");
+    const unsigned textColumn = columnOf(result.get(), textField.c_str());
+    for (; row != nullptr; row = mysql_fetch_row(result.get())) {
+        const unsigned long* const lengths = mysql_fetch_lengths(result.get());
+        streamed.bytes += bytesOf(row, lengths, columns);
+        ++streamed.fetched;
+        const char* const text = row[textColumn] == nullptr ? "" : row[textColumn];
+        streamed.seen.add(std::strtoll(row[keyColumn], nullptr, 10), {text, lengths[textColumn]});
+    }
+    if (mysql_errno(handle) != 0) throw std::runtime_error(mysql_error(handle));
 }
 
 } // namespace
@@ -61,50 +86,44 @@ void readAll(MYSQL_RES* result, Fetched& fetched, std::size_t& bytes)
 Fetched bareFetch(const BenchDatabase& database, const Statements& statements)
 {
     const Handle handle = open(database.target());
-    std::size_t bytes = 0;
     Fetched fetched;
     fetched.cost = measure([&] {
         for (const std::string& statement : statements) {
             send(handle.get(), statement);
             const Result result(mysql_store_result(handle.get()), &mysql_free_result);
-            readAll(result.get(), fetched, bytes);
+            readAll(result.get(), fetched);
         }
     });
-    if (bytes == 0) throw std::runtime_error("the bare fetch read nothing");
     return fetched;
 }
 
-double bareFirstRow(const BenchDatabase& database, const std::string& statement)
+Streamed bareStream(const BenchDatabase& database, const Query& query)
 {
     const Handle handle = open(database.target());
-    const auto start = std::chrono::steady_clock::now();
-    send(handle.get(), statement);
-    const Result result(mysql_use_result(handle.get()), &mysql_free_result);
-    if (mysql_fetch_row(result.get()) == nullptr) throw std::runtime_error("the bare fetch got no row");
-    const std::chrono::duration<double, std::milli> passed = std::chrono::steady_clock::now() - start;
-    return passed.count();
+    Streamed streamed;
+    for (const std::string& statement : query.statements)
+        stream(handle.get(), statement, query.textField, streamed);
+    if (streamed.fetched == 0) throw std::runtime_error("the bare fetch got no row");
+    return streamed;
 }
 
 Fetched driverFetch(const BenchDatabase& database, const Statements& statements)
 {
     const auto connection = host::connect(database.target());
     Fetched fetched;
-    std::size_t bytes = 0;
     fetched.cost = measure([&] {
         for (const std::string& statement : statements) {
             const auto records = connection->execute(statement);
             const std::size_t columns = records->names().size();
-            const std::size_t keyColumn = records->Fields().find("Sys_PK").value();
-            if (fetched.rows == 0 && !records->Eof()) fetched.firstKey = records->value(keyColumn).toText();
             for (; !records->Eof(); records->MoveNext()) {
-                for (std::size_t column = 0; column < columns; ++column)
-                    bytes += records->value(column).raw().size();
+                for (std::size_t column = 0; column < columns; ++column) {
+                    const std::string_view cell = records->value(column).raw();
+                    if (!cell.empty()) fetched.bytes += static_cast<unsigned char>(cell.front()) + cell.size();
+                }
                 ++fetched.rows;
-                fetched.cells += columns;
             }
         }
     });
-    if (bytes == 0) throw std::runtime_error("the driver read nothing");
     return fetched;
 }
 

@@ -43,7 +43,7 @@ BenchDatabase::BenchDatabase(const std::string& folder, std::size_t largest, std
         throw std::runtime_error("the benchmarks need a server of their own");
     target_ = std::get<host::MariadbTarget>(database_.choice());
     target_.readTimeout = 600; // the server sorts a million rows for long
-    connection_ = host::connect(target_);
+    connection_ = std::make_unique<HeardConnection>(host::connect(target_));
     connection().execute("SET GLOBAL max_connections = 400");
     for (const Scale& scale : scales_) {
         std::fprintf(stderr, "rows of the agent with %zu\n", scale.rows);
@@ -67,11 +67,11 @@ double BenchDatabase::serverCpu() const { return cpuOfProcess(database_.server()
 const std::vector<List>& allLists()
 {
     // The projects come last: they are another agent's.
-    static const std::vector<List> lists{{desk::prospectos, "prospects"},
-                                         {desk::hoy, "queue of the day"},
-                                         {desk::organizaciones, "organisations"},
-                                         {desk::contactos, "persons"},
-                                         {desk::proyectos, "projects"}};
+    static const std::vector<List> lists{{desk::prospectos, "prospects", "uf_Nombre", 3},
+                                         {desk::hoy, "queue of the day", "Contacto", 2},
+                                         {desk::organizaciones, "organisations", "Codigo", 0},
+                                         {desk::contactos, "persons", "Codigo", 0},
+                                         {desk::proyectos, "projects", "Descripcion", 5}};
     return lists;
 }
 

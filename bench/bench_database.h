@@ -5,16 +5,43 @@
 #pragma once
 
 #include "bench/scale_rows.h"
+#include "data/connection.h"
 #include "desk/tab_strip.h"
 #include "host/database/database.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace dn::bench {
+
+/// A connection that knows what was sent over it.
+class HeardConnection final : public data::Connection {
+public:
+    explicit HeardConnection(std::unique_ptr<data::Connection> real) : real_(std::move(real)) {}
+
+    int State() const override { return real_->State(); }
+    std::unique_ptr<data::Recordset> execute(std::string_view statement) override
+    {
+        sent_.emplace_back(statement);
+        return real_->execute(statement);
+    }
+
+    void forget() { sent_.clear(); }
+    /// Whether that was sent since all was forgotten.
+    bool sent(const std::string& statement) const
+    {
+        return std::find(sent_.begin(), sent_.end(), statement) != sent_.end();
+    }
+
+private:
+    std::unique_ptr<data::Connection> real_;
+    std::vector<std::string> sent_;
+};
 
 class BenchDatabase {
 public:
@@ -23,7 +50,7 @@ public:
     BenchDatabase(const std::string& folder, std::size_t largest, std::size_t loadAgents);
 
     /// For the control. It waits longer for the server than a program would.
-    data::Connection& connection() { return *connection_; }
+    HeardConnection& connection() { return *connection_; }
     const std::vector<Scale>& scales() const { return scales_; }
     /// The agent with that many rows. @throws std::out_of_range
     const Scale& scale(std::size_t rows) const;
@@ -36,7 +63,7 @@ public:
 private:
     host::Database database_;
     host::MariadbTarget target_;
-    std::unique_ptr<data::Connection> connection_; // goes ahead of its server
+    std::unique_ptr<HeardConnection> connection_; // goes ahead of its server
     std::vector<Scale> scales_;
 };
 
@@ -44,6 +71,8 @@ private:
 struct List {
     desk::Tab tab{};
     const char* name = "";
+    const char* textField = ""; ///< a column of its statements that tells the rows apart
+    std::size_t textCell = 0;   ///< where the list shows it
 };
 const std::vector<List>& allLists();
 

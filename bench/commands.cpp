@@ -117,7 +117,7 @@ private:
     PaintCounter* timelineCounter_ = nullptr;
 };
 
-void benchChecks(Desk& desk, const Scale& scale, int rounds, Report& report)
+double benchChecks(Desk& desk, const Scale& scale, int rounds, Report& report)
 {
     std::vector<Cost> checks;
     screen::CheckBox& all = desk.control.elements().prospects.chkProsSelPros;
@@ -133,6 +133,7 @@ void benchChecks(Desk& desk, const Scale& scale, int rounds, Report& report)
     if (checked != scale.rows) report.wrong("checking all rows", "some are not checked");
     report.figure("check of all " + readable(static_cast<double>(scale.rows)) + " rows, to the frame, client CPU",
                   median(checks).cpu, "ms");
+    return median(checks).cpu;
 }
 
 void benchDetail(Desk& desk, BenchDatabase& database, int rounds, Report& report)
@@ -247,12 +248,20 @@ void benchBulk(Desk& desk, BenchDatabase& database, int rounds, Report& report)
 
 } // namespace
 
-void benchCommands(BenchDatabase& database, const Scale& scale, int rounds, Report& report)
+void benchCommands(BenchDatabase& database, const Scale& few, const Scale& many, int rounds, Report& report)
 {
-    Desk desk(database, scale.agent);
-    benchChecks(desk, scale, rounds, report);
-    benchDetail(desk, database, rounds, report);
-    benchBulk(desk, database, rounds, report);
+    double small = 0;
+    {
+        Desk desk(database, few.agent);
+        small = benchChecks(desk, few, rounds, report);
+        benchDetail(desk, database, rounds, report);
+        benchBulk(desk, database, rounds, report);
+    }
+    Desk desk(database, many.agent);
+    const double large = benchChecks(desk, many, rounds, report);
+    report.bar("check of all rows: growth from " + readable(static_cast<double>(few.rows)) + " to " +
+                   readable(static_cast<double>(many.rows)) + " rows",
+               large / small, mostGrowth, "times");
 }
 
 } // namespace dn::bench

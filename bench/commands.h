@@ -9,8 +9,8 @@
 
 namespace dn::bench {
 
-/// Checks all rows of an agent, clicks one, opens a long timeline, discards and assigns the thousand rows of the
-/// agent who has as many. Leaves the rows open and assigned as it found them.
-void benchCommands(BenchDatabase& database, const Scale& scale, int rounds, Report& report);
+/// Checks all rows of both agents; of the one with few, clicks one, opens a long timeline, discards and assigns
+/// the thousand rows of the agent who has as many. Leaves the rows open and assigned as it found them.
+void benchCommands(BenchDatabase& database, const Scale& few, const Scale& many, int rounds, Report& report);
 
 } // namespace dn::bench

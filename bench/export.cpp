@@ -7,12 +7,15 @@
 #include "tables/workbook.h"
 
 #include "bench/measure.h"
+#include "dialogs/shown_rows.h"
+#include "screen/list_view.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace dn::bench {
@@ -21,11 +24,12 @@ namespace {
 constexpr std::size_t rowCount = 200'000;
 constexpr std::size_t columnCount = 4;
 
-/// Rows in memory, which may watch the heap while they are read.
-class Rows : public tables::Table {
+/// Rows in memory, as a program would hold them for a file of comma-separated values.
+class Rows {
 public:
     Rows()
     {
+        cells_.reserve(rowCount * columnCount);
         for (std::size_t row = 0; row < rowCount; ++row) {
             const std::string number = std::to_string(row);
             cells_.push_back("José María Ñúñez " + number);
@@ -35,13 +39,7 @@ public:
         }
     }
 
-    const std::vector<tables::Column>& columns() const override { return columns_; }
-    std::size_t rows() const override { return rowCount; }
-    std::string_view cell(std::size_t row, std::size_t column) const override
-    {
-        if (watching && column == 0 && row % 1000 == 0) mostHeap = std::max(mostHeap, heapBytes());
-        return cells_[row * columnCount + column];
-    }
+    std::string_view cell(std::size_t row, std::size_t column) const { return cells_[row * columnCount + column]; }
 
     std::size_t filled() const
     {
@@ -49,29 +47,61 @@ public:
             std::count_if(cells_.begin(), cells_.end(), [](const std::string& cell) { return !cell.empty(); }));
     }
 
-    bool watching = false;
-    mutable std::size_t mostHeap = 0;
-
 private:
-    std::vector<tables::Column> columns_{{"Nombre", 200}, {"Empresa", 200}, {"Correos", 150}, {"Telefonos", 150}};
     std::vector<std::string> cells_;
 };
 
-/// The least that a file of the same rows takes.
+/// The same in a list, as the window that exports has them.
+void fill(screen::ListView& list, const Rows& rows)
+{
+    constexpr screen::Twips width = 3000;
+    for (const char* caption : {"Nombre", "Empresa", "Correos", "Telefonos"})
+        list.AddColumn(caption, width, caption);
+    for (std::size_t row = 0; row < rowCount; ++row) {
+        screen::ListSubItems subItems = list.ListItems().Add({}, rows.cell(row, 0)).ListSubItems();
+        for (std::size_t column = 1; column < columnCount; ++column)
+            subItems.Add(rows.cell(row, column));
+    }
+}
+
+/// A table that watches the heap while it is read.
+class WatchedTable : public tables::Table {
+public:
+    explicit WatchedTable(const tables::Table& table) : table_(table) {}
+
+    const std::vector<tables::Column>& columns() const override { return table_.columns(); }
+    std::size_t rows() const override { return table_.rows(); }
+    std::string_view cell(std::size_t row, std::size_t column) const override
+    {
+        if (column == 0 && row % 1000 == 0) most_ = std::max(most_, heapBytes());
+        return table_.cell(row, column);
+    }
+
+    /// KB that the heap held at most, above what it held at the beginning.
+    double extra() const { return static_cast<double>(most_ - before_) / 1024; }
+
+private:
+    const tables::Table& table_;
+    std::size_t before_ = heapBytes();
+    mutable std::size_t most_ = before_;
+};
+
+/// The least that a file of the same rows takes: a cell without a quote is written as it is.
 void writeCsv(const std::string& path, const Rows& rows)
 {
     std::ofstream file(path, std::ios::binary);
     std::string line;
-    for (std::size_t row = 0; row < rows.rows(); ++row) {
+    for (std::size_t row = 0; row < rowCount; ++row) {
         line.clear();
         for (std::size_t column = 0; column < columnCount; ++column) {
             if (column > 0) line += ',';
             line += '"';
-            for (const char byte : rows.cell(row, column)) {
-                if (byte == '"') line += '"';
-                line += byte;
+            std::string_view rest = rows.cell(row, column);
+            for (std::size_t quote = rest.find('"'); quote != std::string_view::npos; quote = rest.find('"')) {
+                line.append(rest.substr(0, quote + 1)) += '"';
+                rest.remove_prefix(quote + 1);
             }
-            line += '"';
+            line.append(rest) += '"';
         }
         file << (line += '\n');
     }
@@ -97,6 +127,11 @@ std::size_t cellsOfWorkbook(const std::string& file)
     return cells;
 }
 
+std::size_t linesOf(const std::string& file)
+{
+    return static_cast<std::size_t>(std::count(file.begin(), file.end(), '\n'));
+}
+
 std::size_t rowsOfHtml(const std::string& file)
 {
     std::size_t rows = 0;
@@ -105,40 +140,31 @@ std::size_t rowsOfHtml(const std::string& file)
     return rows;
 }
 
-/// What the heap holds at most while a file is written, above what it held before.
-template <class Writer>
-double extraMemory(Rows& rows, const Writer& write)
-{
-    const std::size_t before = heapBytes();
-    rows.watching = true;
-    rows.mostHeap = before;
-    write();
-    rows.watching = false;
-    return static_cast<double>(rows.mostHeap - before) / 1024;
-}
-
 } // namespace
 
 void benchExport(int rounds, Report& report)
 {
-    Rows rows;
+    const Rows rows;
+    screen::ListView list(nullptr, "dxGrid");
+    fill(list, rows);
+    const dialogs::ShownRows shown(list);
     const auto folder = std::filesystem::temp_directory_path();
     const std::string csv = folder / "dn-bench.csv";
     const std::string workbook = folder / "dn-bench.xls";
     const std::string html = folder / "dn-bench.html";
-    const auto writeWorkbook = [&] { tables::writeWorkbook(workbook, "Correos", rows); };
-    const auto writeHtml = [&] { tables::writeHtml(html, "Correos", rows); };
     std::vector<Cost> plain;
     std::vector<Cost> asWorkbook;
     std::vector<Cost> asHtml;
     for (int round = 0; round < rounds; ++round) {
         plain.push_back(measure([&] { writeCsv(csv, rows); }));
-        asWorkbook.push_back(measure(writeWorkbook));
-        asHtml.push_back(measure(writeHtml));
+        asWorkbook.push_back(measure([&] { tables::writeWorkbook(workbook, "Correos", shown); }));
+        asHtml.push_back(measure([&] { tables::writeHtml(html, "Correos", shown); }));
     }
     const std::size_t captions = columnCount * ((rowCount + tables::rowsOfSheet - 1) / tables::rowsOfSheet);
     if (cellsOfWorkbook(contentsOf(workbook)) != rows.filled() + captions)
         report.wrong("export to a workbook", "cells are missing in the file");
+    if (linesOf(contentsOf(csv)) != rowCount)
+        report.wrong("comma-separated values", "rows are missing in the file");
     if (rowsOfHtml(contentsOf(html)) != rowCount) report.wrong("export to HTML", "rows are missing in the file");
 
     report.figure("200,000 rows as comma-separated values, CPU", median(plain).cpu, "ms");
@@ -146,8 +172,12 @@ void benchExport(int rounds, Report& report)
     report.figure("200,000 rows as HTML, CPU", median(asHtml).cpu, "ms");
     report.bar("workbook against comma-separated values", median(asWorkbook).cpu / median(plain).cpu, 2, "times");
     report.bar("HTML against comma-separated values", median(asHtml).cpu / median(plain).cpu, 2, "times");
-    report.bar("memory beside the rows, workbook", extraMemory(rows, writeWorkbook), 256, "KB");
-    report.bar("memory beside the rows, HTML", extraMemory(rows, writeHtml), 256, "KB");
+    const WatchedTable forWorkbook(shown);
+    tables::writeWorkbook(workbook, "Correos", forWorkbook);
+    report.bar("memory beside the rows, workbook", forWorkbook.extra(), 256, "KB");
+    const WatchedTable forHtml(shown);
+    tables::writeHtml(html, "Correos", forHtml);
+    report.bar("memory beside the rows, HTML", forHtml.extra(), 256, "KB");
     for (const std::string& file : {csv, workbook, html})
         std::filesystem::remove(file);
 }

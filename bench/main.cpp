@@ -93,15 +93,15 @@ void benchAllLists(BenchDatabase& database, Results& results)
 void benchRows(BenchDatabase& database, Results& results)
 {
     constexpr int rounds = 3;
-    const Scale& thousand = database.scale(1000);
-    const Scale& many = database.scale(100'000);
+    const Scale& many = database.scale(manyRows);
     const Scale& most = database.scales().back();
     tell("memory, filling and sorting");
-    benchMemory(database, many, results.report);
-    benchFilling(database, many, 1, results.report);
+    benchMemory(database, many, most, results.report);
+    benchFilling(database, many, rounds, results.report);
+    benchSortGrowth(database, many, most, results.report);
     tell("refresh and finding");
     benchRefresh(database, many, most, rounds, results.report);
-    benchFinding(database, thousand, most, rounds, results.report);
+    benchFinding(database, many, most, rounds, results.report);
 }
 
 void benchLoad(BenchDatabase& database, std::size_t agents, Results& results)
@@ -111,7 +111,7 @@ void benchLoad(BenchDatabase& database, std::size_t agents, Results& results)
     options.server = database.target();
     for (std::size_t i = 0; i < agents; ++i)
         options.agents.push_back(firstLoadAgent + static_cast<std::int32_t>(i));
-    options.duration = std::chrono::seconds(30);
+    options.duration = std::chrono::seconds(120);
     const double before = database.serverCpu();
     results.load = runLoad(options);
     results.loadServerCpu = database.serverCpu() - before;
@@ -127,7 +127,7 @@ void benchOnTheDatabase(const Options& options, Results& results)
     if (options.runs("rows")) benchRows(database, results);
     if (options.runs("commands")) {
         tell("commands");
-        benchCommands(database, database.scale(100'000), 3, results.report);
+        benchCommands(database, database.scale(manyRows), database.scales().back(), 3, results.report);
     }
     if (options.runs("load")) benchLoad(database, options.agents, results);
 }
@@ -158,14 +158,14 @@ int run(const QApplication& application)
     if (options.needsDatabase()) benchOnTheDatabase(options, results);
     results.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (!results.lists.empty())
-        std::printf("%s\n%s\n", listsAsMarkdown(results.lists).c_str(), sharesAsMarkdown(results.lists).c_str());
+        std::printf("%s\n%s\n", listsAsMarkdown(results.lists).c_str(), wallAsMarkdown(results.lists).c_str());
     if (results.load) std::printf("%s\n", loadAsMarkdown(*results.load).c_str());
     std::printf("%s", results.report.table().c_str());
     if (options.only.isEmpty() && !options.document.empty()) writeDocument(options, results);
     if (!options.check) return 0;
     for (const std::string& row : results.report.missed())
         std::printf("missed: %s\n", row.c_str());
-    return results.report.missed().empty() ? 0 : 1;
+    return results.report.status();
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 #include <thread>
 
 namespace dn::bench {
@@ -27,6 +28,18 @@ std::string entry(const std::string& path, const std::string& caption)
 }
 
 } // namespace
+
+double exactCpuOfProcess(pid_t process)
+{
+    double nanoseconds = 0;
+    for (const auto& thread : std::filesystem::directory_iterator(folderOf(process) + "/task")) {
+        std::ifstream file(thread.path() / "schedstat");
+        double ran = 0;
+        if (!(file >> ran)) throw std::runtime_error("the system keeps no schedstat");
+        nanoseconds += ran;
+    }
+    return nanoseconds / 1e6;
+}
 
 double cpuOfProcess(pid_t process)
 {

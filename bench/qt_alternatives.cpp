@@ -7,9 +7,12 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQueryModel>
+#include <QSqlRecord>
 #include <QTableView>
 #include <QTreeWidget>
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 #include <stdexcept>
 
@@ -28,22 +31,35 @@ QSqlDatabase open(const host::MariadbTarget& target)
     return database;
 }
 
-std::size_t readEveryCell(const QSqlQueryModel& model)
+// As a sort or a search would ask for them.
+std::size_t readCells(const QSqlQueryModel& model, int columns)
 {
     std::size_t characters = 0;
     for (int row = 0; row < model.rowCount(); ++row)
-        for (int column = 0; column < model.columnCount(); ++column)
+        for (int column = 0; column < columns; ++column)
             characters += static_cast<std::size_t>(model.data(model.index(row, column)).toString().size());
     return characters;
 }
 
-void fill(QSqlQueryModel& model, const QSqlDatabase& connection, const std::string& statement, Reading reading)
+void fill(QSqlQueryModel& model, const QSqlDatabase& connection, const std::string& statement, int columns)
 {
     model.setQuery(QString::fromStdString(statement), connection);
     while (model.canFetchMore())
         model.fetchMore();
-    if (reading == Reading::everyCell && readEveryCell(model) == 0 && model.rowCount() > 0)
+    const int there = std::min(columns, model.columnCount());
+    if (there > 0 && readCells(model, there) == 0 && model.rowCount() > 0)
         throw std::runtime_error("the model's cells are empty");
+}
+
+void look(const QSqlQueryModel& model, const std::string& textField, SeenRows& seen)
+{
+    const QSqlRecord columns = model.record();
+    const int keyColumn = columns.indexOf("Sys_PK");
+    const int textColumn = columns.indexOf(QString::fromStdString(textField));
+    if (keyColumn < 0 || textColumn < 0) throw std::runtime_error("the model lacks a column");
+    for (int row = 0; row < model.rowCount(); ++row)
+        seen.add(model.data(model.index(row, keyColumn)).toLongLong(),
+                 model.data(model.index(row, textColumn)).toString().toStdString());
 }
 
 constexpr int viewWidth = 1000;
@@ -65,12 +81,25 @@ public:
     {
         return measure([&] {
             for (const auto& row : texts_) {
-                auto* item = new QTreeWidgetItem(&tree_); // owned by the tree
-                for (std::size_t column = 0; column < row.size(); ++column)
-                    item->setText(static_cast<int>(column), QString::fromStdString(row[column]));
+                QStringList cells;
+                cells.reserve(static_cast<qsizetype>(row.size()));
+                for (const std::string& cell : row)
+                    cells.append(QString::fromStdString(cell));
+                new QTreeWidgetItem(&tree_, cells); // owned by the tree
             }
             counter_.awaitPaint();
         });
+    }
+
+    bool holdsAll() const
+    {
+        if (static_cast<std::size_t>(tree_.topLevelItemCount()) != texts_.size()) return false;
+        for (std::size_t row = 0; row < texts_.size(); ++row)
+            for (std::size_t column = 0; column < texts_[row].size(); ++column)
+                if (tree_.topLevelItem(static_cast<int>(row))->text(static_cast<int>(column)).toStdString() !=
+                    texts_[row][column])
+                    return false;
+        return true;
     }
 
     Cost sort(int column)
@@ -90,10 +119,14 @@ private:
 
 } // namespace
 
-Cost sqlQueryModel(const BenchDatabase& database, const Statements& statements, Reading reading, std::size_t& rows)
+Cost sqlQueryModel(const BenchDatabase& database, const Query& query, Reading reading, std::size_t columns,
+                   SeenRows& seen)
 {
+    const Statements& statements = query.statements;
+    int read = 0;
+    if (reading == Reading::someColumns) read = static_cast<int>(columns);
+    if (reading == Reading::everyCell) read = std::numeric_limits<int>::max();
     Cost cost;
-    rows = 0;
     {
         const QSqlDatabase connection = open(database.target());
         QTableView view;
@@ -105,18 +138,23 @@ Cost sqlQueryModel(const BenchDatabase& database, const Statements& statements, 
         PaintCounter& counter = *new PaintCounter(view); // owned by the view
         cost = measure([&] {
             for (std::size_t i = 0; i < statements.size(); ++i)
-                fill(*models[i], connection, statements[i], reading);
+                fill(*models[i], connection, statements[i], read);
             view.setModel(models.front().get());
             counter.awaitPaint();
         });
         for (const auto& model : models)
-            rows += static_cast<std::size_t>(model->rowCount());
+            look(*model, query.textField, seen);
     }
     QSqlDatabase::removeDatabase(connectionName);
     return cost;
 }
 
-Cost treeWidget(const Texts& texts) { return Tree(texts).fill(); }
+Filled treeWidget(const Texts& texts)
+{
+    Tree tree(texts);
+    const Cost cost = tree.fill();
+    return {cost, tree.holdsAll()};
+}
 
 std::vector<Cost> treeWidgetSorts(const Texts& texts)
 {

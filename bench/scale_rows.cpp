@@ -13,6 +13,11 @@ struct Source {
     std::string nextContact;
 };
 
+// What the agents are called says which rows they have: whoever changes the making of rows changes the name, and
+// rows that a former run left are made anew.
+constexpr const char* scaleMark = "Medida ";
+constexpr const char* loadMark = "Carga 2, ";
+
 std::int64_t numberOf(data::Connection& connection, const std::string& statement)
 {
     return connection.execute(statement)->value(0).toWhole();
@@ -117,7 +122,10 @@ void makeScaleRows(data::Connection& connection, const Scale& scale)
 {
     const std::string agent = std::to_string(scale.agent);
     const std::string projectAgent = std::to_string(scale.projectAgent());
-    if (numberOf(connection, "SELECT COUNT(*) FROM Agente WHERE Sys_PK = " + agent) > 0) return;
+    const std::string mark = scaleMark + std::to_string(scale.rows);
+    if (numberOf(connection,
+                 "SELECT COUNT(*) FROM Agente WHERE Sys_PK = " + agent + " AND Nombre = '" + mark + "'") > 0)
+        return;
     clear(connection, "IN (" + agent + ", " + projectAgent + ")");
     Source source{agent, "seq_1_to_" + std::to_string(scale.rows),
                   "IF(s.seq % 2 = 0, NULL, NOW() - INTERVAL (s.seq * 7919) % 500000 MINUTE)"};
@@ -127,9 +135,8 @@ void makeScaleRows(data::Connection& connection, const Scale& scale)
     source.agent = projectAgent;
     connection.execute(projectsFrom(source));
     connection.execute(activitiesOf("p.IEjecutivo = " + projectAgent));
-    const std::string name = "'Medida " + std::to_string(scale.rows);
-    connection.execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (" + projectAgent + ", " + name +
-                       " proyectos'), (" + agent + ", " + name + "')");
+    connection.execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (" + projectAgent + ", '" + mark +
+                       " proyectos'), (" + agent + ", '" + mark + "')");
     for (const char* table : {"ut_icontact", "Persona", "Organizacion", "Proyecto", "actividad"})
         connection.execute(std::string("ANALYZE TABLE ") + table);
 }
@@ -139,10 +146,12 @@ void makeLoadRows(data::Connection& connection, std::size_t agents)
     constexpr std::size_t prospects = 500;
     constexpr std::size_t projects = 40;
     constexpr std::size_t persons = 200;
+    constexpr std::size_t organisations = 100;
     const std::string last = std::to_string(firstLoadAgent + static_cast<std::int32_t>(agents) - 1);
     const std::string all = "BETWEEN " + std::to_string(firstLoadAgent) + " AND " + last;
-    if (numberOf(connection, "SELECT COUNT(*) FROM Agente WHERE Sys_PK " + all) ==
-        static_cast<std::int64_t>(agents))
+    connection.execute("DELETE FROM xt_biticontact WHERE uf_Usuario LIKE 'carga %'"); // of former runs
+    if (numberOf(connection, "SELECT COUNT(*) FROM Agente WHERE Sys_PK " + all + " AND Nombre LIKE '" + loadMark +
+                                 "%'") == static_cast<std::int64_t>(agents))
         return;
     clear(connection, all);
     const std::string agent = std::to_string(firstLoadAgent) + " + s.seq % " + std::to_string(agents);
@@ -155,10 +164,11 @@ void makeLoadRows(data::Connection& connection, std::size_t agents)
     };
     connection.execute(prospectsFrom(source(prospects)));
     connection.execute(personsFrom(source(persons)));
+    connection.execute(organisationsFrom(source(organisations)));
     connection.execute(projectsFrom(source(projects)));
     connection.execute(activitiesOf("p.IEjecutivo " + all));
     connection.execute("INSERT INTO Agente (Sys_PK, Nombre) SELECT " + std::to_string(firstLoadAgent - 1) +
-                       " + seq, CONCAT('Carga ', seq) FROM seq_1_to_" + std::to_string(agents));
+                       " + seq, CONCAT('" + loadMark + "', seq) FROM seq_1_to_" + std::to_string(agents));
 }
 
 } // namespace dn::bench

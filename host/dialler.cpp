@@ -12,7 +12,7 @@ namespace {
 
 constexpr qsizetype shortest = 5; ///< digits; fewer are an extension, a count or the name of a field
 constexpr qsizetype local = 7;    ///< from here on a number may be whole
-constexpr qsizetype longest = 15; ///< no number of the world has more
+constexpr qsizetype mostFigures = 15; ///< no number of the world has more
 
 /// The first number of digits and what may stand between them. Where a second one follows, a dash with blanks
 /// around it and a long group behind keep the two apart, or their length.
@@ -23,7 +23,7 @@ QString firstOf(const QString& run)
     for (const QRegularExpressionMatch& next : group.globalMatch(run)) {
         const bool dash = digits.size() >= local && next.capturedLength(2) >= shortest &&
                           next.capturedView(1).contains(QStringLiteral(" - "));
-        const bool tooMany = !digits.isEmpty() && digits.size() + next.capturedLength(2) > longest;
+        const bool tooMany = !digits.isEmpty() && digits.size() + next.capturedLength(2) > mostFigures;
         if (dash || tooMany) break;
         digits += next.capturedView(2);
     }

@@ -3,7 +3,6 @@
 
 #include "bench/load/agent.h"
 
-#include "desk/tab_strip.h"
 #include "host/database/database_choice.h"
 #include "screen/button.h"
 
@@ -16,7 +15,7 @@ namespace dn::bench {
 namespace {
 
 // How often each of the actions comes among a hundred.
-constexpr std::array<unsigned, actionNames.size()> shares{14, 34, 12, 8, 8, 6, 4, 8, 3, 3};
+constexpr std::array<unsigned, actionNames.size()> shares{13, 29, 11, 8, 8, 6, 4, 8, 3, 2, 2, 3, 2, 1};
 
 constexpr std::size_t rowsInView = 30; // an agent works at the top of his list
 
@@ -53,14 +52,17 @@ Agent::Agent(const LoadOptions& options, std::size_t number)
     : random_(options.seed * 1'000'003 + number),
       thinking_(options.thinking),
       connection_(host::connect(options.server)),
+      agent_(options.agents.at(number)),
+      supervises_(number % 10 == 0),
       kept_(options.stepsKept)
 {
     const double before = wallNow();
-    control_.SetObjects(&connection_, options.agents.at(number), false, userPrefix + std::to_string(number));
+    control_.SetObjects(&connection_, options.agents.at(number), supervises_, userPrefix + std::to_string(number));
     control_.RefreshData();
     openTab(desk::prospectos);
     start_ = wallNow() - before;
-    if (lvw().ListItems().Count() < 1)
+    prospects_ = lvw().ListItems().Count();
+    if (prospects_ < 1)
         throw std::runtime_error("the agent " + std::to_string(options.agents.at(number)) + " has no prospects");
 }
 
@@ -80,12 +82,19 @@ bool Agent::timelineHolds(const std::string& text)
 Step Agent::timed(Action action, const std::function<void()>& work)
 {
     connection_.spent = {};
+    const double queued = threadQueuedNow();
     const double cpu = threadCpuNow();
     const double wall = wallNow();
     work();
-    Step step{.action = action, .wall = wallNow() - wall, .server = 0, .cpu = threadCpuNow() - cpu, .driver = 0};
+    Step step{.action = action,
+              .wall = wallNow() - wall,
+              .server = 0,
+              .cpu = threadCpuNow() - cpu,
+              .queued = threadQueuedNow() - queued,
+              .driver = 0};
     step.driver = connection_.spent.cpu;
-    step.server = std::max(0.0, connection_.spent.wall - connection_.spent.cpu);
+    // All waiting for a processor is taken for ours, wherever it happened: the server gets what is left.
+    step.server = std::max(0.0, connection_.spent.wall - connection_.spent.cpu - step.queued);
     statements_ += connection_.spent.statements;
     for (const std::string& failure : connection_.spent.failures)
         wrong_.push_back(std::string(actionNames[static_cast<std::size_t>(action)]) + ": " + failure);
@@ -118,11 +127,13 @@ void Agent::act()
 {
     const Action action = choose();
     // Whatever was done last, the prospects are where most work begins.
-    if (action < Action::queue && !lvw().Visible()) openTab(desk::prospectos);
+    const bool elsewhere = action >= Action::queue && action <= Action::companies;
+    if (!elsewhere && !lvw().Visible()) openTab(desk::prospectos);
     switch (action) {
     case Action::refresh:
         record(
-            action, [&] { openTab(desk::prospectos); }, [&] { return lvw().ListItems().Count() > 0; });
+            action, [&] { openTab(desk::prospectos); },
+            [&] { return lvw().ListItems().Count() == prospects_ && lvw().SelectedItem().has_value(); });
         break;
     case Action::click:
         clickSomeRow();
@@ -150,14 +161,97 @@ void Agent::act()
         workTheQueue();
         break;
     case Action::projects:
-        record(
-            action, [&] { openTab(desk::proyectos); }, [] { return true; });
+        openList(action, desk::proyectos, control_.elements().projects.lvwProy);
         break;
     case Action::directory:
-        record(
-            action, [&] { openTab(desk::contactos); }, [] { return true; });
+        openList(action, desk::contactos, control_.elements().persons.lvwContactos);
+        break;
+    case Action::companies:
+        openList(action, desk::organizaciones, control_.elements().organisations.lvwOrganizaciones);
+        break;
+    case Action::search:
+        searchLast();
+        break;
+    case Action::sort:
+        sortBySome();
+        break;
+    case Action::bulk:
+        if (supervises_) discardSome();
         break;
     }
+}
+
+// The list holds what the database holds, whoever works beside.
+void Agent::openList(Action action, desk::Tab tab, screen::ListView& list)
+{
+    record(
+        action, [&] { openTab(tab); }, [&] { return list.ListItems().Count() == expectedRows(tab); });
+}
+
+int Agent::expectedRows(desk::Tab tab)
+{
+    const auto [known, added] = rowsOfTab_.try_emplace(tab, 0);
+    if (added) {
+        const char* const table = tab == desk::proyectos   ? "Proyecto"
+                                  : tab == desk::contactos ? "Persona"
+                                                           : "Organizacion";
+        known->second = static_cast<int>(connection_
+                                             .execute(std::string("SELECT COUNT(*) FROM ") + table +
+                                                      " WHERE IEjecutivo = " + std::to_string(agent_))
+                                             ->value(0)
+                                             .toWhole());
+    }
+    return known->second;
+}
+
+void Agent::searchLast()
+{
+    screen::ListItems rows = lvw().ListItems();
+    if (rows.Count() < 1) return;
+    constexpr int name = 3; // the sub-item; it ends with a number that no other has
+    const std::string text(rows(rows.Count()).ListSubItems()(name).Text());
+    control_.elements().top.txtBuscar.Text(text);
+    record(
+        Action::search, [&] { control_.elements().top.cmdOkBuscar.press(); },
+        [&] {
+            const auto found = lvw().SelectedItem();
+            return found && found->ListSubItems()(name).Text().find(text) != std::string_view::npos;
+        });
+}
+
+void Agent::sortBySome()
+{
+    const auto column = static_cast<int>(random_() % lvw().ColumnHeaders().size());
+    const int rows = lvw().ListItems().Count();
+    record(
+        Action::sort,
+        [&] {
+            lvw().clickHeader(column);
+            lvw().ListItems()(1); // rows are sorted once somebody looks at them, as a view does
+        },
+        [&] { return lvw().SortKey() == column && lvw().ListItems().Count() == rows; });
+}
+
+// Put back behind the control's back, so that the lists stay as long as they are.
+void Agent::discardSome()
+{
+    constexpr int some = 5;
+    screen::ListItems rows = lvw().ListItems();
+    if (rows.Count() < some) return;
+    std::string keys;
+    for (int row = 1; row <= some; ++row) {
+        rows(row).Checked(true);
+        keys += (keys.empty() ? "" : ", ") + std::string(rows(row).Key().substr(1));
+    }
+    const int before = rows.Count();
+    notes_ += some;
+    record(
+        Action::bulk, [&] { control_.elements().prospects.cmdProsDiscart.press(); },
+        [&] { return lvw().ListItems().Count() == before - some; });
+    connection_.execute("UPDATE ut_icontact SET uf_Status = 0, uf_NotaStatus = NULL, uf_FechaStatus = NULL WHERE "
+                        "Sys_PK IN (" +
+                        keys + ")");
+    openTab(desk::prospectos);
 }
 
 // The key of the row.
@@ -242,7 +336,10 @@ void Agent::workTheQueue()
             openTab(desk::hoy);
             queue.clickRow(0);
         },
-        [&] { return queue.ListItems().Count() == 0 || queue.SelectedItem().has_value(); });
+        [&] {
+            const auto first = queue.SelectedItem();
+            return first && control_.elements().detail.txtInfo.Text().starts_with(std::string(first->Key()));
+        });
 }
 
 } // namespace dn::bench

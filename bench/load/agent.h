@@ -7,9 +7,11 @@
 #include "bench/load/load.h"
 #include "bench/load/watched_connection.h"
 #include "desk/elements.h"
+#include "desk/tab_strip.h"
 #include "shell/ctr_dn_contacts.h"
 
 #include <functional>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -83,6 +85,11 @@ private:
     void scheduleNext();
     void workTheQueue();
     void openTab(int tab);
+    void openList(Action action, desk::Tab tab, screen::ListView& list);
+    int expectedRows(desk::Tab tab);
+    void searchLast();
+    void sortBySome();
+    void discardSome();
     screen::ListView& lvw() { return control_.elements().prospects.lvw; }
     bool timelineHolds(const std::string& text);
 
@@ -93,6 +100,10 @@ private:
     AnsweringLoop events_;
     MachineClock clock_;
     WatchedConnection connection_;
+    std::int32_t agent_;
+    bool supervises_;
+    std::map<desk::Tab, int> rowsOfTab_; ///< of the lists whose length nobody changes
+    int prospects_ = 0;                  ///< likewise
     ctrDnContacts control_{screen::Ports{dialogs_, pointer_, events_, clock_}};
 
     std::size_t kept_;

@@ -29,12 +29,26 @@ enum class Action : std::uint8_t {
     queue,     ///< of the day, and a click on its first row
     projects,  ///< the list of the projects
     directory, ///< the list of the persons
+    companies, ///< the list of the organisations
+    search,    ///< in all cells of the prospects, for a text that its last row has
+    sort,      ///< by a click on a header
+    bulk,      ///< five checked prospects discarded at once; supervisors alone, who are every tenth agent
 };
 
-constexpr std::array<const char*, 10> actionNames{
-    "refresh of the prospects", "click on a row",      "note",          "call with summary and next call",
-    "call that nobody takes",   "next call scheduled", "status change", "queue of the day",
-    "list of the projects",     "list of the persons"};
+constexpr std::array<const char*, 14> actionNames{"refresh of the prospects",
+                                                  "click on a row",
+                                                  "note",
+                                                  "call with summary and next call",
+                                                  "call that nobody takes",
+                                                  "next call scheduled",
+                                                  "status change",
+                                                  "queue of the day",
+                                                  "list of the projects",
+                                                  "list of the persons",
+                                                  "list of the organisations",
+                                                  "search in the prospects",
+                                                  "sort by a column",
+                                                  "discard of five checked rows"};
 
 struct LoadOptions {
     host::MariadbTarget server;
@@ -51,8 +65,9 @@ struct LoadOptions {
 struct Step {
     Action action{};
     double wall = 0;
-    double server = 0; ///< waiting for the server: all time in the connection but the processor's
+    double server = 0; ///< waiting for the server: all time in the connection that was not ours
     double cpu = 0;    ///< of the agent's thread: driver and control
+    double queued = 0; ///< ready to run, and waiting for a processor
     double driver = 0; ///< of it, in the driver
 };
 

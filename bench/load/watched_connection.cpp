@@ -6,6 +6,8 @@
 #include <time.h>
 
 #include <chrono>
+#include <fstream>
+#include <stdexcept>
 
 namespace dn::bench {
 namespace {
@@ -68,6 +70,15 @@ double threadCpuNow()
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+double threadQueuedNow()
+{
+    std::ifstream file("/proc/thread-self/schedstat");
+    double ran = 0;
+    double queued = 0;
+    if (!(file >> ran >> queued)) throw std::runtime_error("the system keeps no schedstat");
+    return queued / 1e6;
 }
 
 std::unique_ptr<data::Recordset> WatchedConnection::execute(std::string_view statement)

@@ -18,6 +18,10 @@ double wallNow();
 /// Milliseconds of processor that this thread has used.
 double threadCpuNow();
 
+/// Milliseconds in which this thread was ready to run and had to wait for a processor.
+/// @throws std::runtime_error where the system does not count it.
+double threadQueuedNow();
+
 /// What was spent inside a connection.
 struct Spent {
     double wall = 0;

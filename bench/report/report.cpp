@@ -58,6 +58,12 @@ void Report::bar(const std::string& what, double value, double largest, const st
     if (!kept) missed_.push_back(what);
 }
 
+void Report::notMeasured(const std::string& what)
+{
+    rows_.push_back({what, "-", "", "NOT MEASURED"});
+    missed_.push_back(what + " (not measured)");
+}
+
 void Report::wrong(const std::string& what, const std::string& why)
 {
     rows_.push_back({what, "-", "", "WRONG ANSWER: " + why});

@@ -16,6 +16,8 @@ public:
     /// A figure with a bar: it must not be larger. Where the unit is "times" and the bar below 1, both are shown
     /// as fractions: "1/12.5".
     void bar(const std::string& what, double value, double largest, const std::string& unit);
+    /// A bar whose figure this run did not take: it counts as missed.
+    void notMeasured(const std::string& what);
     /// A benchmark whose own answer was wrong; nothing that it measured counts.
     void wrong(const std::string& what, const std::string& why);
 
@@ -27,6 +29,8 @@ public:
     std::string figuresAsMarkdown() const;
     /// The rows that missed their bar or gave a wrong answer.
     const std::vector<std::string>& missed() const { return missed_; }
+    /// What a program that must keep the bars ends with: 1 where one was missed, else 0.
+    int status() const { return missed_.empty() ? 0 : 1; }
 
 private:
     struct Row {
@@ -39,6 +43,9 @@ private:
     std::vector<Row> rows_;
     std::vector<std::string> missed_;
 };
+
+/// What may cost that much more with ten times the rows.
+constexpr double mostGrowth = 11;
 
 /// A number as the tables show it: three digits that count, thousands apart.
 std::string readable(double value);

@@ -17,7 +17,7 @@ namespace dn::host {
 namespace {
 
 constexpr int longestSubject = 250;
-constexpr int looksEvery = 50; // milliseconds
+constexpr int lookInterval = 50; // milliseconds
 constexpr int linesOfText = 6; // that stay in sight in the smallest window
 constexpr int widthInCharacters = 92;
 constexpr int heightInLines = 34;
@@ -251,7 +251,7 @@ void Composer::store()
     };
     sending_ = std::make_unique<Sending>(sends);
     showSending(true);
-    looks_.start(looksEvery);
+    looks_.start(lookInterval);
 }
 
 void Composer::look()

@@ -11,7 +11,7 @@
 namespace dn::host {
 namespace {
 
-constexpr qint64 longest = 1 << 20; // bytes; more is no template
+constexpr qint64 mostBytes = 1 << 20; // bytes; more is no template
 
 QString withoutMark(const QString& text)
 {
@@ -35,7 +35,7 @@ std::vector<Template> templatesIn(const std::filesystem::path& folder)
 TemplateText readTemplate(const std::filesystem::path& path)
 {
     QFile file(QString::fromStdString(path.string()));
-    if (!file.open(QIODevice::ReadOnly) || file.size() > longest)
+    if (!file.open(QIODevice::ReadOnly) || file.size() > mostBytes)
         throw HostError("No se pudo leer la plantilla «" + path.string() + "».");
     QString text = withoutMark(QString::fromUtf8(file.readAll()));
     text.replace("\r\n", "\n");

@@ -150,22 +150,39 @@ void appendDate(std::string& text, const DateTime& moment, std::string_view patt
     }
 }
 
-// "dd/mm/yyyy hh:nn:ss" without a pattern to be read: every date of every list comes through here.
 std::string defaultText(const DateTime& moment)
 {
     std::string text;
-    if (moment.hasDate()) {
-        appendPair(text, moment.day);
-        appendPair(text += '/', moment.month);
-        appendPair(text += '/', moment.year / 100);
-        appendPair(text, moment.year);
-        if (moment.isMidnight()) return text;
-        text += ' ';
-    }
-    appendPair(text, moment.hour);
-    appendPair(text += ':', moment.minute);
-    appendPair(text += ':', moment.second);
+    appendDefaultText(text, moment);
     return text;
+}
+
+// "dd/mm/yyyy hh:nn:ss" without a pattern to be read and in one piece: every date of every list comes through
+// here.
+void appendDefaultText(std::string& text, const DateTime& moment)
+{
+    std::array<char, 19> written{};
+    std::size_t end = 0;
+    const auto put = [&](int number, char behind) {
+        written[end++] = static_cast<char>('0' + number / 10 % 10);
+        written[end++] = static_cast<char>('0' + number % 10);
+        if (behind != '\0') written[end++] = behind;
+    };
+    if (moment.hasDate()) {
+        const bool dayAlone = moment.isMidnight();
+        put(moment.day, '/');
+        put(moment.month, '/');
+        put(moment.year / 100, '\0');
+        put(moment.year, dayAlone ? '\0' : ' ');
+        if (dayAlone) {
+            text.append(written.data(), end);
+            return;
+        }
+    }
+    put(moment.hour, ':');
+    put(moment.minute, ':');
+    put(moment.second, '\0');
+    text.append(written.data(), end);
 }
 
 std::string formatThreeDigits(std::int64_t number)

@@ -21,6 +21,8 @@ void appendDate(std::string& text, const DateTime& moment, std::string_view patt
 
 /// The default text of a moment: "dd/mm/yyyy hh:nn:ss", at midnight "dd/mm/yyyy", without a date "hh:nn:ss".
 std::string defaultText(const DateTime& moment);
+/// The same, at the end of a text.
+void appendDefaultText(std::string& text, const DateTime& moment);
 
 /// The picture "000": at least three digits, the sign ahead of them ("-005").
 std::string formatThreeDigits(std::int64_t number);

@@ -7,6 +7,7 @@
 #include "tables/workbook.h"
 
 #include "data/failure_modes.h"
+#include "dialogs/shown_rows.h"
 
 #include <cstdint>
 #include <utility>
@@ -17,29 +18,6 @@ namespace dn::dialogs {
 using data::resumeNext;
 
 namespace {
-
-/// The rows of the grid in the order shown.
-class ShownRows : public tables::Table {
-public:
-    explicit ShownRows(const screen::ListView& grid) : rows_(grid.rows())
-    {
-        for (const screen::ColumnHeader& header : grid.ColumnHeaders())
-            columns_.push_back({header.Text, header.Width / twipsPerPixel});
-    }
-
-    const std::vector<tables::Column>& columns() const override { return columns_; }
-    std::size_t rows() const override { return rows_.count(); }
-    std::string_view cell(std::size_t row, std::size_t column) const override
-    {
-        return rows_.cell(rows_.rowAt(row), column);
-    }
-
-    static constexpr int twipsPerPixel = 15;
-
-private:
-    const screen::ListRows& rows_;
-    std::vector<tables::Column> columns_;
-};
 
 /// The text of a column in the present row; empty for a null.
 std::string textOf(const data::Recordset& row, const char* column)

@@ -143,16 +143,19 @@ void ProspectRowBuilder::addProxContacto(screen::ListItem& item)
         resumeNext([&] { item.ListSubItems().Add(notScheduled); });
         return;
     }
-    text_.clear();
+    std::string_view text;
     std::optional<DateTime> moment;
     resumeNext([&] {
         moment = value.toDateTime();
-        if (hasFormOf(value.raw(), momentPattern))
-            text_ = value.raw();
-        else
+        if (hasFormOf(value.raw(), momentPattern)) {
+            text = value.raw();
+        } else {
+            text_.clear();
             appendDate(text_, *moment, momentPattern);
+            text = text_;
+        }
     });
-    resumeNext([&] { item.ListSubItems().Add(text_); });
+    resumeNext([&] { item.ListSubItems().Add(text); });
     if (!moment) return;
     resumeNext([&] { item.ListSubItems()(proxContacto).ReportIcon(*moment < now_ ? iconOverdue : iconAhead); });
 }

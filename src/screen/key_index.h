@@ -7,6 +7,7 @@
 
 #include "base/export.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -47,9 +48,24 @@ public:
     /// Adds a row whose key the index does not hold yet.
     void insert(std::string_view key, RowNumber row)
     {
-        if ((used_ + 1) * 5 > slots_.size() * 4) grow();
+        makeRoom();
         place({row, hashOf(key)});
         ++used_;
+    }
+
+    /// Adds a row unless the index holds its key: find and insert on one way through the memory, which is what a
+    /// long list costs most. @return whether it was added.
+    template <class KeyOfRow>
+    bool insertNew(std::string_view key, RowNumber row, const KeyOfRow& keyOf)
+    {
+        makeRoom();
+        const std::uint32_t hash = hashOf(key);
+        std::size_t slot = home(hash);
+        for (; slots_[slot].row != none; slot = next(slot))
+            if (slots_[slot].hash == hash && keyOf(slots_[slot].row) == key) return false;
+        slots_[slot] = {row, hash};
+        ++used_;
+        return true;
     }
 
 private:
@@ -64,7 +80,9 @@ private:
         return static_cast<std::uint32_t>(std::hash<std::string_view>()(key));
     }
 
-    std::size_t home(std::uint32_t hash) const { return hash & (slots_.size() - 1); }
+    // By the upper bits: a table that grows then takes its entries over from front to back, and not each from
+    // somewhere to somewhere.
+    std::size_t home(std::uint32_t hash) const { return hash >> shift_; }
 
     std::size_t next(std::size_t slot) const { return (slot + 1) & (slots_.size() - 1); }
 
@@ -76,16 +94,23 @@ private:
         slots_[slot] = entry;
     }
 
+    void makeRoom()
+    {
+        if ((used_ + 1) * 5 > slots_.size() * 4) grow();
+    }
+
     void grow()
     {
         const std::vector<Slot> old = std::move(slots_);
         slots_.assign(old.empty() ? 16 : old.size() * 2, Slot()); // a power of two
+        shift_ = 32U - static_cast<unsigned>(std::countr_zero(slots_.size()));
         for (const Slot& entry : old)
             if (entry.row != none) place(entry);
     }
 
     std::vector<Slot> slots_;
     std::size_t used_ = 0;
+    unsigned shift_ = 32; // of a hash, down to as many bits as the table takes
 };
 
 } // namespace dn::screen

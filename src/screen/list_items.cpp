@@ -148,7 +148,10 @@ ListItem ListItems::Add(std::string_view key, std::string_view text, int smallIc
 
 void ListItems::Clear()
 {
-    if (list_->rows_.count() == 0) return;
+    if (list_->rows_.count() == 0) {
+        list_->cleared.emit(); // a load begins, and be it the first
+        return;
+    }
     list_->rows_.clear();
     list_->unsorted_ = false;
     list_->forgetChanges();

@@ -24,17 +24,19 @@ void ListRows::clear()
 
 ListRows::RowNumber ListRows::add(std::string_view key, std::string_view text, int smallIcon)
 {
-    if (!key.empty() && find(key) != none) throw RuntimeError("La clave no es única en la colección");
-    scratch_.clear(); // filled ahead of all else: key and text may lie in the row that closes now
-    scratch_.key = key;
-    scratch_.add(text);
-    scratch_.smallIcon = iconNumber(smallIcon);
-    close();
     const auto row = static_cast<RowNumber>(rows_.size());
+    const auto keyOf = [this](RowNumber other) { return this->key(other); };
+    if (!key.empty() && !index_.insertNew(key, row, keyOf))
+        throw RuntimeError("La clave no es única en la colección");
+    RowDraft& next = scratch(); // filled ahead of all else: key and text may lie in the row that closes now
+    next.clear();
+    next.key = key;
+    next.add(text);
+    next.smallIcon = iconNumber(smallIcon);
+    close();
     rows_.emplace_back();
-    std::swap(draft_, scratch_);
+    openDraft_ = 1 - openDraft_;
     open_ = row;
-    if (!key.empty()) index_.insert(draft_.key, row);
     if (!order_.empty()) completeOrder();
     return row;
 }
@@ -64,7 +66,7 @@ ListRows::RowNumber ListRows::find(std::string_view key) const
 std::string_view ListRows::cell(RowNumber row, std::size_t cell) const
 {
     if (cell >= cellCount(row)) return {};
-    return isOpen(row) ? draft_.cell(cell) : rows_[row].cell(cell);
+    return isOpen(row) ? draft().cell(cell) : rows_[row].cell(cell);
 }
 
 std::string_view ListRows::cellsFrom(RowNumber row, std::size_t cell) const
@@ -79,9 +81,9 @@ std::string_view ListRows::cellsFrom(RowNumber row, std::size_t cell) const
 Colour ListRows::colour(RowNumber row, std::size_t cell) const
 {
     if (isOpen(row)) {
-        for (const CellStyle& style : draft_.styles)
+        for (const CellStyle& style : draft().styles)
             if (style.cell == cell && style.hasColour) return style.colour;
-        return draft_.foreColour;
+        return draft().foreColour;
     }
     const CellStyle* const style = rows_[row].style(cell);
     return style != nullptr && style->hasColour ? style->colour : rows_[row].foreColour();
@@ -90,7 +92,7 @@ Colour ListRows::colour(RowNumber row, std::size_t cell) const
 int ListRows::reportIcon(RowNumber row, std::size_t cell) const
 {
     if (isOpen(row)) {
-        for (const CellStyle& style : draft_.styles)
+        for (const CellStyle& style : draft().styles)
             if (style.cell == cell) return style.icon;
         return 0;
     }
@@ -101,7 +103,7 @@ int ListRows::reportIcon(RowNumber row, std::size_t cell) const
 void ListRows::checked(RowNumber row, bool value)
 {
     if (isOpen(row))
-        draft_.checked = value;
+        draft().checked = value;
     else
         rows_[row].checked(value);
 }
@@ -109,7 +111,7 @@ void ListRows::checked(RowNumber row, bool value)
 void ListRows::smallIcon(RowNumber row, int icon)
 {
     if (isOpen(row))
-        draft_.smallIcon = iconNumber(icon);
+        draft().smallIcon = iconNumber(icon);
     else
         rows_[row].smallIcon(iconNumber(icon));
 }
@@ -140,7 +142,7 @@ std::size_t ListRows::overhead() const
 void ListRows::close()
 {
     if (open_ == none) return;
-    rows_[open_] = RowBlock(draft_, arena_);
+    rows_[open_] = RowBlock(draft(), arena_);
     open_ = none;
 }
 

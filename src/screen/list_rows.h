@@ -12,6 +12,7 @@
 #include "screen/key_index.h"
 #include "screen/row_block.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -36,11 +37,11 @@ public:
     RowNumber find(std::string_view key) const;
 
     // Reading, also of the open row.
-    std::string_view key(RowNumber row) const { return isOpen(row) ? draft_.key : rows_[row].key(); }
+    std::string_view key(RowNumber row) const { return isOpen(row) ? draft().key : rows_[row].key(); }
 
     std::size_t cellCount(RowNumber row) const
     {
-        return isOpen(row) ? draft_.ends.size() : rows_[row].cellCount();
+        return isOpen(row) ? draft().ends.size() : rows_[row].cellCount();
     }
 
     /// Empty for a cell that the row does not have.
@@ -49,15 +50,15 @@ public:
     /// The texts of all cells from one on, one behind the other without anything between.
     std::string_view cellsFrom(RowNumber row, std::size_t cell) const;
 
-    std::string_view toolTip(RowNumber row) const { return isOpen(row) ? draft_.toolTip : rows_[row].toolTip(); }
+    std::string_view toolTip(RowNumber row) const { return isOpen(row) ? draft().toolTip : rows_[row].toolTip(); }
 
     Colour colour(RowNumber row, std::size_t cell) const;
 
-    bool bold(RowNumber row) const { return isOpen(row) ? draft_.bold : rows_[row].bold(); }
+    bool bold(RowNumber row) const { return isOpen(row) ? draft().bold : rows_[row].bold(); }
 
-    bool checked(RowNumber row) const { return isOpen(row) ? draft_.checked : rows_[row].checked(); }
+    bool checked(RowNumber row) const { return isOpen(row) ? draft().checked : rows_[row].checked(); }
 
-    int smallIcon(RowNumber row) const { return isOpen(row) ? draft_.smallIcon : rows_[row].smallIcon(); }
+    int smallIcon(RowNumber row) const { return isOpen(row) ? draft().smallIcon : rows_[row].smallIcon(); }
 
     int reportIcon(RowNumber row, std::size_t cell) const;
 
@@ -76,12 +77,12 @@ public:
     void edit(RowNumber row, Change&& change)
     {
         if (isOpen(row)) {
-            change(draft_);
+            change(draft());
             return;
         }
-        rows_[row].copyTo(scratch_);
-        change(scratch_);
-        rows_[row].rewrite(scratch_, arena_);
+        rows_[row].copyTo(scratch());
+        change(scratch());
+        rows_[row].rewrite(scratch(), arena_);
     }
 
     // The order on the screen.
@@ -101,6 +102,10 @@ public:
 private:
     bool isOpen(RowNumber row) const { return row == open_; }
 
+    RowDraft& draft() { return drafts_[openDraft_]; }
+    const RowDraft& draft() const { return drafts_[openDraft_]; }
+    RowDraft& scratch() { return drafts_[1 - openDraft_]; }
+
     void close();
     void completeOrder();
 
@@ -109,8 +114,8 @@ private:
     std::vector<RowNumber> order_;         // by position; empty while it is the order of adding
     std::vector<std::uint32_t> positions_; // by row number; empty with order_
     KeyIndex index_;
-    RowDraft draft_;
-    RowDraft scratch_;
+    std::array<RowDraft, 2> drafts_; // of the open row, and one to work in
+    std::size_t openDraft_ = 0;
     RowNumber open_ = none;
 };
 

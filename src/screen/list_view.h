@@ -197,7 +197,8 @@ public:
     static constexpr std::size_t screenful = 64; ///< rows, more than a usual window shows
     static constexpr std::size_t manyRows = 1024;
     Signal<> growing; ///< in the middle of a load: behind the first screenful, then once in many rows
-    Signal<> cleared; ///< rows are gone: nothing that was shown is there any more
+    /// Rows are gone, if there were any: nothing that was shown is there any more.
+    Signal<> cleared;
     Signal<> dirty;   ///< raised once, at the first change after `takeChanges`
     Signal<> columnsChanged;
     Signal<std::size_t> revealed; ///< a position to scroll to

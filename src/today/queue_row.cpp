@@ -57,20 +57,28 @@ void QueueRowBuilder::addCell(screen::ListItem& row, const Column& column)
     resumeNext([&] { row.ListSubItems().Add(desk::textOrEmpty(read(column), text_)); });
 }
 
-// A past day shows in full, today and whatever comes later by its hour alone. What reads as no date shows as it
-// is.
 void QueueRowBuilder::addHora(screen::ListItem& row)
 {
     resumeNext([&] {
         const data::Value cita = read(cita_);
-        text_ = cita.isNull() ? withoutAppointment : cita.raw();
-        if (!cita.isNull())
-            resumeNext([&] {
-                const DateTime moment = cita.toDateTime();
-                text_ = moment.date() < today_ ? cita.toText() : defaultText(moment.timeOfDay());
-            });
-        row.ListSubItems().Add(text_);
+        row.ListSubItems().Add(cita.isNull() ? withoutAppointment : hora(cita));
     });
+}
+
+// A past day shows in full, today and whatever comes later by its hour alone. What reads as no date shows as it
+// is.
+std::string_view QueueRowBuilder::hora(const data::Value& cita)
+{
+    text_.clear();
+    const bool isDate = resumeNext([&] {
+        const DateTime moment = cita.toDateTime();
+        const bool past = moment.date() < today_;
+        if (past && cita.kind() != data::Value::Kind::dateTime)
+            text_ = cita.raw();
+        else
+            appendDefaultText(text_, past ? moment : moment.timeOfDay());
+    });
+    return isDate ? std::string_view(text_) : cita.raw();
 }
 
 } // namespace dn::today

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace dn::today {
 
@@ -33,6 +34,7 @@ private:
     std::optional<screen::ListItem> addRow();
     void addCell(screen::ListItem& row, const Column& column);
     void addHora(screen::ListItem& row);
+    std::string_view hora(const data::Value& cita);
 
     screen::ListView& lvwHoy_;
     const data::Recordset& records_;

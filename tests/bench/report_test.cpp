@@ -50,10 +50,24 @@ TEST(Reports, a_value_at_its_bar_keeps_it)
     Report report;
     report.bar("load", 2.5, 2.5, "times");
     EXPECT_THAT(report.missed(), IsEmpty());
+    EXPECT_EQ(report.status(), 0);
     report.bar("sort", 2.51, 2.5, "times");
     report.wrong("search", "nothing found");
     report.figure("wall", 12, "ms");
     EXPECT_THAT(report.missed(), ElementsAre("sort", "search (wrong answer: nothing found)"));
+    EXPECT_EQ(report.status(), 1);
+}
+
+TEST(Reports, what_was_not_measured_or_gave_a_wrong_answer_keeps_no_bar)
+{
+    Report wrong;
+    wrong.wrong("search", "nothing found");
+    EXPECT_EQ(wrong.status(), 1);
+    Report missing;
+    missing.notMeasured("search in a million");
+    EXPECT_EQ(missing.status(), 1);
+    EXPECT_THAT(missing.missed(), ElementsAre("search in a million (not measured)"));
+    EXPECT_THAT(missing.barsAsMarkdown(), HasSubstr("| search in a million | - |  | NOT MEASURED |"));
 }
 
 TEST(Reports, bars_and_figures_are_tables_of_their_own)

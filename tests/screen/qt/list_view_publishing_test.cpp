@@ -99,6 +99,15 @@ TEST_F(ListViewTest, a_load_that_yields_ahead_of_its_statement_begins_on_the_scr
     EXPECT_EQ(model().rowCount(), 64);
 }
 
+TEST_F(ListViewTest, the_very_first_load_begins_on_the_screen_too)
+{
+    show();
+    table().paintBeginningAfter(std::chrono::milliseconds(0));
+    list.ListItems().Clear(); // as each load begins, whether there were rows or not
+    addRows(0, 3000);
+    EXPECT_EQ(model().rowCount(), 64);
+}
+
 TEST_F(ListViewTest, rows_that_came_soon_enough_are_painted_once_all_are_there)
 {
     addRows(0, 3);
