@@ -7,9 +7,9 @@
 #include <QDir>
 #include <QFile>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTextBlock>
 #include <QTextTable>
 #include <QVBoxLayout>
@@ -93,11 +93,18 @@ ManualWindow::ManualWindow(const QString& folder, QWidget* over) : QWidget(over,
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(buttons);
     layout->addWidget(pages_, 1);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     resize(QSize(860, 760).boundedTo(screen()->availableGeometry().size()));
     layout->activate(); // the pictures take the width that there is
     pages_->setSource(QUrl::fromLocalFile(indexOf(folder)));
     pages_->setFocus();
+}
+
+void ManualWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 QString anchorOf(const QString& heading)

@@ -37,6 +37,9 @@ public:
 
     ManualPages& pages() { return *pages_; }
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     ManualPages* pages_ = new ManualPages(this);
 };
