@@ -3,6 +3,7 @@
 
 #include "host/desktop/manual_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -38,6 +39,7 @@ void ManualPages::doSetSource(const QUrl& name, QTextDocument::ResourceType)
     const bool isPage = name.path().endsWith(QLatin1String(".md"));
     QTextBrowser::doSetSource(name, isPage ? QTextDocument::MarkdownResource : QTextDocument::UnknownResource);
     drawTables();
+    giveAir();
     if (name.hasFragment()) goTo(name.fragment(QUrl::FullyDecoded));
 }
 
@@ -58,12 +60,25 @@ void ManualPages::drawTables()
     }
 }
 
+void ManualPages::giveAir()
+{
+    constexpr int air = 6; // logical pixels
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        if (cursor.currentTable() != nullptr || block.blockFormat().headingLevel() > 0) continue;
+        QTextBlockFormat format = block.blockFormat();
+        format.setBottomMargin(air);
+        cursor.setBlockFormat(format);
+    }
+}
+
 void ManualPages::goTo(const QString& heading)
 {
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0 || anchorOf(block.text()) != heading) continue;
-        setTextCursor(QTextCursor(block));
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top());
+        setTextCursor(QTextCursor(block)); // the next Tab goes on from there
+        verticalScrollBar()->setValue(
+            static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top()));
         return;
     }
 }

@@ -27,6 +27,7 @@ protected:
 
 private:
     void drawTables();
+    void giveAir();
     void goTo(const QString& heading);
 };
 

@@ -30,6 +30,7 @@ NAMED = {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.CHECK_BOX, ROLE.RADIO_BUTTON
          ROLE.PASSWORD_TEXT, ROLE.COMBO_BOX, ROLE.LIST, ROLE.TABLE, ROLE.TREE_TABLE, ROLE.PAGE_TAB, ROLE.SPIN_BUTTON,
          ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
 NO_FOCUS = {ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
+MOUSE_ONLY = {"Borrar lo escrito"}  # what the keys of the line beside it do as well
 PROGRAMMERS = re.compile(r"(cb|chk|cmd|lbl|lvw|pic|txt)[A-Z]?\w*")  # names that say nothing to an operator
 EXPECTED = {ROLE.PUSH_BUTTON, ROLE.TEXT, ROLE.COMBO_BOX, ROLE.TABLE, ROLE.FRAME, ROLE.MENU_ITEM}
 
@@ -92,7 +93,7 @@ def examine(window, place, met):
         told = f"{place}: {node.get_role_name()} in {' / '.join(one.get_name() or one.get_role_name() for one in inside)}"
         if not node.get_name().strip() or PROGRAMMERS.fullmatch(node.get_name()):
             faults.append(f"no name: {told}")
-        elif role not in NO_FOCUS and not node.get_state_set().contains(Atspi.StateType.FOCUSABLE):
+        elif role not in NO_FOCUS and node.get_name() not in MOUSE_ONLY and not node.get_state_set().contains(Atspi.StateType.FOCUSABLE):
             faults.append(f"not reached by the keyboard: {told}: {node.get_name()}")
     return faults
 
