@@ -72,13 +72,15 @@ void ManualPages::giveAir()
     }
 }
 
+// The bar can go no further than what has been laid out.
 void ManualPages::goTo(const QString& heading)
 {
+    const QAbstractTextDocumentLayout& layout = *document()->documentLayout();
+    static_cast<void>(layout.documentSize());
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0 || anchorOf(block.text()) != heading) continue;
         setTextCursor(QTextCursor(block)); // the next Tab goes on from there
-        verticalScrollBar()->setValue(
-            static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top()));
+        verticalScrollBar()->setValue(static_cast<int>(layout.blockBoundingRect(block).top()));
         return;
     }
 }
@@ -90,6 +92,7 @@ ManualWindow::ManualWindow(const QString& folder, QWidget* over) : QWidget(over,
     setAttribute(Qt::WA_DeleteOnClose);
     pages_->setObjectName("Paginas");
     pages_->setAccessibleName("Página del manual");
+    pages_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // where it came later, the page would move below it
     auto* const index = new QPushButton("Í&ndice", this);
     auto* const back = new QPushButton("&Atrás", this);
     auto* const forth = new QPushButton("A&delante", this);

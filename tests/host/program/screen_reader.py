@@ -93,7 +93,8 @@ def examine(window, place, met):
         told = f"{place}: {node.get_role_name()} in {' / '.join(one.get_name() or one.get_role_name() for one in inside)}"
         if not node.get_name().strip() or PROGRAMMERS.fullmatch(node.get_name()):
             faults.append(f"no name: {told}")
-        elif role not in NO_FOCUS and node.get_name() not in MOUSE_ONLY and not node.get_state_set().contains(Atspi.StateType.FOCUSABLE):
+        elif not (role in NO_FOCUS or node.get_name() in MOUSE_ONLY or
+                  node.get_state_set().contains(Atspi.StateType.FOCUSABLE)):
             faults.append(f"not reached by the keyboard: {told}: {node.get_name()}")
     return faults
 
