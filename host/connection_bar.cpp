@@ -25,6 +25,7 @@ QPushButton* button(const char* name, const char* caption, QWidget* parent)
     auto* const made = new QPushButton(caption, parent);
     made->setObjectName(name);
     made->setAutoDefault(false);
+    made->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard with whoever is typing
     return made;
 }
 
@@ -35,6 +36,7 @@ ConnectionBar::ConnectionBar(Reconnection& reconnection, QWidget* parent)
       reconnection_(reconnection),
       text_(wrapped("lblConexion", this)),
       reason_(wrapped("lblMotivo", this)),
+      notes_(wrapped("lblNota", this)),
       now_(button("cmdReconectar", "Reconectar ahora", this)),
       close_(button("cmdCerrarAviso", "Cerrar", this))
 {
@@ -44,20 +46,32 @@ ConnectionBar::ConnectionBar(Reconnection& reconnection, QWidget* parent)
     auto* const texts = new QVBoxLayout;
     texts->addWidget(text_);
     texts->addWidget(reason_);
+    texts->addWidget(notes_);
     auto* const all = new QHBoxLayout(this);
     all->addLayout(texts, 1);
     all->addWidget(now_);
     all->addWidget(close_);
     connect(now_, &QPushButton::clicked, this, [this] { reconnection_.tryNow(); });
-    connect(close_, &QPushButton::clicked, this, &QWidget::hide);
+    connect(close_, &QPushButton::clicked, this, [this] { close(); });
     changes_ = reconnection_.changed.connect([this] { tell(); });
+    notes_->hide();
     hide();
 }
 
 void ConnectionBar::keepNote(const QString& note)
 {
-    reason_->setText("La nota que no se guardó dice: «" + note + "»");
-    reason_->show();
+    const QString told = "La nota que no se guardó dice: «" + note + "»";
+    const QString before = notes_->text();
+    if (!before.contains(told)) notes_->setText(before.isEmpty() ? told : before + "\n" + told);
+    notes_->show();
+    show(); // it may have been closed while a call went on
+}
+
+void ConnectionBar::close()
+{
+    notes_->clear();
+    notes_->hide();
+    hide();
 }
 
 void ConnectionBar::tell()

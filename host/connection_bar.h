@@ -18,19 +18,22 @@ public:
     /// @param reconnection outlives the bar.
     ConnectionBar(Reconnection& reconnection, QWidget* parent);
 
-    /// From now until it is closed: this could not be put back into its place.
+    /// From now until it is closed: this could not be put back into its place. Another loss of the connection
+    /// takes it away no more than another note does.
     void keepNote(const QString& note);
 
 private:
     void tell();
     void showLost(const QString& next);
     void showBack();
+    void close();
     void paint(const char* background, const char* text);
 
     Reconnection& reconnection_;
     bool lost_ = false;
     QLabel* text_;
     QLabel* reason_;
+    QLabel* notes_;
     QPushButton* now_;
     QPushButton* close_;
     screen::Subscription changes_;

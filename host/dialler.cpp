@@ -10,8 +10,8 @@ namespace dn::host {
 
 namespace {
 
-constexpr qsizetype shortest = 5; ///< digits; fewer are an extension, a count or the name of a field
-constexpr qsizetype local = 7;    ///< from here on a number may be whole
+constexpr qsizetype shortest = 5;     ///< digits; fewer are an extension, a count or the name of a field
+constexpr qsizetype local = 7;        ///< from here on a number may be whole
 constexpr qsizetype mostFigures = 15; ///< no number of the world has more
 
 /// The first number of digits and what may stand between them. Where a second one follows, a dash with blanks
@@ -40,7 +40,7 @@ QString telephoneAddress(const std::string& text)
     const QString numbers = QString::fromStdString(text).replace(counted, QStringLiteral(";"));
     for (const QRegularExpressionMatch& candidate : run.globalMatch(numbers)) {
         const QString digits = firstOf(candidate.captured());
-        if (digits.size() < shortest) continue;
+        if (digits.size() < shortest || digits.size() > mostFigures) continue;
         return (candidate.capturedView().startsWith(u'+') ? "tel:+" : "tel:") + digits;
     }
     return {};

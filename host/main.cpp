@@ -27,6 +27,7 @@
 #include <cstdio>
 #include <exception>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -61,9 +62,12 @@ std::optional<Database> openChosen(const ProgramOptions& options, Beginning& beg
     if (picture || options.saysWhichDatabase() || (firstTime && options.saysWhoWorks()))
         return open(databaseOptions(options));
     std::optional<Database> database;
-    beginning.open([&](const std::string& connect, bool createSchema) {
+    beginning.open([&](const std::vector<std::string>& servers, bool createSchema) {
         DatabaseOptions chosen = databaseOptions(options);
-        chosen.connect = connect;
+        if (!servers.empty()) {
+            chosen.connect = servers.front();
+            chosen.further.assign(servers.begin() + 1, servers.end());
+        }
         chosen.createSchema = createSchema;
         database.emplace(open(chosen));
     });
@@ -108,7 +112,7 @@ int run(const ProgramOptions& options, const QPalette& desktop)
     const QString theme = !options.theme.isEmpty() || picture ? options.theme : rememberedTheme(memoryFile);
     if (!theme.isEmpty()) useTheme(themeNamed(theme), desktop);
     SecretKeyring keyring;
-    Beginning beginning(settingsFile("inicio.ini"), keyring, testConnection);
+    Beginning beginning(settingsFile("inicio.ini"), keyring, testServers);
     std::optional<Database> chosen = openChosen(options, beginning);
     if (!chosen) return 0;
     Database& database = *chosen;

@@ -17,6 +17,7 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include <stdexcept>
 #include <utility>
 
 namespace dn::host {
@@ -27,11 +28,11 @@ constexpr std::int16_t todayTab = 2;
 
 } // namespace
 
-MainWindow::MainWindow(Database& database, const Worker& worker, Reconnection::Pauses pauses)
+MainWindow::MainWindow(Database& database, const Worker& worker, Rhythm rhythm)
     : database_(database),
       worker_(worker),
       screens_([&database] { return database.openConnection(); }, this),
-      reconnection_(database, std::move(pauses)),
+      reconnection_(database, std::move(rhythm)),
       bar_(new ConnectionBar(reconnection_, this)),
       widget_(new screen::qt::CtrDnContactsWidget(this))
 {
@@ -47,8 +48,9 @@ MainWindow::MainWindow(Database& database, const Worker& worker, Reconnection::P
     widget_->onError([this](const std::exception& failure) { reportError(failure); });
     addMenus();
     watches_.push_back(reconnection_.alive.connect([this] {
-        if (atRest() && !isLoading()) place_ = placeOf(control());
+        if (atRest() && !isLoading() && !waiting_) place_ = placeOf(control());
     }));
+    watches_.push_back(control().elements().detail.txtText.Change.connect([this] { watchNote(); }));
     watches_.push_back(reconnection_.back.connect([this] {
         if (!std::exchange(waiting_, true)) QTimer::singleShot(0, this, [this] { resumeWhenAtRest(); });
     }));
@@ -113,24 +115,46 @@ void MainWindow::resumeWhenAtRest()
     if (waiting_) QTimer::singleShot(100, this, [this] { resumeWhenAtRest(); });
 }
 
+// The box is emptied by what is stored and by what is opened: what it held is known here by then.
+void MainWindow::watchNote()
+{
+    if (control().elements().detail.txtText.Text().empty() || !atRest() || leading_) return;
+    place_ = isOpen() ? placeOf(control()) : restored(placeOf(control()), place_);
+}
+
 bool MainWindow::isOpen() const { return database_.connection().State() == data::Connection::open; }
 
-void MainWindow::resume()
+void MainWindow::rememberPlace()
 {
     if (!leading_) {
         leading_ = restored(placeOf(control()), place_);
         leading_->checked = checkedProspects(control());
+        keyboard_ = KeyboardPlace(*this);
+        return;
     }
+    // Since the last time, which came to nothing.
+    const std::string typed = control().elements().detail.txtText.Text();
+    if (!typed.empty() && typed != leading_->note) leading_->notesLeft.push_back(typed);
+}
+
+void MainWindow::resume()
+{
+    rememberPlace();
+    std::optional<std::string> failure;
+    bool noteIsBack = false;
     try {
         bind();
-        const bool noteIsBack = returnTo(control(), *leading_);
-        if (!isOpen()) return; // lost again: there is a next time
-        if (!noteIsBack) bar_->keepNote(QString::fromStdString(leading_->note));
-    } catch (const std::exception& failure) {
-        if (!isOpen()) return;
-        reportError(failure);
+        noteIsBack = returnTo(control(), *leading_);
+    } catch (const std::exception& thrown) {
+        failure = thrown.what();
     }
+    if (!isOpen()) return; // lost again: there is a next time
+    if (!noteIsBack) leading_->notesLeft.push_back(leading_->note);
+    for (const std::string& note : leading_->notesLeft)
+        if (!note.empty()) bar_->keepNote(QString::fromStdString(note));
     leading_.reset();
+    keyboard_.restore();
+    if (failure) reportError(std::runtime_error(*failure));
 }
 
 void MainWindow::sendMails(const std::filesystem::path& dataFolder, Keyring& keyring)

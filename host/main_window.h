@@ -6,6 +6,7 @@
 
 #include "host/database/database.h"
 #include "host/desktop/manual_window.h"
+#include "host/keyboard_place.h"
 #include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
 #include "host/program_options.h"
@@ -31,8 +32,8 @@ class ConnectionBar;
 class MainWindow : public QMainWindow {
 public:
     /// @param database outlives the window.
-    /// @param pauses between the attempts to reach a database that was lost; none: the usual ones.
-    MainWindow(Database& database, const Worker& worker, Reconnection::Pauses pauses = {});
+    /// @param rhythm of the attempts to reach a database that was lost.
+    MainWindow(Database& database, const Worker& worker, Rhythm rhythm = {});
     ~MainWindow() override;
 
     /// Hands the connection, the worker and the host's screens to the control and shows its first screen.
@@ -61,7 +62,9 @@ private:
     bool atRest();
     static bool isLoading();
     bool isOpen() const;
+    void watchNote();
     void resumeWhenAtRest();
+    void rememberPlace();
     void resume();
     void refresh();
     void tellAbout();
@@ -76,8 +79,9 @@ private:
     ConnectionBar* bar_;
     QPointer<ManualWindow> manual_;
     screen::qt::CtrDnContactsWidget* widget_;
-    WorkPlace place_;                  // while the connection stood, a moment ago
+    WorkPlace place_;                  // a moment ago, or where the last note was typed
     std::optional<WorkPlace> leading_; // where to take the operator back to; until it is done
+    KeyboardPlace keyboard_;           // with it
     bool waiting_ = false;             // for the control to be at rest
     int looks_ = 0;                    // how often it was not
     screen::Subscription calls_;

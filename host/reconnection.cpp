@@ -3,13 +3,14 @@
 
 #include "host/reconnection.h"
 
-#include "host/database/host_error.h"
+#include "host/database/patience.h"
 
 #include <QCoreApplication>
 #include <QEvent>
 
 #include <algorithm>
 #include <atomic>
+#include <stop_token>
 #include <thread>
 #include <utility>
 
@@ -28,31 +29,49 @@ bool isOfTheOperator(QEvent::Type type)
 
 } // namespace
 
-/// Touches nothing of the window: whoever waits looks at it from time to time.
-struct Reconnection::Attempt {
-    explicit Attempt(const Database& database)
-        : thread([this, &database] {
+/// Touches nothing of the window, nor of anything that ends with it: whoever waits looks at the outcome from time
+/// to time, or forgets about it.
+class Reconnection::Attempt {
+public:
+    struct Outcome {
+        std::unique_ptr<data::Connection> connection;
+        std::string failure;
+        std::atomic<bool> finished{false};
+    };
+
+    explicit Attempt(Database::Revival revive)
+        : thread_([revive = std::move(revive), outcome = outcome_, givenUp = givenUp_.get_token()] {
               try {
-                  connection = database.openConnection();
+                  outcome->connection = revive(givenUp);
               } catch (const std::exception& error) {
-                  failure = error.what();
+                  outcome->failure = error.what();
               }
-              finished = true;
+              outcome->finished = true;
           })
     {
     }
     Attempt(const Attempt&) = delete;
     Attempt& operator=(const Attempt&) = delete;
-    ~Attempt() { thread.join(); }
+    ~Attempt()
+    {
+        givenUp_.request_stop();
+        if (waitUntil(aMoment, [this] { return outcome_->finished.load(); }))
+            thread_.join();
+        else
+            thread_.detach(); // a client library waits for a server and cannot be called back
+    }
 
-    std::unique_ptr<data::Connection> connection;
-    std::string failure;
-    std::atomic<bool> finished{false};
-    std::thread thread; // last: it uses the others
+    Outcome& outcome() { return *outcome_; }
+
+private:
+    static constexpr auto aMoment = 100ms;
+
+    std::shared_ptr<Outcome> outcome_ = std::make_shared<Outcome>();
+    std::stop_source givenUp_;
+    std::thread thread_; // last: it uses the others
 };
 
-Reconnection::Reconnection(Database& database, Pauses pauses)
-    : database_(database), pauses_(pauses.empty() ? Pauses{0s, 1s, 2s, 5s, 10s, 30s} : std::move(pauses))
+Reconnection::Reconnection(Database& database, Rhythm rhythm) : database_(database), rhythm_(std::move(rhythm))
 {
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
     soon_.setSingleShot(true);
@@ -85,14 +104,12 @@ std::chrono::seconds Reconnection::untilNext() const
 void Reconnection::look()
 {
     if (state_ == State::trying) {
-        if (attempt_->finished) settle();
+        if (attempt_->outcome().finished) settle();
         return;
     }
     if (state_ == State::connected) {
         if (database_.connection().State() == data::Connection::open) return alive.emit();
-        failures_ = 0;
-        reason_.clear();
-        wait();
+        lose();
     }
     if (std::chrono::steady_clock::now() >= next_)
         tryNow();
@@ -100,10 +117,20 @@ void Reconnection::look()
         changed.emit();
 }
 
+// A server that takes connections and drops them is not stormed.
+void Reconnection::lose()
+{
+    const bool stood = !since_ || std::chrono::steady_clock::now() - *since_ >= rhythm_.steady;
+    soonLost_ = stood ? 0 : soonLost_ + 1;
+    failures_ = soonLost_;
+    reason_.clear();
+    wait();
+}
+
 void Reconnection::wait()
 {
     enter(State::waiting);
-    const std::chrono::seconds pause = pauses_[std::min(failures_, pauses_.size() - 1)];
+    const std::chrono::seconds pause = rhythm_.pauses[std::min(failures_, rhythm_.pauses.size() - 1)];
     next_ = std::chrono::steady_clock::now() + pause;
     told_ = pause;
     changed.emit();
@@ -112,14 +139,8 @@ void Reconnection::wait()
 void Reconnection::tryNow()
 {
     if (state_ != State::waiting) return;
-    try {
-        database_.revive();
-    } catch (const HostError& error) {
-        failed(QString::fromUtf8(error.what()));
-        return;
-    }
     enter(State::trying);
-    attempt_ = std::make_unique<Attempt>(database_);
+    attempt_ = std::make_unique<Attempt>(database_.revival());
     changed.emit();
 }
 
@@ -133,8 +154,9 @@ void Reconnection::failed(const QString& reason)
 void Reconnection::settle()
 {
     const std::unique_ptr<Attempt> attempt = std::move(attempt_);
-    if (!attempt->connection) return failed(QString::fromStdString(attempt->failure));
-    database_.connection().renew(std::move(attempt->connection));
+    if (!attempt->outcome().connection) return failed(QString::fromStdString(attempt->outcome().failure));
+    database_.connection().renew(std::move(attempt->outcome().connection));
+    since_ = std::chrono::steady_clock::now();
     enter(State::connected);
     changed.emit();
     back.emit();

@@ -16,18 +16,28 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace dn::host {
 
+/// How often is tried.
+struct Rhythm {
+    /// Ahead of each attempt; the last one repeats.
+    std::vector<std::chrono::seconds> pauses{std::chrono::seconds(0),  std::chrono::seconds(1),
+                                             std::chrono::seconds(2),  std::chrono::seconds(5),
+                                             std::chrono::seconds(10), std::chrono::seconds(30)};
+    /// A connection that is lost again sooner than this behind its coming back counts as an attempt that failed.
+    std::chrono::milliseconds steady = std::chrono::seconds(10);
+};
+
 class Reconnection : public QObject {
 public:
-    using Pauses = std::vector<std::chrono::seconds>;
     enum class State : std::uint8_t { connected, waiting, trying };
 
-    /// @param database outlives this. @param pauses ahead of each attempt; the last one repeats.
-    explicit Reconnection(Database& database, Pauses pauses = {});
-    /// Waits for an attempt under way, which the connect time-out bounds.
+    /// @param database outlives this.
+    explicit Reconnection(Database& database, Rhythm rhythm = {});
+    /// Leaves an attempt under way to itself: nobody who closes a window waits for a server that hangs.
     ~Reconnection() override;
 
     State state() const { return state_; }
@@ -47,19 +57,22 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Attempt;
+    class Attempt;
 
     void look();
+    void lose();
     void enter(State state);
     void wait();
     void failed(const QString& reason);
     void settle();
 
     Database& database_;
-    Pauses pauses_;
+    Rhythm rhythm_;
     State state_ = State::connected;
     QString reason_;
-    std::size_t failures_ = 0;
+    std::size_t failures_ = 0; // of attempts, since the connection was lost
+    std::size_t soonLost_ = 0; // connections one after the other that did not last
+    std::optional<std::chrono::steady_clock::time_point> since_; // the present one; none for the first
     std::chrono::steady_clock::time_point next_;
     std::chrono::seconds told_{0};
     std::unique_ptr<Attempt> attempt_;

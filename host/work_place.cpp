@@ -90,11 +90,22 @@ std::vector<std::string> checkedProspects(ctrDnContacts& control)
     return keys;
 }
 
+// A note that was stored leaves its row selected and the box empty; it is no lost one.
 WorkPlace restored(WorkPlace place, const WorkPlace& earlier)
 {
+    const auto isAt = [&place, &earlier](std::size_t list) {
+        return place.tab == earlier.tab && place.selected[list] == earlier.selected[list];
+    };
+    const bool stayed = isAt(earlier.list());
     if (place.selected[place.list()].empty()) place.detail = earlier.detail;
     for (std::size_t i = 0; i < place.selected.size(); ++i)
         if (place.selected[i].empty()) place.selected[i] = earlier.selected[i];
+    place.notesLeft = earlier.notesLeft;
+    if (stayed || earlier.note.empty() || earlier.note == place.note) return place;
+    if (place.note.empty() && isAt(earlier.list()))
+        place.note = earlier.note;
+    else
+        place.notesLeft.push_back(earlier.note);
     return place;
 }
 

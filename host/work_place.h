@@ -28,7 +28,9 @@ struct WorkPlace {
     std::array<std::string, desk::TabStrip::count> selected;
     bool detail = false;              ///< the selected row's detail shows
     std::vector<std::string> checked; ///< keys of the checked prospects
-    std::string note;                 ///< typed and not stored
+    std::string note;                 ///< typed and not stored, for the selected row
+    /// Typed for rows that he left since, while nothing could be stored. Opening a tab empties the box.
+    std::vector<std::string> notesLeft;
 
     /// The list that is in view.
     std::size_t list() const
@@ -41,8 +43,8 @@ struct WorkPlace {
 WorkPlace placeOf(ctrDnContacts& control);
 std::vector<std::string> checkedProspects(ctrDnContacts& control);
 
-/// A place whose lists may have come out empty because the server was gone: what they had selected is taken from
-/// an earlier one.
+/// A place at which he has arrived while the server was gone, and its lists may have come out empty: what they had
+/// selected, and what he had typed, is taken from an earlier one.
 WorkPlace restored(WorkPlace place, const WorkPlace& earlier);
 
 /// Takes the operator there, after `RefreshData`. A row that is gone stays unselected.

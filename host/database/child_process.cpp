@@ -12,8 +12,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <string_view>
 #include <utility>
 
 namespace dn::host {
@@ -29,11 +31,18 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
     return pointers;
 }
 
-/// Our own variables and, ahead of them, so that they prevail, the given ones.
+/// The given variables, and our own of other names: of two with one name a library takes the first and a shell the
+/// last.
 std::vector<std::string> environmentWith(std::vector<std::string> variables)
 {
-    for (char** own = ::environ; *own != nullptr; ++own)
-        variables.emplace_back(*own);
+    const std::size_t given = variables.size();
+    for (char** own = ::environ; *own != nullptr; ++own) {
+        const std::string_view variable = *own;
+        const std::string_view name = variable.substr(0, variable.find('=') + 1);
+        const auto isGiven = [name](const std::string& one) { return one.starts_with(name); };
+        const auto end = variables.begin() + static_cast<std::ptrdiff_t>(given);
+        if (std::none_of(variables.begin(), end, isGiven)) variables.emplace_back(variable);
+    }
     return variables;
 }
 

@@ -15,10 +15,10 @@ constexpr std::size_t defaultDemoRows = 3000;
 /// Seconds. Making a million prospects has single steps that are slower than any of the control's statements.
 constexpr unsigned setUpReadTimeout = 3600;
 
-DatabaseChoice patient(DatabaseChoice choice)
+DatabaseChoice patient(MariadbTarget target)
 {
-    std::visit([](auto& target) { target.readTimeout = setUpReadTimeout; }, choice);
-    return choice;
+    target.readTimeout = setUpReadTimeout;
+    return target;
 }
 
 void say(const Progress& progress, const std::string& text)
@@ -74,10 +74,10 @@ bool prepareOwn(const PrivateServer& server, const DatabaseOptions& options, con
     return true;
 }
 
-bool prepareForeign(const DatabaseChoice& choice, const DatabaseOptions& options, const Progress& progress)
+bool prepareForeign(ServerList& servers, const DatabaseOptions& options, const Progress& progress)
 {
     if (!options.createSchema) return false;
-    const auto connection = connect(patient(choice));
+    const auto connection = servers.connect({.readTimeout = setUpReadTimeout});
     const Engine engine = engineOf(*connection);
     lockSetUp(*connection, engine);
     const int version = schemaVersionOf(*connection);
@@ -132,23 +132,25 @@ std::vector<DatabaseChoice> choicesOf(const DatabaseOptions& options)
 
 } // namespace
 
-void Database::revive()
+Database::Revival Database::revival() const
 {
-    if (server_) server_->revive();
+    return [server = server_, servers = servers_](const std::stop_token& givenUp) {
+        if (server) server->revive(givenUp);
+        return servers->connect({.givenUp = givenUp});
+    };
 }
 
 Database openDatabase(const DatabaseOptions& options, const Progress& progress)
 try {
     Database database;
     if (options.connect.empty()) {
-        database.server_ = std::make_unique<PrivateServer>(options.server, progress);
+        database.server_ = std::make_shared<PrivateServer>(options.server, progress);
         database.servers_ =
-            std::make_unique<ServerList>(std::vector<DatabaseChoice>{database.server_->target(privateName)});
+            std::make_shared<ServerList>(std::vector<DatabaseChoice>{database.server_->target(privateName)});
         database.created_ = prepareOwn(*database.server_, options, progress);
     } else {
-        database.servers_ = std::make_unique<ServerList>(choicesOf(options));
-        database.servers_->connect(); // finds the one to prepare
-        database.created_ = prepareForeign(database.choice(), options, progress);
+        database.servers_ = std::make_shared<ServerList>(choicesOf(options));
+        database.created_ = prepareForeign(*database.servers_, options, progress);
     }
     database.connection_ = std::make_unique<LastingConnection>(database.openConnection());
     keep(database.warnings_, letterCaseWarning(*database.connection_));

@@ -10,8 +10,10 @@
 #include "host/database/server_list.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -38,9 +40,11 @@ public:
     /// A further connection to the same database, for the host's own screens. May be called on any thread.
     /// @throws HostError
     std::unique_ptr<data::Connection> openConnection() const { return servers_->connect(); }
-    /// Starts the private server again where it has ended; else nothing. Call it from the main thread.
-    /// @throws HostError
-    void revive();
+    /// The way to a new connection after one was lost: starts the private server again where it has ended, then
+    /// connects. It may run on a thread of its own, also when this object has gone meanwhile.
+    /// @throws HostError when it runs.
+    using Revival = std::function<std::unique_ptr<data::Connection>(const std::stop_token& givenUp)>;
+    Revival revival() const;
 
     /// What the operator should know: Spanish texts, most often none.
     const std::vector<std::string>& warnings() const { return warnings_; }
@@ -56,15 +60,15 @@ private:
     friend Database openDatabase(const DatabaseOptions& options, const Progress& progress);
     Database() = default;
 
-    std::unique_ptr<PrivateServer> server_; // first, so that it goes last
-    std::unique_ptr<ServerList> servers_;
+    std::shared_ptr<PrivateServer> server_; // first, so that it goes last
+    std::shared_ptr<ServerList> servers_;
     std::unique_ptr<LastingConnection> connection_;
     std::vector<std::string> warnings_;
     bool created_ = false;
 };
 
 /// Starts or joins the private server, or reaches another's database; makes tables and sample data where they are
-/// due. Call it from the main thread, see `PrivateServer`.
+/// due.
 /// @throws HostError with what is wrong and what to do.
 Database openDatabase(const DatabaseOptions& options, const Progress& progress = {});
 

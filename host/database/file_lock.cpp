@@ -25,9 +25,12 @@ UniqueFd openLockFile(const std::filesystem::path& file)
 
 } // namespace
 
-FileLock::FileLock(const std::filesystem::path& file, std::chrono::milliseconds patience) : fd_(openLockFile(file))
+FileLock::FileLock(const std::filesystem::path& file, std::chrono::milliseconds patience,
+                   const std::stop_token& givenUp)
+    : fd_(openLockFile(file))
 {
-    const bool held = waitUntil(patience, [this] { return ::flock(fd_.get(), LOCK_EX | LOCK_NB) == 0; });
+    const auto free = [this] { return ::flock(fd_.get(), LOCK_EX | LOCK_NB) == 0; };
+    const bool held = waitUntil(patience, free, givenUp);
     if (!held)
         throw HostError("Otro programa está preparando la carpeta de datos «" + file.parent_path().string() +
                         "» y no termina. Espere a que acabe o ciérrelo, y vuelva a intentarlo.");

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <stop_token>
 
 namespace dn::host {
 
@@ -15,8 +16,10 @@ namespace dn::host {
 class FileLock {
 public:
     /// Makes the file if need be and waits for the lock.
-    /// @throws HostError when the file cannot be written, or another program holds the lock for longer than that.
-    FileLock(const std::filesystem::path& file, std::chrono::milliseconds patience);
+    /// @throws HostError when the file cannot be written, or another program holds the lock for longer than that
+    /// or than anybody wants to wait.
+    FileLock(const std::filesystem::path& file, std::chrono::milliseconds patience,
+             const std::stop_token& givenUp = {});
 
 private:
     UniqueFd fd_;

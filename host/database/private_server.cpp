@@ -70,14 +70,14 @@ PrivateServer::PrivateServer(ServerOptions options, const Progress& progress)
       folder_(prepareServerFolder(options_.folder.empty() ? defaultDataFolder() : options_.folder))
 {
     const FileLock lock(folder_.lock, options_.lockPatience);
-    if (!join()) start(progress);
+    if (!join({})) start(progress, {});
 }
 
-void PrivateServer::revive()
+void PrivateServer::revive(const std::stop_token& givenUp)
 {
     if (owned() && !process_.ended()) return;
-    const FileLock lock(folder_.lock, options_.lockPatience);
-    if (!join()) start({});
+    const FileLock lock(folder_.lock, options_.lockPatience, givenUp);
+    if (!join(givenUp)) start({}, givenUp);
 }
 
 PrivateServer::~PrivateServer() { process_.stop(options_.stopPatience); }
@@ -92,7 +92,7 @@ MariadbTarget PrivateServer::target(const std::string& database) const
 }
 
 /// A server that is going down, after its program ended, answers no more and soon lets go of its files.
-bool PrivateServer::join()
+bool PrivateServer::join(const std::stop_token& givenUp)
 {
     bool answered = false;
     const auto settled = [&] {
@@ -106,12 +106,12 @@ bool PrivateServer::join()
         answered = data.has_value();
         return answered;
     };
-    if (waitUntil(options_.joinPatience, settled)) return answered;
+    if (waitUntil(options_.joinPatience, settled, givenUp)) return answered;
     if (const auto holder = dataHolder(folder_.data)) throw heldByOther(folder_.data, *holder);
     throw socketInUse(folder_.socket);
 }
 
-void PrivateServer::start(const Progress& progress)
+void PrivateServer::start(const Progress& progress, const std::stop_token& givenUp)
 {
     const ServerBinaries programs =
         findServerBinaries(options_.searchPath.empty() ? defaultSearchPath() : options_.searchPath);
@@ -124,18 +124,20 @@ void PrivateServer::start(const Progress& progress)
     putLogAside(folder_.log);
     const unsigned megabytes =
         options_.bufferPoolMegabytes != 0 ? options_.bufferPoolMegabytes : bufferPoolMegabytes(folder_.data);
-    process_ =
-        ChildProcess(serverArguments(programs.server, folder_, megabytes), folder_.root / "servidor.salida");
-    awaitAnswer();
+    starter_.run([&] {
+        process_ =
+            ChildProcess(serverArguments(programs.server, folder_, megabytes), folder_.root / "servidor.salida");
+    });
+    awaitAnswer(givenUp);
 }
 
-void PrivateServer::awaitAnswer()
+void PrivateServer::awaitAnswer(const std::stop_token& givenUp)
 {
-    const bool up = waitUntil(options_.startPatience, [this] {
+    const auto answers = [this] {
         if (process_.ended()) throw HostError(explainFailedStart(folder_.root, folder_.log));
         return probeSocket(folder_.socket) == SocketState::listening && dataFolderOf(target(""));
-    });
-    if (!up)
+    };
+    if (!waitUntil(options_.startPatience, answers, givenUp))
         throw HostError(
             "El servidor de base de datos no respondió a tiempo. Vuelva a intentarlo; si no cambia, lea «" +
             folder_.log.string() + "».");

@@ -8,12 +8,14 @@
 #include "host/database/child_process.h"
 #include "host/database/database_choice.h"
 #include "host/database/host_error.h"
+#include "host/database/lasting_thread.h"
 #include "host/database/server_folder.h"
 
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -33,7 +35,6 @@ struct ServerOptions {
 class PrivateServer {
 public:
     /// Joins the server that already runs on the folder, or starts one, laying out its files at the first start.
-    /// Call it from the main thread: the server ends with the thread that started it.
     /// @throws HostError when it cannot, with what is wrong and what to do.
     explicit PrivateServer(ServerOptions options, const Progress& progress = {});
     PrivateServer(const PrivateServer&) = delete;
@@ -41,9 +42,10 @@ public:
     /// Stops the server when this object started it; one that was joined goes on.
     ~PrivateServer();
 
-    /// Starts the server again, or joins another's, where it has ended. Call it from the main thread.
-    /// @throws HostError as the constructor.
-    void revive();
+    /// Starts the server again, or joins another's, where it has ended. May be called on any thread, one at a
+    /// time, which is given up soon after nobody wants it any more.
+    /// @throws HostError as the constructor, and when it was given up.
+    void revive(const std::stop_token& givenUp = {});
 
     const ServerFolder& folder() const { return folder_; }
     /// Whether this object started the server.
@@ -56,12 +58,13 @@ public:
     MariadbTarget target(const std::string& database) const;
 
 private:
-    bool join();
-    void start(const Progress& progress);
-    void awaitAnswer();
+    bool join(const std::stop_token& givenUp);
+    void start(const Progress& progress, const std::stop_token& givenUp);
+    void awaitAnswer(const std::stop_token& givenUp);
 
     ServerOptions options_;
     ServerFolder folder_;
+    LastingThread starter_; // of the server, whose life hangs on it
     ChildProcess process_;
     bool initialised_ = false;
 };

@@ -17,6 +17,21 @@ std::string shown(data::Connection& connection, const std::string& statement)
     return rows && !rows->Eof() ? rows->value(1).toText() : std::string();
 }
 
+DatabaseChoice asWanted(DatabaseChoice choice, const ConnectionWish& wish)
+{
+    if (wish.readTimeout) std::visit([&](auto& target) { target.readTimeout = *wish.readTimeout; }, choice);
+    return choice;
+}
+
+} // namespace
+
+// Servers that were built for clusters and stand alone say that they are not ready, too.
+bool isReady(data::Connection& connection)
+{
+    return shown(connection, "SHOW GLOBAL VARIABLES LIKE 'wsrep_on'") != "ON" ||
+           shown(connection, "SHOW GLOBAL STATUS LIKE 'wsrep_ready'") == "ON";
+}
+
 std::unique_ptr<data::Connection> connectReady(const DatabaseChoice& choice)
 {
     auto connection = connect(choice);
@@ -31,26 +46,18 @@ std::unique_ptr<data::Connection> connectReady(const DatabaseChoice& choice)
                     " no atiende: su nodo está fuera de la parte principal del clúster (wsrep_ready).");
 }
 
-} // namespace
-
-// Servers that were built for clusters and stand alone say that they are not ready, too.
-bool isReady(data::Connection& connection)
-{
-    return shown(connection, "SHOW GLOBAL VARIABLES LIKE 'wsrep_on'") != "ON" ||
-           shown(connection, "SHOW GLOBAL STATUS LIKE 'wsrep_ready'") == "ON";
-}
-
-std::unique_ptr<data::Connection> ServerList::connect()
+std::unique_ptr<data::Connection> ServerList::connect(const ConnectionWish& wish)
 {
     const std::size_t first = present_;
     std::string failures;
-    for (std::size_t i = 0; i < choices_.size(); ++i) {
+    for (std::size_t i = 0; i < choices_.size() && !wish.givenUp.stop_requested(); ++i) {
         const std::size_t at = (first + i) % choices_.size();
         try {
-            auto connection = connectReady(choices_[at]);
+            auto connection = open_(asWanted(choices_[at], wish));
             present_ = at;
             return connection;
-        } catch (const HostError& failure) {
+        } catch (
+            const std::exception& failure) { // whatever keeps one server away is no reason not to ask the next
             failures += (failures.empty() ? "" : "\n") + std::string(failure.what());
         }
     }

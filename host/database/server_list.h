@@ -9,7 +9,10 @@
 
 #include <atomic>
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -19,16 +22,31 @@ namespace dn::host {
 /// @throws data::Error
 bool isReady(data::Connection& connection);
 
+/// A connection to a server that is ready. A node of a cluster that does not belong to its main part takes
+/// connections and is not ready.
+/// @throws HostError with what the server said, without the password.
+std::unique_ptr<data::Connection> connectReady(const DatabaseChoice& choice);
+
+/// What a connection is wanted for.
+struct ConnectionWish {
+    std::optional<unsigned> readTimeout = {}; ///< in seconds, whatever the server's own text says
+    std::stop_token givenUp = {};             ///< no further server is asked once nobody wants it any more
+};
+
 class ServerList {
 public:
-    /// @param choices at least one.
-    explicit ServerList(std::vector<DatabaseChoice> choices) : choices_(std::move(choices)) {}
+    using Opener = std::function<std::unique_ptr<data::Connection>(const DatabaseChoice&)>;
 
-    /// A connection to the first server that takes it and is ready, from the present one on, which it then is. A
-    /// node of a cluster that does not belong to its main part takes connections and is not ready. May be called
-    /// on any thread.
+    /// @param choices at least one.
+    explicit ServerList(std::vector<DatabaseChoice> choices, Opener open = connectReady)
+        : choices_(std::move(choices)), open_(std::move(open))
+    {
+    }
+
+    /// A connection to the first server that takes it and is ready, from the present one on, which it then is. May
+    /// be called on any thread.
     /// @throws HostError what each of them said.
-    std::unique_ptr<data::Connection> connect();
+    std::unique_ptr<data::Connection> connect(const ConnectionWish& wish = {});
 
     /// The server that served last; at first the first one.
     const DatabaseChoice& present() const { return choices_[present_]; }
@@ -38,6 +56,7 @@ public:
 
 private:
     std::vector<DatabaseChoice> choices_;
+    Opener open_;
     std::atomic<std::size_t> present_ = 0;
 };
 

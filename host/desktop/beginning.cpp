@@ -9,6 +9,22 @@
 #include <utility>
 
 namespace dn::host {
+namespace {
+
+std::vector<std::string> serversOf(const StartAnswer& answer)
+{
+    if (!answer.choice.own) return {};
+    return connectTexts(answer.choice.database, answer.password);
+}
+
+/// With its password to be kept, unless the operator says otherwise.
+std::optional<StartAnswer> withoutPassword(const std::optional<StartChoice>& choice)
+{
+    if (!choice) return std::nullopt;
+    return StartAnswer{.choice = *choice, .password = {}, .keepPassword = true};
+}
+
+} // namespace
 
 Beginning::Beginning(QString file, Keyring& keyring, FirstStart::ConnectionTest test)
     : file_(std::move(file)), keyring_(keyring), test_(std::move(test))
@@ -17,35 +33,34 @@ Beginning::Beginning(QString file, Keyring& keyring, FirstStart::ConnectionTest 
 
 bool Beginning::open(const Opener& opener)
 {
-    std::optional<StartChoice> known = readStartChoice(file_);
+    std::optional<StartAnswer> known = withoutPassword(readStartChoice(file_));
     std::optional<StartAnswer> answer;
-    if (known) answer = remembered(*known);
+    if (known) answer = remembered(known->choice);
     QString problem;
     for (;;) {
         if (!answer) answer = ask(known, problem, nullptr);
         if (!answer) return false;
         try {
-            opener(answer->choice.own ? connectText(answer->choice.database, answer->password) : "",
-                   answer->createSchema);
+            opener(serversOf(*answer), answer->choice.createSchema);
             break;
         } catch (const std::exception& failure) {
             problem = QString::fromUtf8(failure.what());
         }
-        known = answer->choice;
-        answer.reset();
+        known = std::exchange(answer, std::nullopt);
     }
+    answer->choice.createSchema = false; // it is done
     keep(*answer);
     return true;
 }
 
 bool Beginning::chooseAgain(QWidget* over)
 {
-    const std::optional<StartAnswer> answer = ask(readStartChoice(file_), {}, over);
+    const std::optional<StartAnswer> answer = ask(withoutPassword(readStartChoice(file_)), {}, over);
     if (answer) keep(*answer);
     return answer.has_value();
 }
 
-std::optional<StartAnswer> Beginning::ask(const std::optional<StartChoice>& before, const QString& problem,
+std::optional<StartAnswer> Beginning::ask(const std::optional<StartAnswer>& before, const QString& problem,
                                           QWidget* over)
 {
     FirstStart window(test_, keyring_.answers(), over);
@@ -53,7 +68,7 @@ std::optional<StartAnswer> Beginning::ask(const std::optional<StartChoice>& befo
     if (!problem.isEmpty()) window.complain(problem);
     if (window.exec() != QDialog::Accepted) return std::nullopt;
     StartAnswer answer = window.answer();
-    if (before) takeKeptPassword(answer, *before);
+    if (before) takeKeptPassword(answer, before->choice);
     return answer;
 }
 

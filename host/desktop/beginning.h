@@ -12,13 +12,15 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace dn::host {
 
 class Beginning {
 public:
-    /// Opens a database: an empty text names the private one with sample data. Throws what is wrong.
-    using Opener = std::function<void(const std::string& connect, bool createSchema)>;
+    /// Opens a database at one of its servers: the private one with sample data where there are none. Throws what
+    /// is wrong.
+    using Opener = std::function<void(const std::vector<std::string>& servers, bool createSchema)>;
 
     /// @param file remembers the choice. The keyring outlives this.
     Beginning(QString file, Keyring& keyring, FirstStart::ConnectionTest test);
@@ -32,7 +34,7 @@ public:
     bool chooseAgain(QWidget* over);
 
 private:
-    std::optional<StartAnswer> ask(const std::optional<StartChoice>& before, const QString& problem,
+    std::optional<StartAnswer> ask(const std::optional<StartAnswer>& before, const QString& problem,
                                    QWidget* over);
     void takeKeptPassword(StartAnswer& answer, const StartChoice& before);
     std::optional<StartAnswer> remembered(const StartChoice& choice);

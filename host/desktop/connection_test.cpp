@@ -9,10 +9,22 @@
 
 #include <QStringList>
 
+#include <future>
+
 namespace dn::host {
 namespace {
 
 constexpr unsigned patience = 5; // seconds: the operator waits before his screen
+
+QString howManyAnswer(qsizetype answering, std::size_t servers)
+{
+    if (answering == static_cast<qsizetype>(servers))
+        return QStringLiteral("Contestan los %1 servidores.").arg(servers);
+    return QStringLiteral("%1 %2 de %3 servidores.")
+        .arg(answering == 1 ? QStringLiteral("Contesta") : QStringLiteral("Contestan"))
+        .arg(answering)
+        .arg(servers);
+}
 
 } // namespace
 
@@ -39,6 +51,27 @@ try {
         .arg(missing.join(QLatin1String(", ")));
 } catch (const data::Error& failure) {
     throw HostError("El servidor contestó: " + std::string(failure.what()));
+}
+
+QString testServers(const std::vector<std::string>& servers)
+{
+    if (servers.size() == 1) return testConnection(servers.front());
+    std::vector<std::future<QString>> tests;
+    for (const std::string& server : servers)
+        tests.push_back(std::async(std::launch::async, [&server] { return testConnection(server); }));
+    QStringList told;
+    QStringList problems;
+    for (std::size_t i = 0; i < servers.size(); ++i) {
+        try {
+            const QString said = tests[i].get();
+            told += QString::fromStdString(describe(parseDatabaseChoice(servers[i]))) + ": " + said;
+        } catch (const std::exception& failure) {
+            problems += QString::fromUtf8(failure.what());
+            told += "⚠ " + problems.constLast();
+        }
+    }
+    if (problems.size() == told.size()) throw HostError(problems.join(u'\n').toStdString());
+    return howManyAnswer(told.size() - problems.size(), servers.size()) + "\n" + told.join(u'\n');
 }
 
 } // namespace dn::host

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 namespace dn::host {
 
@@ -20,5 +21,11 @@ DatabaseChoice impatient(DatabaseChoice choice);
 /// @return what was found, in the operator's words.
 /// @throws HostError with what is wrong, within some ten seconds.
 QString testConnection(const std::string& connect);
+
+/// The same at each server of a database, at all of them at a time.
+/// @param servers as `parseDatabaseChoice` reads each; at least one.
+/// @return which of them answer, and what was found at each.
+/// @throws HostError where none does, with what is wrong at each.
+QString testServers(const std::vector<std::string>& servers);
 
 } // namespace dn::host

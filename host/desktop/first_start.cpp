@@ -9,12 +9,12 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 namespace dn::host {
 namespace {
 
 constexpr int textWidth = 520; // logical pixels
-constexpr int standardPort = 3306;
-constexpr int lastPort = 65'535;
 
 enum Kind : int { mariadb, odbc };
 
@@ -101,9 +101,14 @@ QWidget* FirstStart::ownFields()
     };
     kind_->addItems({"MariaDB o MySQL", "SQL Server u otro, por ODBC"});
     add("&Clase de servidor:", kind_, "cbClase");
-    add("Ser&vidor:", server_, "txtServidor");
-    port_->setRange(1, lastPort);
-    port_->setValue(standardPort);
+    add("Ser&vidor:", servers_, "txtServidor");
+    serversHint_ =
+        paragraph("Si la base está en varios servidores, escríbalos todos, el preferido primero: nodo1, "
+                  "nodo2:3307. También sirve la ruta de un socket.",
+                  fields);
+    form_->addRow(QString(), serversHint_);
+    port_->setRange(1, ServerAddress::lastPort);
+    port_->setValue(ServerAddress::standardPort);
     add("Puert&o:", port_, "txtPuerto");
     add("&Base de datos:", name_, "txtBase");
     text_->setPlaceholderText("DRIVER=FreeTDS;SERVER=…;DATABASE=…");
@@ -129,24 +134,31 @@ void FirstStart::follow()
 {
     const bool byOdbc = kind_->currentIndex() == odbc;
     fields_->setVisible(own_->isChecked());
-    for (QWidget* const field :
-         {static_cast<QWidget*>(server_), static_cast<QWidget*>(port_), static_cast<QWidget*>(name_)})
+    for (QWidget* const field : std::initializer_list<QWidget*>{servers_, serversHint_, port_, name_})
         form_->setRowVisible(field, !byOdbc);
     form_->setRowVisible(text_, byOdbc);
     say({}, false);
 }
 
-void FirstStart::fillWith(const StartChoice& choice)
+void FirstStart::fillWith(const StartAnswer& before)
 {
-    (choice.own ? own_ : sample_)->setChecked(true);
-    if (!choice.own) return;
-    kind_->setCurrentIndex(choice.database.odbc ? odbc : mariadb);
-    server_->setText(choice.database.server);
-    port_->setValue(choice.database.port);
-    name_->setText(choice.database.name);
-    text_->setText(choice.database.text);
+    (before.choice.own ? own_ : sample_)->setChecked(true);
+    if (!before.choice.own) return;
+    const OwnDatabase& database = before.choice.database;
+    kind_->setCurrentIndex(database.odbc ? odbc : mariadb);
+    for (const ServerAddress& server : database.servers) {
+        if (!server.socket.isEmpty()) continue;
+        port_->setValue(server.port); // of the first that has one
+        break;
+    }
+    servers_->setText(written(database.servers, port_->value()));
+    servers_->setCursorPosition(0);
+    name_->setText(database.name);
+    text_->setText(database.text);
     text_->setCursorPosition(0); // the driver, which tells most
-    user_->setText(choice.database.user);
+    user_->setText(database.user);
+    create_->setChecked(before.choice.createSchema);
+    keep_->setChecked(keep_->isEnabled() && before.keepPassword);
 }
 
 void FirstStart::complain(const QString& problem) { say(problem, true); }
@@ -160,8 +172,7 @@ OwnDatabase FirstStart::database() const
         database.text = text_->text().trimmed();
         return database;
     }
-    database.server = server_->text().trimmed();
-    database.port = port_->value();
+    database.servers = readServers(servers_->text(), port_->value());
     database.name = name_->text().trimmed();
     return database;
 }
@@ -174,7 +185,7 @@ StartAnswer FirstStart::answer() const
     answer.choice.database = database();
     answer.password = password_->text().toStdString();
     answer.keepPassword = keep_->isEnabled() && keep_->isChecked();
-    answer.createSchema = create_->isChecked();
+    answer.choice.createSchema = create_->isChecked();
     return answer;
 }
 
@@ -188,7 +199,7 @@ void FirstStart::tryOut()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     try {
-        say(test_(connectText(database(), password_->text().toStdString())), false);
+        say(test_(connectTexts(database(), password_->text().toStdString())), false);
     } catch (const std::exception& failure) {
         complain(QString::fromUtf8(failure.what()));
     }

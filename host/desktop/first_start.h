@@ -17,6 +17,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 class QFormLayout;
 
@@ -27,19 +28,18 @@ struct StartAnswer {
     StartChoice choice;
     std::string password;
     bool keepPassword = false;
-    bool createSchema = false;
 };
 
 class FirstStart : public QDialog {
 public:
-    /// Tells what a connection text leads to; throws what is wrong with it.
-    using ConnectionTest = std::function<QString(const std::string& connect)>;
+    /// Tells what the connection texts of a database's servers lead to; throws what is wrong with all of them.
+    using ConnectionTest = std::function<QString(const std::vector<std::string>& servers)>;
 
     /// @param canKeep whether there is a keyring for the password.
     FirstStart(ConnectionTest test, bool canKeep, QWidget* over = nullptr);
 
-    /// Fills the window with what was chosen before.
-    void fillWith(const StartChoice& choice);
+    /// Fills the window with what was chosen before, but for the password.
+    void fillWith(const StartAnswer& before);
     /// Tells what went wrong with the last choice.
     void complain(const QString& problem);
 
@@ -50,7 +50,6 @@ public:
 private:
     void build(bool canKeep);
     QWidget* ownFields();
-    QWidget* testRow();
     void follow();
     void tryOut();
     void say(const QString& text, bool isProblem);
@@ -62,7 +61,8 @@ private:
     QWidget* fields_ = nullptr;
     QFormLayout* form_ = nullptr;
     QComboBox* kind_ = new QComboBox(this);
-    QLineEdit* server_ = new QLineEdit(this);
+    QLineEdit* servers_ = new QLineEdit(this);
+    QLabel* serversHint_ = nullptr;
     QSpinBox* port_ = new QSpinBox(this);
     QLineEdit* name_ = new QLineEdit(this);
     QLineEdit* text_ = new QLineEdit(this);

@@ -10,8 +10,6 @@
 namespace dn::host {
 namespace {
 
-constexpr int highestPort = 65'535;
-
 std::string encoded(const QString& text) { return QUrl::toPercentEncoding(text).toStdString(); }
 
 /// A value of an ODBC string: in braces, with each closing one doubled.
@@ -44,30 +42,31 @@ QString problemOfOdbc(const QString& text)
     return {};
 }
 
-std::string serverPart(const OwnDatabase& database)
+QString problemOfServers(const std::vector<ServerAddress>& servers)
 {
-    const std::string server = database.server.trimmed().toStdString();
-    const bool address = server.find(':') != std::string::npos;
-    return (address ? "[" + server + "]" : server) + ":" + std::to_string(database.port);
-}
-
-} // namespace
-
-QString problemOf(const OwnDatabase& database)
-{
-    if (database.odbc) return problemOfOdbc(database.text);
-    if (database.server.trimmed().isEmpty())
-        return QStringLiteral("Escriba el nombre o la dirección del servidor.");
-    if (database.name.trimmed().isEmpty()) return QStringLiteral("Escriba el nombre de la base de datos.");
-    if (database.user.trimmed().isEmpty()) return QStringLiteral("Escriba el usuario con el que se entra.");
+    if (servers.empty()) return QStringLiteral("Escriba el nombre o la dirección del servidor.");
+    for (const ServerAddress& server : servers)
+        if (!isValid(server))
+            return QStringLiteral(
+                       "No se entiende «%1». Escriba cada servidor como nombre, nombre:puerto o la ruta "
+                       "de un socket.")
+                .arg(server.host);
     return {};
 }
 
-std::string connectText(const OwnDatabase& database, const std::string& password)
+std::string connectText(const ServerAddress& server, const OwnDatabase& database, const std::string& password)
 {
-    if (!database.odbc)
-        return "mariadb://" + encoded(database.user) + ":" + encoded(QString::fromStdString(password)) + "@" +
-               serverPart(database) + "/" + encoded(database.name.trimmed());
+    const bool bySocket = !server.socket.isEmpty();
+    const bool isAddress = server.host.contains(u':'); // of IPv6; its brackets take no percent signs
+    const std::string place = bySocket    ? "localhost"
+                              : isAddress ? written(server).toStdString()
+                                          : encoded(server.host) + ":" + std::to_string(server.port);
+    return "mariadb://" + encoded(database.user) + ":" + encoded(QString::fromStdString(password)) + "@" + place +
+           "/" + encoded(database.name.trimmed()) + (bySocket ? "?socket=" + encoded(server.socket) : "");
+}
+
+std::string odbcConnectText(const OwnDatabase& database, const std::string& password)
+{
     std::string text = database.text.trimmed().toStdString();
     if (!text.empty() && text.back() != ';') text += ';';
     if (!database.user.isEmpty()) text += "UID=" + braced(database.user.toStdString()) + ";";
@@ -75,11 +74,42 @@ std::string connectText(const OwnDatabase& database, const std::string& password
     return text;
 }
 
+// One server with a port of its own, as earlier releases wrote it.
+std::vector<ServerAddress> serversIn(const QSettings& settings)
+{
+    if (settings.contains("base/servidores"))
+        return readServers(settings.value("base/servidores").toStringList().join(u' '));
+    const QString host = settings.value("base/servidor").toString().trimmed();
+    if (host.isEmpty()) return {};
+    return {{host, settings.value("base/puerto").toInt()}};
+}
+
+} // namespace
+
+QString problemOf(const OwnDatabase& database)
+{
+    if (database.odbc) return problemOfOdbc(database.text);
+    if (const QString problem = problemOfServers(database.servers); !problem.isEmpty()) return problem;
+    if (database.name.trimmed().isEmpty()) return QStringLiteral("Escriba el nombre de la base de datos.");
+    if (database.user.trimmed().isEmpty()) return QStringLiteral("Escriba el usuario con el que se entra.");
+    return {};
+}
+
+std::vector<std::string> connectTexts(const OwnDatabase& database, const std::string& password)
+{
+    if (database.odbc) return {odbcConnectText(database, password)};
+    std::vector<std::string> texts;
+    for (const ServerAddress& server : database.servers)
+        texts.push_back(connectText(server, database, password));
+    return texts;
+}
+
 std::string accountOf(const OwnDatabase& database)
 {
     const std::string user = database.user.toStdString();
     if (database.odbc) return user + "@" + database.text.trimmed().toStdString();
-    return user + "@" + serverPart(database) + "/" + database.name.trimmed().toStdString();
+    const QString server = database.servers.empty() ? QString() : written(database.servers.front());
+    return user + "@" + server.toStdString() + "/" + database.name.trimmed().toStdString();
 }
 
 std::optional<StartChoice> readStartChoice(const QString& file)
@@ -90,13 +120,13 @@ std::optional<StartChoice> readStartChoice(const QString& file)
     if (kind == "ejemplo") return choice;
     choice.own = true;
     choice.database.odbc = kind == "odbc";
-    choice.database.server = settings.value("base/servidor").toString();
-    choice.database.port = settings.value("base/puerto").toInt();
+    if (!choice.database.odbc) choice.database.servers = serversIn(settings);
     choice.database.name = settings.value("base/nombre").toString();
     choice.database.text = settings.value("base/cadena").toString();
     choice.database.user = settings.value("base/usuario").toString();
-    const bool known = kind == "odbc" || (kind == "mariadb" && choice.database.port > 0);
-    if (!known || choice.database.port > highestPort || !problemOf(choice.database).isEmpty()) return std::nullopt;
+    choice.createSchema = settings.value("base/crear").toBool();
+    const bool known = kind == "odbc" || kind == "mariadb";
+    if (!known || !problemOf(choice.database).isEmpty()) return std::nullopt;
     return choice;
 }
 
@@ -107,12 +137,15 @@ bool writeStartChoice(const QString& file, const StartChoice& choice)
     settings.setValue("base/tipo", !choice.own ? "ejemplo" : choice.database.odbc ? "odbc" : "mariadb");
     if (choice.own) {
         settings.setValue("base/usuario", choice.database.user);
-        settings.setValue("base/puerto", choice.database.port);
-        if (choice.database.odbc)
-            settings.setValue("base/cadena", choice.database.text.trimmed());
-        else
-            settings.setValue("base/servidor", choice.database.server.trimmed());
-        if (!choice.database.odbc) settings.setValue("base/nombre", choice.database.name.trimmed());
+        if (choice.createSchema) settings.setValue("base/crear", true);
+    }
+    if (choice.own && choice.database.odbc) settings.setValue("base/cadena", choice.database.text.trimmed());
+    if (choice.own && !choice.database.odbc) {
+        QStringList servers;
+        for (const ServerAddress& server : choice.database.servers)
+            servers += written(server);
+        settings.setValue("base/servidores", servers);
+        settings.setValue("base/nombre", choice.database.name.trimmed());
     }
     settings.sync();
     return settings.status() == QSettings::NoError;

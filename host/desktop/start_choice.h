@@ -5,18 +5,20 @@
 // password.
 #pragma once
 
+#include "host/desktop/server_addresses.h"
+
 #include <QString>
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace dn::host {
 
 /// A database of the operator's own, without its password.
 struct OwnDatabase {
     bool odbc = false;
-    QString server; ///< of MariaDB or MySQL
-    int port = 3306;
+    std::vector<ServerAddress> servers; ///< of MariaDB or MySQL, the preferred one first
     QString name;
     QString text; ///< for ODBC: the connection string without user and password
     QString user;
@@ -27,6 +29,7 @@ struct OwnDatabase {
 struct StartChoice {
     bool own = false; ///< else the private database with sample data
     OwnDatabase database;
+    bool createSchema = false; ///< when it is opened next
 
     bool operator==(const StartChoice& other) const = default;
 };
@@ -34,10 +37,10 @@ struct StartChoice {
 /// What is wrong with the fields, in the operator's words; an empty text when nothing is.
 QString problemOf(const OwnDatabase& database);
 
-/// The database as `parseDatabaseChoice` reads it.
-std::string connectText(const OwnDatabase& database, const std::string& password);
+/// The database as `parseDatabaseChoice` reads it, at each of its servers.
+std::vector<std::string> connectTexts(const OwnDatabase& database, const std::string& password);
 
-/// The name under which a keyring keeps the password, which an operator can read.
+/// The name under which a keyring keeps the password, which an operator can read: that of the preferred server.
 std::string accountOf(const OwnDatabase& database);
 
 /// What was chosen; nothing ahead of the first start, or when the file does not say it.

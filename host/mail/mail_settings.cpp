@@ -7,6 +7,8 @@
 
 #include <QSaveFile>
 
+#include <arpa/inet.h>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -93,9 +95,12 @@ int number(const std::string& text, const char* name, int usual, std::vector<std
     return usual;
 }
 
+// A name that begins like an address ("127.0.0.1.example.com") may lead anywhere.
 bool isLoopback(const std::string& host)
 {
-    return host == "localhost" || host == "[::1]" || host.rfind("127.", 0) == 0;
+    in_addr address{};
+    const bool isAddress = ::inet_pton(AF_INET, host.c_str(), &address) == 1;
+    return host == "localhost" || host == "[::1]" || (isAddress && host.rfind("127.", 0) == 0);
 }
 
 std::string problemOf(const MailSettings& settings)

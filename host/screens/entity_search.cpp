@@ -19,19 +19,6 @@ constexpr auto room = static_cast<std::size_t>(searchLimit);
 constexpr std::int64_t keysOfSlice = 4'000;
 constexpr std::int64_t mostSlices = 64;
 
-/// The words of a text as they stand, for LIKE; others may lie between them, so that "ana lópez" fits Ana María
-/// López. A bracket opens a set of letters on SQL Server.
-std::string patternOf(std::string_view text)
-{
-    std::string pattern;
-    for (const char c : text) {
-        if (c == '%' || c == '_' || c == '[' || c == '!') pattern += '!';
-        if (c == ' ') pattern += '%';
-        pattern += c;
-    }
-    return pattern;
-}
-
 std::vector<Entity> readEntities(OwnConnection& database, const Statement& statement, bool organisation)
 {
     std::vector<Entity> found;

@@ -26,6 +26,17 @@ Statement holding(const SqlText& text, const std::string& pattern, std::int32_t 
 
 } // namespace
 
+std::string patternOf(std::string_view text)
+{
+    std::string pattern;
+    for (const char c : text) {
+        if (c == '%' || c == '_' || c == '[' || c == '!') pattern += '!';
+        if (c == ' ') pattern += '%';
+        pattern += c;
+    }
+    return pattern;
+}
+
 Statement personsFrom(const std::string& pattern)
 {
     return beginning("SELECT Sys_PK, Nombre, Apellido1, Apellido2, COALESCE(Tel_Trabajo, Tel_Movil, Tel_Casa), "

@@ -7,7 +7,14 @@
 
 #include "host/database/statement.h"
 
+#include <string>
+#include <string_view>
+
 namespace dn::host {
+
+/// The words of a text as they stand; others may lie between them, so that "ana lópez" fits Ana María López. A
+/// bracket opens a set of letters on SQL Server.
+std::string patternOf(std::string_view text);
 
 // What begins with the pattern, by an index.
 Statement personsFrom(const std::string& pattern);

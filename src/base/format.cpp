@@ -129,7 +129,6 @@ void roundToCents(Decimal& number)
     increment(cents);
     number.fraction = cents.substr(cents.size() - 2);
     number.whole = cents.substr(0, cents.size() - 2);
-    if (number.whole == "0") number.whole.clear();
 }
 
 } // namespace

@@ -82,7 +82,8 @@ double Value::toNumber() const
 
 bool Value::toBoolean() const
 {
-    if (raw_ == "0" || raw_ == "1") return raw_ == "1"; // as nearly every flag comes
+    const bool isFlag = kind_ == Kind::boolean || kind_ == Kind::whole;
+    if (isFlag && (raw_ == "0" || raw_ == "1")) return raw_ == "1"; // as nearly every one comes
     return toNumber() != 0;
 }
 

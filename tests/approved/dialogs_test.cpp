@@ -161,16 +161,18 @@ TEST_F(DialogLooks, of_the_mail_lists)
 
 TEST_F(DialogLooks, of_the_first_start)
 {
-    host::FirstStart window([](const std::string&) { return QString(); }, true);
+    host::FirstStart window([](const std::vector<std::string>&) { return QString(); }, true);
     looksAndReads(window, "primer-inicio");
-    host::StartChoice own;
-    own.own = true;
-    own.database = {.server = "db.example.com", .name = "ventas", .text = {}, .user = "ana"};
+    host::StartAnswer own;
+    own.keepPassword = true;
+    own.choice.own = true;
+    host::OwnDatabase& database = own.choice.database;
+    database = {.servers = {{"db.example.com"}}, .name = "ventas", .text = {}, .user = "ana"};
     window.fillWith(own);
     window.complain(QStringLiteral("No se pudo abrir la base de datos."));
     looksAndReads(window, "primer-inicio-propia");
-    own.database.odbc = true;
-    own.database.text = "DRIVER={FreeTDS};SERVER=db.example.com;DATABASE=ventas";
+    database.odbc = true;
+    database.text = "DRIVER={FreeTDS};SERVER=db.example.com;DATABASE=ventas";
     window.fillWith(own);
     looksAndReads(window, "primer-inicio-odbc");
 }

@@ -95,6 +95,8 @@ TEST(FormatAmount, RoundsHalfAwayFromZero)
 {
     for (const TextCase& c : {TextCase{"0.004", ".00"},
                               {"0.005", ".01"},
+                              {"0.094", ".09"},
+                              {"0.095", ".10"},
                               {"2.675", "2.68"},
                               {"0.995", "1.00"},
                               {"999.995", "1,000.00"},

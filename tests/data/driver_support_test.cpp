@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
         DateCase{"0999-05-05", Kind::dateTime, "0999-05-05"}, DateCase{"0000-00-00", Kind::null, ""},
         DateCase{"0000-00-00 00:00:00", Kind::null, ""}, DateCase{"0000-00-00 00:00:00.000000", Kind::null, ""},
         DateCase{"0000-05-05", Kind::text, "0000-05-05"}, DateCase{"2026-00-10", Kind::text, "2026-00-10"},
-        DateCase{"2026-10-00", Kind::text, "2026-10-00"},
+        DateCase{"2026-10-00", Kind::text, "2026-10-00"}, DateCase{"20260-1-14", Kind::text, "20260-1-14"},
         DateCase{"2026-00-00 10:00:00", Kind::text, "2026-00-00 10:00:00"},
         DateCase{"838:59:59", Kind::text, "838:59:59"}, DateCase{"-01:00:00", Kind::text, "-01:00:00"},
         DateCase{"-838:59:59", Kind::text, "-838:59:59"},

@@ -164,6 +164,10 @@ TEST(ValueToBoolean, IsTrueForEveryNumberButZero)
     EXPECT_TRUE(number("0.01").toBoolean());
     EXPECT_FALSE(number("0.00").toBoolean());
     EXPECT_TRUE(text("2").toBoolean());
+    for (const std::string_view flag : {"0", "1"}) { // what looks like a flag and is none
+        EXPECT_THROW(Value(Value::Kind::dateTime, flag).toBoolean(), RuntimeError);
+        EXPECT_THROW(Value(Value::Kind::null, flag).toBoolean(), RuntimeError);
+    }
 }
 
 TEST(ValueToDateTime, ReadsDatesAndTextsThatAreDates)

@@ -37,6 +37,12 @@ void beforeTheQueue(AtWork& at)
     at.clicksRow(at.elements().today.lvwHoy, "K1");
 }
 
+void asSupervisor(AtWork& at)
+{
+    at.begins(0, true);
+    at.opensTab(desk::prospectos);
+}
+
 void asAdministrator(AtWork& at)
 {
     at.begins(ana, true);
@@ -82,7 +88,7 @@ void typesInAProspect(AtWork& at)
     at.will("dlgNuevoPros", [](screen::Form& form) {
         for (const auto& [box, text] :
              std::initializer_list<std::pair<const char*, const char*>>{{"txtNombre", "María"},
-                                                                        {"txtTelefono", "961"},
+                                                                        {"txtTelefono", "961 111 2233"},
                                                                         {"txtCorreo", "m@x.mx"},
                                                                         {"txtEmpresa", "Acme"},
                                                                         {"txtPuesto", "Compras"},
@@ -123,6 +129,28 @@ const std::string agents = "Select Sys_PK, Nombre From Agente";
 const std::string nobodyToReceive = "Debe seleccionar el ejecutivo que recibirá los proyectos";
 const std::string nobodyToMail = "No se puede ubicar información del destinatario";
 
+Action answeredInVain(const char* name, void (*prepare)(AtWork&), const char* button, bool isAlike = true)
+{
+    return {.name = name,
+            .prepare = prepare,
+            .act =
+                [button](AtWork& at) {
+                    calls(at);
+                    at.presses("cmdContesta");
+                    at.presses(button);
+                },
+            .told = {{note}},
+            .isAlike = isAlike};
+}
+
+/// Asks what is to follow, without a call.
+void clicksLuzTwice(AtWork& at, const char* option)
+{
+    screen::ListView& lvw = at.elements().prospects.lvw;
+    at.will("dlgQueH", answer(option));
+    lvw.doubleClickRow(static_cast<std::size_t>(lvw.ListItems()("K1").Index()) - 1);
+}
+
 std::vector<Action> notesAndCalls()
 {
     return {
@@ -162,13 +190,28 @@ std::vector<Action> notesAndCalls()
                  at.presses("cmdFueraServ");
              },
          .told = {{note}}},
-        {.name = "a call: somebody else answers",
+        {.name = "a call: cancelled",
          .prepare = beforeLuz,
          .act =
              [](AtWork& at) {
                  calls(at);
+                 at.presses("cmdCancelCall");
+             }},
+        answeredInVain("a call: not there", beforeLuz, "cmdCallCon(0)"),
+        answeredInVain("a call: in a meeting", beforeLuz, "cmdCallCon(1)", false),
+        answeredInVain("a call: hung up", beforeLuz, "cmdCallCon(3)"),
+        answeredInVain("a call: wants to know nothing", beforeLuz, "cmdCallCon(4)"),
+        answeredInVain("a call: another reason", beforeLuz, "cmdCallCon(5)"),
+        answeredInVain("a call about a project: not there", beforeSilo, "cmdCallCon(0)"),
+        {.name = "a call about a project: contact",
+         .prepare = beforeSilo,
+         .act =
+             [](AtWork& at) {
+                 calls(at);
                  at.presses("cmdContesta");
-                 at.presses("cmdCallCon(1)");
+                 at.presses("cmdCallCon(6)");
+                 at.types("txtResCall", "quiere planos");
+                 at.presses("cmdOkCall");
              },
          .told = {{note}}},
         {.name = "a call: wrong number, discarded",
@@ -207,6 +250,18 @@ std::vector<Action> prospectCommands()
         {.name = "an opportunity",
          .prepare = beforeLuz,
          .act = [](AtWork& at) { at.picks("Combo1", "Oportunidad"); },
+         .told = {{note}, {"UPDATE"}}},
+        {.name = "discarded by its status",
+         .prepare = beforeLuz,
+         .act = [](AtWork& at) { at.picks("Combo1", "Descartado"); },
+         .told = {{note}, {"UPDATE"}}},
+        {.name = "a double click: no interest",
+         .prepare = beforeLuz,
+         .act = [](AtWork& at) { clicksLuzTwice(at, "Option3"); },
+         .told = {{note}, {"UPDATE"}}},
+        {.name = "a double click: a project",
+         .prepare = beforeLuz,
+         .act = [](AtWork& at) { clicksLuzTwice(at, "Option2"); },
          .told = {{note}, {"UPDATE"}}},
         {.name = "two discarded",
          .prepare = asAdministrator,
@@ -286,6 +341,20 @@ std::vector<Action> projectsAndLists()
              },
          .told = {{note}, {"SELECT Sys_GUID", nobodyToMail}},
          .emptyTells = nobodyToMail},
+        {.name = "the mails of a prospect",
+         .prepare = beforeTheQueue,
+         .act = [](AtWork& at) { at.presses("Command7"); },
+         .told = {{"SELECT Sys_GUID", nobodyToMail}},
+         .emptyTells = nobodyToMail},
+        {.name = "the mails of a project",
+         .prepare =
+             [](AtWork& at) {
+                 beforeTheQueue(at);
+                 at.clicksRow(at.elements().today.lvwHoy, "P1");
+             },
+         .act = [](AtWork& at) { at.presses("Command7"); },
+         .told = {{"SELECT Sys_GUID", nobodyToMail}},
+         .emptyTells = nobodyToMail},
         {.name = "projects handed over",
          .prepare =
              [](AtWork& at) {
@@ -310,12 +379,34 @@ std::vector<Action> projectsAndLists()
         {.name = "a row of the queue",
          .prepare = beforeTheQueue,
          .act = [](AtWork& at) { at.clicksRow(at.elements().today.lvwHoy, "K2"); }},
+        {.name = "a row of the prospects",
+         .prepare = beforeLuz,
+         .act = [](AtWork& at) { at.clicksRow(at.elements().prospects.lvw, "K2"); }},
+        {.name = "a row of the projects",
+         .prepare = beforeSilo,
+         .act = [](AtWork& at) { at.clicksRow(at.elements().projects.lvwProy, "K2"); }},
+        {.name = "everything read again",
+         .prepare = beforeLuz,
+         .act =
+             [](AtWork& at) {
+                 at.control.RefreshData();
+                 at.opensTab(desk::prospectos);
+             },
+         .leaves = {agents}},
         {.name = "the organisations",
          .prepare = beforeLuz,
          .act = [](AtWork& at) { at.opensTab(desk::organizaciones); },
          .told = {{"SELECT"}}},
         {.name = "the persons",
          .prepare = beforeLuz,
+         .act = [](AtWork& at) { at.opensTab(desk::contactos); },
+         .told = {{"SELECT"}}},
+        {.name = "everybody's organisations",
+         .prepare = asSupervisor,
+         .act = [](AtWork& at) { at.opensTab(desk::organizaciones); },
+         .told = {{"SELECT"}}},
+        {.name = "everybody's persons",
+         .prepare = asSupervisor,
          .act = [](AtWork& at) { at.opensTab(desk::contactos); },
          .told = {{"SELECT"}}},
         {.name = "a status of the prospects",
@@ -327,6 +418,9 @@ std::vector<Action> projectsAndLists()
         {.name = "another agent",
          .prepare = asAdministrator,
          .act = [](AtWork& at) { at.picks("cbAgente", "Beto"); }},
+        {.name = "nobody's work",
+         .prepare = asAdministrator,
+         .act = [](AtWork& at) { at.picks("cbAgente", "< Sin asignar >"); }},
         {.name = "a search",
          .prepare = beforeLuz,
          .act =

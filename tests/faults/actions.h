@@ -28,6 +28,7 @@ struct Action {
     std::string emptyTells = {};          ///< shown when a statement finds no row any more
     bool emptyLeaves = false;             ///< or an exception that reaches the host
     bool hourglassMayStay = false;        ///< after a failure, as the window of the groups leaves it
+    bool isAlike = false;                 ///< another action differs from it by a number alone
 };
 
 const std::vector<Action>& allActions();

@@ -6,6 +6,7 @@
 #include "tests/support/element_tree.h"
 
 #include <array>
+#include <set>
 
 namespace dn::tests {
 
@@ -59,6 +60,19 @@ void AtWork::picks(const char* combo, const char* entry)
     elementNamed<screen::ComboBox>(control.root(), combo).pick(std::string_view(entry));
 }
 
+namespace {
+
+bool keysDiffer(screen::ListView& list)
+{
+    std::set<std::string> keys;
+    screen::ListItems rows = list.ListItems();
+    for (int i = 1; i <= rows.Count(); ++i)
+        if (!keys.emplace(rows(i).Key()).second) return false;
+    return true;
+}
+
+} // namespace
+
 std::string AtWork::whatIsWrong(bool hourglassMayStay)
 {
     std::string wrong;
@@ -89,6 +103,25 @@ std::string AtWork::whatIsWrong(bool hourglassMayStay)
     check(all.call.picLlamada.Visible() == calling, "the panel of the call does not fit");
     check(all.detail.cmdCall.Enabled() != calling, "the button of the call does not fit");
     check(windows.open == 0, "a window stayed open");
+    if (active == 1) {
+        const bool directory = shown > desk::hoy;
+        check(all.detail.picRight.Visible() != directory, "the detail shows beside a directory, or nowhere else");
+        check(all.today.picHoy.Visible() == (shown == desk::hoy), "the commands of the queue");
+        check(all.organisations.picOrganizacion.Visible() == (shown == desk::organizaciones),
+              "the commands of the organisations");
+        check(all.persons.picContactos.Visible() == (shown == desk::contactos), "the commands of the persons");
+        check(all.top.picColors.Visible() == (shown < desk::hoy), "the colours");
+        check(all.detail.Combo1.Visible() == (shown == desk::prospectos), "the status");
+    }
+    // What he types goes to a row that he sees selected.
+    const auto selected = lists[static_cast<std::size_t>(shown)]->SelectedItem();
+    const bool prospects =
+        active == 1 && shown == desk::prospectos; // the projects leave the detail of the last one
+    check(!prospects || !all.detail.txtText.Enabled() || selected, "a note for nobody can be typed");
+    check(all.detail.txtText.Enabled() == all.detail.cmdIntro.Enabled(), "the note and its button differ");
+    check(!prospects || selected || all.detail.txtInfo.Text().empty(), "the detail of nobody");
+    for (screen::ListView* list : lists)
+        check(keysDiffer(*list), "a row twice");
     return wrong;
 }
 

@@ -33,7 +33,7 @@ public:
 
     /// A database is the sample again.
     void copySample(const std::string& database);
-    /// All rows of all tables, without what no run has twice: new keys and identifiers.
+    /// All rows of all tables, new keys by their order and new identifiers by their form.
     std::string contents(const std::string& database, data::Connection& connection) const;
     /// What the sample becomes by these statements.
     const std::string& contentsAfter(const std::vector<std::string>& statements);

@@ -8,14 +8,18 @@
 #include "base/text.h"
 #include "tests/faults/actions.h"
 #include "tests/faults/faults.h"
+#include "tests/support/control_statements.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <fstream>
 #include <optional>
+#include <set>
+#include <utility>
 
 namespace dn::tests {
 namespace {
@@ -26,9 +30,25 @@ bool everything()
     return wanted != nullptr && std::string_view(wanted) == "all";
 }
 
+/// A piece of statements that no action sends.
+struct NotSent {
+    const char* part;
+    const char* why;
+};
+
+constexpr std::array<NotSent, 5> notSent{{
+    {"UPDATE Proyecto SET IEjecutivo = 9  WHERE",
+     "the group tool with conditions, where that of all projects is sent"},
+    {"FROM ut_icontact W", "the mail list of prospects with filters, where that without any is sent"},
+    {"SELECT Proyecto.IEjecutivo, Proyecto.IMeta", "the mail list of projects with filters, as above"},
+    {"uf_res_ultimointento = -1", "only a host's own call ends with that code"},
+    {", NULL, 0, 1, 0, 'URL_Directo')", "a supervisor's new prospect, which is an agent's with a null"},
+}};
+
 /// One run of an action, and what came of it.
 struct Course {
     std::vector<Sent> sent;
+    std::set<std::size_t> hadRows; ///< numbers of the changes that touched a row
     std::vector<std::string> boxes;
     std::optional<std::string> left; ///< what reached the host
     std::vector<std::string> effects;
@@ -55,10 +75,18 @@ std::string goesOn(AtWork& work)
     return wrong;
 }
 
+/// @return whether the change that has just run touched a row, as the traps have counted.
+bool touchedARow(data::Connection& connection)
+{
+    const bool touched = connection.execute("SELECT IFNULL(@tocados, 0)")->value(0).toInt32() > 0;
+    connection.execute("SET @tocados = 0");
+    return touched;
+}
+
 Course perform(const Action& action, Fault* fault, std::size_t at)
 {
     office().reset();
-    AtWork work(fault == nullptr ? office().salesperson() : office().salesperson(fault->patience()));
+    AtWork work(fault == nullptr ? office().salesperson() : fault->connect());
     action.prepare(work);
     work.cnn->sent.clear();
     work.dialogs.boxes.clear();
@@ -74,7 +102,9 @@ Course perform(const Action& action, Fault* fault, std::size_t at)
             }
         }
         if (!behind || !changes(statement)) return;
-        if (work.cnn->sent[number].acknowledged)
+        if (fault == nullptr && touchedARow(work.cnn->real())) run.hadRows.insert(number);
+        const bool carriedOut = fault != nullptr && number == at && fault->carriesOut();
+        if (work.cnn->sent[number].acknowledged || carriedOut)
             run.effects.push_back(statement);
         else if (fault != nullptr && number == at && fault->leavesOpen())
             run.uncertain = statement;
@@ -145,11 +175,15 @@ public:
     }
 
     /// @return whether the statement met with the fault at all.
-    bool at(std::size_t number)
+    bool at(std::size_t number, const Target& target)
     {
+        fault_.aim(target);
         const Course run = perform(action_, &fault_, number);
-        const std::string where = action_.name + ", " + fault_.name() + " at statement " +
-                                  std::to_string(number + 1) + ": " + undisturbed_.sent[number].text;
+        const std::string what = fault_.name() + (target.table.empty() ? "" : " (" + target.table) +
+                                 (target.column.empty() ? "" : "." + target.column) +
+                                 (target.table.empty() ? "" : ")");
+        const std::string where = action_.name + ", " + what + " at statement " + std::to_string(number + 1) +
+                                  ": " + undisturbed_.sent[number].text;
         EXPECT_EQ(run.wrong, "") << where;
         EXPECT_EQ(wronglyTold(action_, run, undisturbed_, fault_), "") << where;
         const bool mayLeave = !fault_.fails() && action_.emptyLeaves;
@@ -157,11 +191,16 @@ public:
             ADD_FAILURE() << where << "\nreached the host: " << run.left.value_or("nothing");
         rows(run, where);
         const bool met = number < run.sent.size() && (!fault_.fails() || !run.sent[number].acknowledged);
-        EXPECT_TRUE(met || !fault_.isSure()) << where << "\nran all the same";
+        if (met && fault_.fails()) {
+            EXPECT_THAT(fault_.codes(), testing::Contains(run.sent[number].code)) << where;
+        }
+        EXPECT_TRUE(met || isSpared(number)) << where << "\nran all the same";
         return met;
     }
 
 private:
+    bool isSpared(std::size_t number) const { return fault_.needsRow() && !undisturbed_.hadRows.contains(number); }
+
     static void rows(const Course& run, const std::string& where)
     {
         if (run.stored == office().contentsAfter(run.effects)) return;
@@ -182,58 +221,118 @@ private:
 struct Count {
     std::size_t actions = 0;
     std::size_t statements = 0;
+    std::size_t times = 0;
 };
 
-// The dear ones at the first statement of the first action that can meet with them, unless all are asked for.
-bool isDue(const Fault& fault, std::size_t action, std::size_t number, const Course& undisturbed)
+/// The actions without a fault.
+const std::vector<Course>& undisturbed()
 {
-    if (!fault.dear() || everything()) return true;
-    if (action != 0) return false;
-    return std::none_of(undisturbed.sent.begin(), undisturbed.sent.begin() + static_cast<std::ptrdiff_t>(number),
-                        [&](const Sent& earlier) { return fault.meets(earlier.text); });
+    static const std::vector<Course> courses = [] {
+        std::vector<Course> all;
+        for (const Action& action : allActions())
+            all.push_back(perform(action, nullptr, 0));
+        return all;
+    }();
+    return courses;
 }
+
+/// Provokes one fault all over the actions, as far as it is due.
+class Round {
+public:
+    explicit Round(Fault& fault) : fault_(fault) {}
+
+    Count run()
+    {
+        for (std::size_t i = 0; i < allActions().size(); ++i) {
+            if (allActions()[i].isAlike && !everything()) continue;
+            const std::size_t before = count_.statements;
+            for (std::size_t number = 0; number < undisturbed()[i].sent.size(); ++number)
+                at(i, number);
+            count_.actions += count_.statements > before ? 1 : 0;
+        }
+        return count_;
+    }
+
+private:
+    void at(std::size_t action, std::size_t number)
+    {
+        Check check(allActions()[action], fault_, undisturbed()[action]);
+        const std::string& statement = undisturbed()[action].sent[number].text;
+        bool met = false;
+        bool nearest = true;
+        for (const Target& target : fault_.targets(statement)) {
+            if (!(std::exchange(nearest, false) ? isDue() : isFurtherDue(statement, target))) continue;
+            const bool meets = check.at(number, target);
+            count_.times += meets ? 1 : 0;
+            met = met || meets;
+        }
+        count_.statements += met ? 1 : 0;
+    }
+
+    // The dear ones are provoked until one statement has met with them, unless all are asked for.
+    bool isDue() const { return !fault_.dear() || everything() || count_.statements == 0; }
+
+    // A further table or column of a statement once, wherever it is sent first.
+    bool isFurtherDue(const std::string& statement, const Target& target)
+    {
+        return everything() && known_.insert(shapeOf(statement) + "|" + target.table + "." + target.column).second;
+    }
+
+    Fault& fault_;
+    Count count_;
+    std::set<std::string> known_;
+};
 
 void writeTable(const std::vector<std::pair<std::string, Count>>& counts, std::size_t statements)
 {
     const char* const file = std::getenv("DN_FAULTS_TABLE");
     if (file == nullptr) return;
     std::ofstream out(file);
-    out << "| Fault | Raised by | Actions | Statements met with it |\n|---|---|---|---|\n";
+    out << "| Fault | Raised by | Actions | Statements met with it | Times provoked |\n|---|---|---|---|---|\n";
     for (const auto& [line, count] : counts)
-        out << "| " << line << " | " << count.actions << " | " << count.statements << " |\n";
+        out << "| " << line << " | " << count.actions << " | " << count.statements << " | " << count.times
+            << " |\n";
     out << "\n" << allActions().size() << " actions, " << statements << " statements without a fault.\n";
 }
 
-TEST(Faults, leave_the_operator_at_work_and_the_database_with_what_was_acknowledged)
+TEST(Faults, leave_an_undisturbed_operator_alone)
 {
-    std::vector<Course> undisturbed;
-    std::size_t statements = 0;
-    for (const Action& action : allActions()) {
-        SCOPED_TRACE(action.name);
-        undisturbed.push_back(perform(action, nullptr, 0));
-        const Course& run = undisturbed.back();
-        statements += run.sent.size();
+    for (std::size_t i = 0; i < allActions().size(); ++i) {
+        SCOPED_TRACE(allActions()[i].name);
+        const Course& run = undisturbed()[i];
         EXPECT_FALSE(run.left) << *run.left;
         EXPECT_EQ(run.wrong, "");
         EXPECT_FALSE(run.sent.empty());
         EXPECT_EQ(run.stored, office().contentsAfter(run.effects));
     }
+}
+
+TEST(Faults, leave_the_operator_at_work_and_the_database_with_what_was_acknowledged)
+{
     std::vector<std::pair<std::string, Count>> counts;
     for (const auto& fault : allFaults()) {
-        Count count;
-        for (std::size_t i = 0; i < allActions().size(); ++i) {
-            Check check(allActions()[i], *fault, undisturbed[i]);
-            std::size_t met = 0;
-            for (std::size_t number = 0; number < undisturbed[i].sent.size(); ++number)
-                if (fault->meets(undisturbed[i].sent[number].text) && isDue(*fault, i, number, undisturbed[i]))
-                    met += check.at(number) ? 1 : 0;
-            count.statements += met;
-            count.actions += met > 0 ? 1 : 0;
-        }
+        const Count count = Round(*fault).run();
         EXPECT_GT(count.statements, 0U) << fault->name();
         counts.emplace_back(fault->name() + " | " + fault->origin(), count);
     }
+    std::size_t statements = 0;
+    for (const Course& run : undisturbed())
+        statements += run.sent.size();
     writeTable(counts, statements);
+}
+
+// Every statement of the control is sent by some action, or stands here with the reason why none needs to.
+TEST(Faults, are_provoked_at_every_statement_of_the_control)
+{
+    std::set<std::string> sent;
+    for (const Course& run : undisturbed())
+        for (const Sent& each : run.sent)
+            sent.insert(shapeOf(each.text));
+    for (const std::string& statement : validStatements(Dialect::mySql)) {
+        if (sent.contains(shapeOf(statement))) continue;
+        const auto explains = [&](const NotSent& one) { return statement.find(one.part) != std::string::npos; };
+        EXPECT_TRUE(std::any_of(notSent.begin(), notSent.end(), explains)) << statement;
+    }
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include "base/text.h"
 #include "data/mariadb/connection.h"
 
+#include <algorithm>
+#include <regex>
 #include <string_view>
 #include <utility>
 
@@ -15,17 +17,23 @@ namespace {
 constexpr const char* account = "vendedor";
 constexpr const char* accountPassword = "clave-de-vendedor";
 
-std::unique_ptr<data::Connection> connectAs(const MariaServer& server, std::string_view user,
+std::unique_ptr<data::Connection> connectAs(const std::string& socket, std::string_view user,
                                             std::string_view password, const std::string& database,
                                             std::chrono::seconds patience)
 {
     data::mariadb::Options options;
-    options.socket = server.socket();
+    options.socket = socket;
     options.user = user;
     options.password = password;
     options.database = database;
     options.readTimeOut = options.writeTimeOut = patience;
     return std::make_unique<data::mariadb::Connection>(options);
+}
+
+std::unique_ptr<data::Connection> atTheMoment(std::unique_ptr<data::Connection> connection)
+{
+    connection->execute(std::string("SET timestamp = UNIX_TIMESTAMP('") + Books::moment + "')");
+    return connection;
 }
 
 bool isLetter(char sign) { return sign == '_' || (std::isalnum(static_cast<unsigned char>(sign)) != 0); }
@@ -40,8 +48,8 @@ bool names(const std::string& statement, const std::string& word)
     return false;
 }
 
-// What the control writes into. A session's variable makes a change there fail as on a full disk, or take two
-// locks in an order in which somebody else waits for the first.
+// What the control writes into. A session's variable makes a change there fail as on a full disk, take its time,
+// or take two locks in an order in which somebody else waits for the first. Another one counts the rows.
 const std::vector<std::pair<std::string, std::string>> writtenTo{
     {"ut_icontact", "UPDATE"},          {"ut_icontact", "INSERT"},        {"proyecto", "UPDATE"},
     {"xt_biticontact", "INSERT"},       {"ut_interescontacto", "INSERT"}, {"ut_origencontacto", "INSERT"},
@@ -60,18 +68,24 @@ Office::Office()
     addTraps();
     beside().execute(std::string("CREATE USER ") + account + "@'%' IDENTIFIED BY '" + accountPassword + "'");
     beside().execute(std::string("GRANT ALL ON trabajo.* TO ") + account + "@'%'");
+    for (const char* view : {"qhoy", "qatascados"})
+        views_[view] = readView(view);
 }
 
 std::unique_ptr<data::Connection> Office::salesperson(std::chrono::seconds patience)
 {
-    auto connection = connectAs(server_, account, accountPassword, "trabajo", patience);
-    connection->execute(std::string("SET timestamp = UNIX_TIMESTAMP('") + Books::moment + "')");
-    return connection;
+    return atTheMoment(connectAs(server_.socket(), account, accountPassword, "trabajo", patience));
+}
+
+std::unique_ptr<data::Connection> Office::salespersonOver(const Relay& relay)
+{
+    return atTheMoment(connectAs(relay.socket(), account, accountPassword, "trabajo", std::chrono::seconds(30)));
 }
 
 std::unique_ptr<data::Connection> Office::administrator(const std::string& database)
 {
-    return connectAs(server_, MariaServer::user, MariaServer::password, database, std::chrono::seconds(30));
+    return connectAs(server_.socket(), MariaServer::user, MariaServer::password, database,
+                     std::chrono::seconds(30));
 }
 
 void Office::restart()
@@ -90,39 +104,78 @@ void Office::addTraps()
     for (const auto& [table, event] : writtenTo)
         beside().execute("CREATE TRIGGER trampa_" + table + "_" + event + " BEFORE " + event + " ON " + table +
                          " FOR EACH ROW BEGIN DECLARE uno INT; "
+                         "SET @tocados = IFNULL(@tocados, 0) + 1; "
+                         "IF @pausa = 1 THEN SET uno = SLEEP(30); END IF; "
                          "IF @lleno = 1 THEN SIGNAL SQLSTATE 'HY000' SET MYSQL_ERRNO = 1114, MESSAGE_TEXT = 'The "
                          "table is full'; END IF; "
                          "IF @enredo = 1 THEN SELECT id INTO uno FROM cerrojo WHERE id = 1 FOR UPDATE; "
                          "SELECT id INTO uno FROM cerrojo WHERE id = 2 FOR UPDATE; END IF; END");
 }
 
-std::string Office::tableOf(const std::string& statement) const
+// As the server keeps the text of a view, every name in it is quoted, and every column stands behind the alias of
+// its table.
+Office::View Office::readView(const std::string& name)
 {
-    const std::string lower = toLower(statement);
-    if (names(lower, "qhoy") || names(lower, "qatascados")) return "ut_icontact";
-    for (const char* learnt : {"interes", "origen", "referencia"})
-        if (lower.starts_with(std::string("call add") + learnt)) return std::string("ut_") + learnt + "contacto";
-    std::string first;
-    std::size_t at = std::string::npos;
-    for (const std::string& table : books_.tables()) {
-        const std::size_t found = lower.find(table);
-        if (found >= at || !names(lower, table)) continue;
-        at = found;
-        first = table;
+    const auto rows = beside().execute("SELECT view_definition FROM information_schema.views WHERE table_schema = "
+                                       "'trabajo' AND table_name = '" +
+                                       name + "'");
+    const std::string text = toLower(rows->value(0).toText());
+    const auto all = [&text](const std::string& pattern) {
+        const std::regex form(pattern);
+        return std::vector<std::smatch>(std::sregex_iterator(text.begin(), text.end(), form), {});
+    };
+    View view;
+    for (const std::smatch& table : all("`trabajo`\\.`(\\w+)` `(\\w+)`")) {
+        std::vector<std::string> columns;
+        for (const std::smatch& column : all("`" + table[2].str() + "`\\.`(\\w+)`"))
+            if (std::find(columns.begin(), columns.end(), column[1]) == columns.end())
+                columns.push_back(column[1]);
+        const auto isTable = [&](const auto& known) { return known.first == table[1]; };
+        if (std::none_of(view.begin(), view.end(), isTable)) view.emplace_back(table[1], columns);
     }
-    return first;
+    return view;
 }
 
-std::string Office::columnOf(const std::string& table, const std::string& statement) const
+const Office::View* Office::viewOf(const std::string& statement) const
+{
+    for (const auto& [name, view] : views_)
+        if (names(toLower(statement), name)) return &view;
+    return nullptr;
+}
+
+std::vector<std::string> Office::tablesOf(const std::string& statement) const
 {
     const std::string lower = toLower(statement);
-    if (names(lower, "qhoy") || names(lower, "qatascados")) return "uf_proxcontac";
-    if (lower.starts_with("call")) return books_.columnsOf(table).back();
+    for (const char* learnt : {"interes", "origen", "referencia"})
+        if (lower.starts_with(std::string("call add") + learnt)) return {std::string("ut_") + learnt + "contacto"};
+    std::vector<std::string> tables;
+    if (const View* view = viewOf(statement); view != nullptr) {
+        for (const auto& [table, columns] : *view)
+            tables.push_back(table);
+        return tables;
+    }
+    for (const std::string& table : books_.tables())
+        if (names(lower, table)) tables.push_back(table);
+    std::sort(tables.begin(), tables.end(), [&lower](const std::string& left, const std::string& right) {
+        return lower.find(left) < lower.find(right);
+    });
+    return tables;
+}
+
+std::vector<std::string> Office::columnsOf(const std::string& table, const std::string& statement) const
+{
+    if (const View* view = viewOf(statement); view != nullptr)
+        for (const auto& [name, columns] : *view)
+            if (name == table) return columns;
+    const std::string lower = toLower(statement);
+    if (lower.starts_with("call")) return {books_.columnsOf(table).back()};
     // Several tables have columns of one name: what is said of this table counts, where tables are said at all.
     const std::string ahead = lower.find(table + ".") == std::string::npos ? "" : table + ".";
+    std::vector<std::string> columns;
     for (const std::string& name : books_.columnsOf(table))
-        if (name != "sys_pk" && names(lower, ahead + name)) return name;
-    return names(lower, ahead + "sys_pk") ? "sys_pk" : "";
+        if (name != "sys_pk" && names(lower, ahead + name)) columns.push_back(name);
+    if (names(lower, ahead + "sys_pk")) columns.emplace_back("sys_pk");
+    return columns;
 }
 
 } // namespace dn::tests

@@ -23,6 +23,7 @@ struct Sent {
     std::string text;
     bool acknowledged = false;
     std::string failure = {};
+    int code = 0; ///< of that failure
 };
 
 class WatchedConnection final : public data::Connection {
@@ -43,6 +44,7 @@ public:
             sent[number].acknowledged = true;
         } catch (const data::Error& error) {
             sent[number].failure = error.what();
+            sent[number].code = error.nativeCode();
             failure = std::current_exception();
         }
         if (around) around(number, sent[number].text, true);

@@ -1,16 +1,12 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The control itself: what an operator types on its way into a statement, and what a database gives on its way
-// into a list.
+// What an operator types into the control, on its way into a statement.
 
-#include "base/runtime_error.h"
-#include "base/text.h"
 #include "dialogs/prospect_insert.h"
-#include "shell/ctr_dn_contacts.h"
-#include "tests/fuzz/input.h"
 #include "tests/fuzz/targets.h"
-#include "tests/support/control_fixture.h"
+#include "tests/fuzz/workbench.h"
+#include "tests/support/element_tree.h"
 
 #include <algorithm>
 #include <array>
@@ -18,76 +14,56 @@
 namespace dn::fuzz {
 namespace {
 
-constexpr std::int32_t agent = 7;
+constexpr std::array textColumns{"uf_Nombre", "uf_EMail",  "uf_Telefono", "uf_Empresa", "uf_Puesto",
+                                 "uf_Pais",   "uf_Estado", "uf_Ciudad",   "uf_Interes", "uf_Comentarios"};
 
-/// A control with one agent's prospects on its first tab.
-class Workbench {
-public:
-    explicit Workbench(std::vector<std::vector<tests::Cell>> prospects)
-    {
-        cnn.on("SELECT NOW()").gives({"NOW()"}, {{tests::date("2026-03-14 09:30:00")}});
-        cnn.on(tests::agentsStatement).gives({"Sys_PK", "Nombre"}, {{tests::whole(agent), tests::text("Ana")}});
-        cnn.onContaining("FROM ut_icontact WHERE").gives(tests::prospectColumns(), std::move(prospects));
-        control.hostObjects(&host);
-        control.SetObjects(&cnn, agent, false, "ana");
-        control.InitUICRM("pantallas", lands);
-        control.RefreshData();
-        control.elements().top.lblItem(desk::prospectos).click();
-        cnn.forgetStatements();
-    }
-
-    screen::ListView& lvw() { return control.elements().prospects.lvw; }
-    std::vector<std::string> keys()
-    {
-        std::vector<std::string> result;
-        for (int row = 1; row <= lvw().ListItems().Count(); ++row)
-            result.emplace_back(lvw().ListItems()(row).Key());
-        return result;
-    }
-
-    tests::FakeConnection cnn;
-    tests::FakePorts ports;
-    tests::FakeHost host;
-    HostObject lands = std::make_shared<int>(1);
-    ctrDnContacts control{ports.ports()};
-};
-
-tests::Cell someCell(Input& input)
+/// As a text stands in the statement of a new prospect, without its quotes.
+std::string asParameter(std::string_view typed)
 {
-    using Kind = data::Value::Kind;
-    constexpr std::array kinds{Kind::null, Kind::boolean, Kind::whole, Kind::number, Kind::text, Kind::dateTime};
-    const std::size_t kind = input.choice(kinds.size() + 1);
-    if (kind == kinds.size()) return tests::failing("no se puede leer");
-    return {kinds.at(kind), input.text(), false};
-}
-
-std::vector<std::vector<tests::Cell>> someRows(Input& input)
-{
-    constexpr std::size_t most = 8;
-    std::vector<std::vector<tests::Cell>> all;
-    while (!input.empty() && all.size() < most) {
-        std::vector<tests::Cell>& row = all.emplace_back(tests::prospectColumns().size(), tests::null);
-        for (std::size_t filled = input.choice(8) + 1; filled > 0; --filled)
-            row[filled == 1 ? 0 : input.choice(row.size())] = someCell(input); // the key most often
-    }
-    return all;
-}
-
-/// The keys of the rows that a list can show: those that can be read, each once.
-std::vector<std::string> keysOf(const std::vector<std::vector<tests::Cell>>& records)
-{
-    std::vector<std::string> keys;
-    for (const auto& record : records) {
-        if (record.front().failing) continue;
-        try {
-            const std::string key = "K" + data::Value(record.front().kind, record.front().text).toText();
-            if (std::find(keys.begin(), keys.end(), key) == keys.end()) keys.push_back(key);
-        } catch (const RuntimeError&) {
-            continue; // a null, or no date
+    std::string inside;
+    for (; !typed.empty(); typed.remove_prefix(1)) {
+        if (typed.starts_with("\r\n")) {
+            inside += "\\r\\n";
+            typed.remove_prefix(1);
+        } else if (typed.front() != '\'') {
+            inside += typed.front();
         }
     }
-    return keys;
+    return inside;
 }
+
+/// The statement with each mark of a column, wherever it stands by now, as its value.
+std::string marked(const std::string& statement, const std::string& mark, const std::string& value)
+{
+    std::string result;
+    std::string_view rest = statement;
+    while (!rest.empty()) {
+        const bool here = rest.starts_with(mark);
+        result += here ? value : std::string(rest.substr(0, 1));
+        rest.remove_prefix(here ? mark.size() : 1);
+    }
+    return result;
+}
+
+/// What stands between quotes, one after the other.
+std::vector<std::string> literalsOf(std::string_view statement)
+{
+    std::vector<std::string> literals;
+    for (bool inside = false; !statement.empty(); inside = !inside) {
+        const std::size_t end = std::min(statement.find('\''), statement.size());
+        if (inside) literals.emplace_back(statement.substr(0, end));
+        statement.remove_prefix(std::min(end + 1, statement.size()));
+    }
+    return literals;
+}
+
+/// A window that is closed as soon as it comes.
+void closeEach(Workbench& bench)
+{
+    bench.ports.events.onModal = [](screen::Form& form) { form.closeWindow(); };
+}
+
+bool isBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
 
 } // namespace
 
@@ -97,34 +73,38 @@ void parameters(Input& input)
     const std::string typed = input.text();
     std::string literal = "@uf_Nombre";
     dialogs::SetParam(literal, "uf_Nombre", typed);
-    require(literal.size() >= 2 && literal.starts_with('\'') && literal.ends_with('\''), "a text comes in quotes");
-    const std::string inside = literal.substr(1, literal.size() - 2);
-    require(inside.find('\'') == std::string::npos, "no apostrophe is left in a text");
-    if (typed.find('\'') == std::string::npos)
-        require(inside.find(crlf) == std::string::npos, "no pair of line ends is left in a text");
+    require(literal == "'" + asParameter(typed) + "'", "a text comes in quotes, and without one of its own");
     std::string statement = dialogs::prospectInsert(mySql);
-    const auto apostrophes = [&] { return std::count(statement.begin(), statement.end(), '\''); };
-    const auto before = apostrophes();
-    constexpr std::array columns{"uf_Nombre", "uf_EMail", "uf_Telefono", "uf_Empresa", "uf_Puesto"};
-    std::ptrdiff_t filled = 0;
-    for (const char* column : columns) {
+    std::string wanted = statement;
+    std::vector<std::string> literals = literalsOf(statement);
+    require(literals == std::vector<std::string>({"-", "", "@", "@", "@"}), "a statement has its own literals");
+    bool named = false; // a text names a column that comes later
+    for (const char* column : textColumns) {
         const std::string text = input.text();
-        if (text.find('@') != std::string::npos) continue; // it may name a marker that comes later
+        named = named || text.find("@uf_") != std::string::npos;
+        literals.push_back(asParameter(text));
         dialogs::SetParam(statement, column, text);
-        ++filled;
+        wanted = marked(wanted, "@" + std::string(column), "'" + literals.back() + "'");
     }
-    require(apostrophes() == before + 2 * filled, "a statement has the quotes of its texts and no others");
+    const std::int32_t key = static_cast<std::int32_t>(input.number());
+    dialogs::SetParam(statement, "uf_iejecutivo", key, key == 0);
+    wanted = marked(wanted, "@uf_iejecutivo", key == 0 ? "NULL" : std::to_string(key));
+    for (const auto& [column, number] : {std::pair("uf_status", 0), {"uf_tipo", 1}, {"uf_color", 0}}) {
+        dialogs::SetParam(statement, column, number);
+        wanted = marked(wanted, "@" + std::string(column), std::to_string(number));
+    }
+    dialogs::SetParam(statement, "uf_redirect", std::string("URL_Directo"));
+    wanted = marked(wanted, "@uf_redirect", "'URL_Directo'");
+    require(statement == wanted, "each mark stands for its value, those that a text brings among them");
+    literals.emplace_back("URL_Directo");
+    require(named || literalsOf(statement) == literals, "a statement has the literals of its texts and no others");
 }
 
 void notes(Input& input)
 {
     const std::string typed = input.rest();
-    const std::string stored = without(without(trimmed(typed), crlf), "'");
-    Workbench bench({[] {
-        std::vector<tests::Cell> row(tests::prospectColumns().size(), tests::null);
-        row.front() = tests::whole(12);
-        return row;
-    }()});
+    const std::string stored = storedNote(typed);
+    Workbench bench(prospectTwelve());
     bench.lvw().clickRow(0);
     bench.cnn.forgetStatements();
     if (stored.empty()) bench.ports.dialogs.expectBox("Debe escribir un mensaje");
@@ -134,36 +114,80 @@ void notes(Input& input)
         require(bench.cnn.statements().empty(), "nothing is written without a text");
         return;
     }
-    require(bench.cnn.statements() ==
-                std::vector<std::string>{"INSERT INTO xt_biticontact (uf_Tiempo, uf_Mensaje, uf_Usuario, "
-                                         "uf_Iicontact) VALUES (CURRENT_TIMESTAMP, '" +
-                                         stored + "','ana',12)"},
+    require(bench.cnn.statements() == std::vector<std::string>{noteOfTwelve(stored)},
             "a note is written as it was cleaned");
     require(std::count(stored.begin(), stored.end(), '\'') == 0, "no apostrophe is left in a note");
     require(bench.control.elements().detail.txtText.Text().empty(), "the box is empty after the note");
+    require(bench.control.elements().detail.txtBit.Text() == "ana [14/03/2026 09:30:00]\r\n" + stored + "\r\n\r\n",
+            "the note stands on top of the log");
 }
 
-void prospects(Input& input)
+void calls(Input& input)
 {
-    const std::size_t column = input.choice(17);
-    const auto records = someRows(input);
-    const std::vector<std::string> wanted = keysOf(records);
-    Workbench bench(records);
-    require(bench.keys() == wanted, "a list shows each row whose key can be read, once");
-    bench.lvw().clickHeader(static_cast<int>(column));
-    std::vector<std::string> shown = bench.keys();
-    require(std::is_permutation(shown.begin(), shown.end(), wanted.begin(), wanted.end()), "a sort loses no row");
-    for (std::size_t row = 0; row < shown.size(); ++row) {
-        bench.lvw().clickRow(row);
-        const auto selected = bench.lvw().SelectedItem();
-        require(selected && selected->Key() == shown[row], "the row that was clicked is selected");
-        require(selected->ListSubItems().Count() == 16, "a row has all its cells");
-        require(bench.control.elements().detail.txtInfo.Text().starts_with(shown[row] + " | "),
-                "the detail is that of the selected row");
-        require(bench.cnn.statements().back() == "SELECT * FROM xt_biticontact WHERE uf_Iicontact = " +
-                                                     shown[row].substr(1) + " ORDER BY uf_Tiempo",
-                "the log is that of the selected row");
+    const std::size_t end = input.choice(3);
+    const std::string telephone = input.text();
+    const std::string text = input.rest();
+    Workbench bench(prospectTwelve());
+    closeEach(bench);
+    bench.lvw().clickRow(0);
+    bench.control.IniciarLlamada("ut_icontact", 12, telephone);
+    bench.cnn.forgetStatements();
+    std::vector<std::string> wanted;
+    const std::string where = " Where Sys_PK = 12";
+    if (end == 0) {
+        bench.control.Call_Resumen(text);
+        wanted = {
+            noteOfTwelve(storedNote("Se estableció llamada al " + telephone + " Con éxito. Resumen: \r\n" + text)),
+            "UPDATE ut_icontact SET uf_contactado = 1, uf_primercontac = CURRENT_TIMESTAMP Where Sys_PK=12 and "
+            "isnull(uf_contactado)",
+            "UPDATE ut_icontact SET uf_ultimointento = CURRENT_TIMESTAMP, uf_res_ultimointento = 50, "
+            "uf_ultimocontac = CURRENT_TIMESTAMP" +
+                where};
+    } else if (end == 1) {
+        const std::string reason = text.empty() ? "x" : text;
+        for (const std::string& answer : {std::string(), reason})
+            bench.ports.dialogs.expectInput("Motivo para no comunicarme:", answer);
+        bench.control.Call_Connect(5);
+        wanted = {noteOfTwelve(storedNote("Se estableció llamada al: " + telephone +
+                                          " pero no se pudo contactar al prospecto. \r\n<" + reason + ">")),
+                  "UPDATE ut_icontact SET uf_ultimointento= CURRENT_TIMESTAMP, uf_res_ultimointento =  16" +
+                      where};
+    } else {
+        bench.control.Call_NoConnect(2);
+        wanted = {
+            "UPDATE ut_icontact SET uf_ultimointento=CURRENT_TIMESTAMP, uf_res_ultimointento=2 Where Sys_PK=12",
+            noteOfTwelve(storedNote("No se pudo establecer llamada al: " + telephone + " No contestan"))};
     }
+    require(bench.changes() == wanted, "a call stores its end and its note, and nothing else");
+    require(!bench.control.Call_Progress() && bench.lvw().Enabled(), "a call that ended locks nothing");
+}
+
+void reasons(Input& input)
+{
+    const bool discards = input.flag();
+    const std::string reason = input.rest();
+    Workbench bench(prospectTwelve(), true); // who discards is an administrator
+    bench.lvw().clickRow(0);
+    bench.cnn.forgetStatements();
+    const bool given = discards ? !isBlank(reason) : !reason.empty();
+    std::vector<std::string> wanted;
+    if (discards) {
+        bench.lvw().toggleCheck(0);
+        bench.ports.dialogs.expectInput("Motivo:", reason);
+        if (given) bench.ports.dialogs.expectBox("¿Seguro desea descartar estos contactos?", screen::Answer::yes);
+        tests::elementNamed<screen::Button>(bench.control.root(), "cmdProsDiscart").press();
+        wanted = {"UPDATE ut_icontact SET uf_Status=1, uf_NotaStatus='" + reason +
+                      "', uf_FechaStatus = CURRENT_TIMESTAMP WHERE Sys_PK=12",
+                  noteOfTwelve(">> Descartado: " + reason)};
+    } else {
+        bench.ports.dialogs.expectInput("Motivo del cambio de estado:", reason);
+        bench.control.elements().detail.Combo1.pick("Sin interés");
+        wanted = {"UPDATE ut_icontact SET uf_Status = 2, uf_NotaStatus = '" + reason +
+                      "', uf_FechaStatus = CURRENT_TIMESTAMP WHERE Sys_PK = 12",
+                  noteOfTwelve(">> Sin interés: " + reason)};
+    }
+    if (!given) wanted.clear();
+    require(bench.changes() == wanted, "a reason goes to the byte into its two statements, and into no other");
 }
 
 } // namespace dn::fuzz

@@ -7,6 +7,8 @@
 #include "tests/fuzz/input.h"
 #include "tests/fuzz/targets.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -20,6 +22,7 @@ const dn::fuzz::Target* chosen = nullptr;
 
 extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 {
+    GTEST_FLAG_SET(break_on_failure, true); // what the fakes find wrong is a finding
     const char* const name = std::getenv("DN_FUZZ_TARGET");
     for (const dn::fuzz::Target& target : dn::fuzz::targets()) {
         if (name == nullptr) std::puts(target.name);

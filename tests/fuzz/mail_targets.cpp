@@ -11,6 +11,7 @@
 #include "tests/fuzz/targets.h"
 
 #include <algorithm>
+#include <map>
 #include <vector>
 
 namespace dn::fuzz {
@@ -149,15 +150,101 @@ std::string decodedBody(const std::string& body)
     return text;
 }
 
-std::string headersNamed(const std::vector<std::string>& lines)
+/// A part of a mail, or the whole: its headers by name, and what stands behind the empty line.
+struct Part {
+    std::string names; ///< of the headers, in order
+    std::map<std::string, std::string> headers;
+    std::string body;
+};
+
+Part partOf(std::string_view text)
 {
-    std::string names;
-    for (const std::string& line : lines) {
-        if (line.empty()) return names;
-        require(line.size() <= 998, "a header's line is no longer than mail allows");
-        if (!line.starts_with(' ')) names += line.substr(0, line.find(':')) + " ";
+    Part part;
+    std::string name;
+    while (!text.starts_with("\r\n")) {
+        const std::size_t end = text.find("\r\n");
+        require(end != std::string_view::npos, "headers have an end");
+        require(end <= 998, "a header's line is no longer than mail allows");
+        const std::string_view line = text.substr(0, end);
+        if (line.starts_with(' ')) {
+            require(!name.empty(), "no header begins with its second line");
+            part.headers[name].append("\r\n").append(line);
+        } else {
+            const std::size_t colon = line.find(": ");
+            require(colon != std::string_view::npos, "a header has a name");
+            name = line.substr(0, colon);
+            require(!part.headers.contains(name), "a header stands once");
+            part.names += name + " ";
+            part.headers[name] = line.substr(colon + 2);
+        }
+        text.remove_prefix(end + 2);
     }
-    return names;
+    part.body = text.substr(2);
+    return part;
+}
+
+/// What stands between the lines that divide a mail's parts.
+std::vector<Part> partsOf(std::string_view body, const std::string& boundary)
+{
+    std::vector<Part> parts;
+    const std::string divides = "--" + boundary + "\r\n";
+    require(body.starts_with(divides), "the first part begins at once");
+    body.remove_prefix(divides.size());
+    while (true) {
+        const std::size_t end = body.find("\r\n--" + boundary);
+        require(end != std::string_view::npos, "each part has an end");
+        parts.push_back(partOf(std::string(body.substr(0, end)) + "\r\n"));
+        parts.back().body.resize(parts.back().body.size() - 2);
+        body.remove_prefix(end + boundary.size() + 4);
+        if (body == "--\r\n") return parts;
+        require(body.starts_with("\r\n"), "a line that divides holds nothing else");
+        body.remove_prefix(2);
+    }
+}
+
+/// A text as a header holds it: control characters are blanks there.
+std::string onOneLine(std::string text)
+{
+    for (char& c : text)
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
+    return text;
+}
+
+std::string decodedName(const std::string& header)
+{
+    const std::string decoded = decodedHeader(header);
+    return header.starts_with('"') ? unquoted(decoded) : decoded;
+}
+
+void requireText(const Part& part, const std::string& text)
+{
+    require(part.headers.at("Content-Type") == "text/plain; charset=UTF-8" &&
+                part.headers.at("Content-Transfer-Encoding") == "quoted-printable",
+            "a text says what it is");
+    std::string body = part.body;
+    if (!body.empty() && !body.ends_with("\r\n")) body += "\r\n"; // that line end is the part's own
+    require(decodedBody(body) == inLines(text), "the text arrives");
+}
+
+void requireFile(const Part& part, const host::Attachment& file)
+{
+    require(part.headers.at("Content-Transfer-Encoding") == "base64", "a file says how it is written");
+    const std::string& type = part.headers.at("Content-Type");
+    require(type == file.type || type == "application/octet-stream", "a file has its type or none");
+    require(!type.starts_with("multipart/") && !type.starts_with("message/"), "no file is taken apart as a mail");
+    const std::string& disposition = part.headers.at("Content-Disposition");
+    const std::string head = "attachment;\r\n filename";
+    require(disposition.starts_with(head), "a file has a name");
+    const std::string_view name = std::string_view(disposition).substr(head.size());
+    if (name.starts_with("=\""))
+        require(name == "=\"" + file.name + "\"", "the name of a file arrives");
+    else
+        require(name.starts_with("*=UTF-8''") && unescaped(name.substr(9), '%') == file.name,
+                "the name of a file arrives");
+    std::string digits;
+    for (const std::string& line : linesOf(part.body.empty() ? "" : part.body + "\r\n"))
+        digits += line;
+    require(fromBase64(digits) == file.content, "a file arrives");
 }
 
 host::Message someMessage(Input& input)
@@ -212,16 +299,35 @@ void mails(Input& input)
 {
     const host::Message message = someMessage(input);
     const std::string mail = host::messageText(message, host::Purpose::sending);
-    const std::vector<std::string> lines = linesOf(mail);
+    for (const std::string& line : linesOf(mail))
+        require(line.size() <= 998, "a line is no longer than mail allows");
+    const Part whole = partOf(mail);
     const bool several = !message.attachments.empty();
-    require(headersNamed(lines) == std::string("Date From To Subject Message-ID MIME-Version Content-Type ") +
-                                       (several ? "" : "Content-Transfer-Encoding "),
+    require(whole.names == std::string("Date From To Subject Message-ID MIME-Version Content-Type ") +
+                               (several ? "" : "Content-Transfer-Encoding "),
             "a mail has its headers and no others");
-    const std::string boundary = "--=_" + message.id.substr(0, 32);
-    const auto parts = static_cast<std::size_t>(std::count(lines.begin(), lines.end(), boundary));
-    require(parts == (several ? message.attachments.size() + 1 : 0), "a mail has a part for each file");
-    require(std::count(lines.begin(), lines.end(), boundary + "--") == (several ? 1 : 0), "a mail has one end");
-    require(mail.find(host::quotedPrintable(message.body)) != std::string::npos, "the text is in the mail");
+    require(decodedHeader(whole.headers.at("Subject")) == onOneLine(message.subject), "a subject arrives");
+    const std::string& from = whole.headers.at("From");
+    const std::string address = "\r\n <" + message.sender + ">";
+    if (message.senderName.empty())
+        require(from == message.sender, "a sender without a name is his address");
+    else
+        require(from.ends_with(address) &&
+                    decodedName(from.substr(0, from.size() - address.size())) == onOneLine(message.senderName),
+                "a sender's name arrives");
+    std::string recipients;
+    for (const std::string& recipient : message.recipients)
+        recipients += (recipients.empty() ? "" : ",\r\n ") + recipient;
+    require(whole.headers.at("To") == recipients, "every recipient is named");
+    if (!several) return requireText(whole, message.body);
+    const std::string head = "multipart/mixed;\r\n boundary=\"";
+    const std::string& type = whole.headers.at("Content-Type");
+    require(type.starts_with(head) && type.ends_with('"'), "a mail of several parts says what divides them");
+    const std::vector<Part> parts = partsOf(whole.body, type.substr(head.size(), type.size() - head.size() - 1));
+    require(parts.size() == message.attachments.size() + 1, "a mail has a part for each file");
+    requireText(parts.front(), message.body);
+    for (std::size_t i = 0; i < message.attachments.size(); ++i)
+        requireFile(parts[i + 1], message.attachments[i]);
 }
 
 void addresses(Input& input)

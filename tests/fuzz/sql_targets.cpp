@@ -3,6 +3,7 @@
 
 // Statements that were tampered with, texts as literals, and the texts that name a database.
 
+#include "base/runtime_error.h"
 #include "base/text.h"
 #include "data/odbc/connection_string.h"
 #include "data/odbc/one_statement.h"
@@ -10,14 +11,18 @@
 #include "host/database/mariadb_text.h"
 #include "host/database/odbc_text.h"
 #include "host/database/sql_text.h"
+#include "host/database/statement.h"
+#include "host/screens/entity_statements.h"
 #include "tests/fuzz/input.h"
 #include "tests/fuzz/targets.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <regex>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace dn::fuzz {
 namespace {
@@ -136,6 +141,133 @@ std::string readSqlServer(std::string_view literals)
     }
 }
 
+int hexadecimalFigure(char c)
+{
+    constexpr std::string_view all = "0123456789ABCDEF";
+    const std::size_t at = all.find(c);
+    require(at != std::string_view::npos, "figures are hexadecimal");
+    return static_cast<int>(at);
+}
+
+std::string_view taken(std::string_view& statement, std::size_t size)
+{
+    const std::string_view piece = statement.substr(0, size);
+    statement.remove_prefix(piece.size());
+    return piece;
+}
+
+void skip(std::string_view& statement, std::string_view expected)
+{
+    require(taken(statement, expected.size()) == expected, "a statement keeps its fixed words");
+}
+
+/// What stands between a quote and the next one that is not doubled.
+std::string takeQuoted(std::string_view& statement)
+{
+    skip(statement, "'");
+    std::string text;
+    while (true) {
+        require(!statement.empty(), "a literal has an end");
+        const char c = taken(statement, 1).front();
+        if (c == '\'') {
+            if (!statement.starts_with('\'')) return text;
+            taken(statement, 1);
+        }
+        text += c;
+    }
+}
+
+/// The text of a parameter for MariaDB, which must read alike whether a backslash escapes or not.
+std::string takeMariadbText(std::string_view& statement)
+{
+    constexpr std::string_view hexadecimal = "_utf8mb4 X";
+    if (!statement.starts_with(hexadecimal)) {
+        std::string text = takeQuoted(statement);
+        require(text.find('\\') == std::string::npos, "no backslash stands in quotes");
+        return text;
+    }
+    skip(statement, hexadecimal);
+    const std::string figures = takeQuoted(statement);
+    require(figures.size() % 2 == 0, "a byte has two figures");
+    std::string text;
+    for (std::size_t at = 0; at < figures.size(); at += 2)
+        text += static_cast<char>(hexadecimalFigure(figures[at]) * 16 + hexadecimalFigure(figures[at + 1]));
+    return text;
+}
+
+/// The same for SQL Server, pieces and NUL characters joined.
+std::string takeSqlServerText(std::string_view& statement)
+{
+    constexpr std::string_view nul = "NCHAR(0)";
+    constexpr std::string_view join = " + ";
+    std::string text;
+    while (true) {
+        if (statement.starts_with(nul)) {
+            skip(statement, nul);
+            text += '\0';
+        } else {
+            skip(statement, "N");
+            const std::string piece = takeQuoted(statement);
+            require(piece.find("\\\n") == std::string::npos && piece.find("\\\r") == std::string::npos,
+                    "no line end is taken away by a backslash");
+            text += piece;
+        }
+        if (!statement.starts_with(join)) return text;
+        skip(statement, join);
+    }
+}
+
+std::string takeText(std::string_view& statement, host::Engine engine)
+{
+    return engine == host::Engine::mariadb ? takeMariadbText(statement) : takeSqlServerText(statement);
+}
+
+bool isDecimalText(std::string_view text)
+{
+    static const std::regex form(R"(-?\d+(\.\d+)?)");
+    return std::regex_match(text.begin(), text.end(), form);
+}
+
+/// Whether a text fits a pattern for LIKE with "!" as the sign that takes a wildcard's power.
+bool fits(std::string_view text, std::string_view pattern)
+{
+    std::vector<bool> reached(text.size() + 1, false); // with the pattern so far
+    reached[0] = true;
+    for (; !pattern.empty(); pattern.remove_prefix(1)) {
+        std::vector<bool> next(text.size() + 1, false);
+        const bool escaped = pattern.front() == '!';
+        if (escaped) pattern.remove_prefix(1);
+        require(!pattern.empty(), "a sign stands behind each \"!\"");
+        require(escaped || (pattern.front() != '[' && pattern.front() != '_'),
+                "no sign of the text is a wildcard");
+        for (std::size_t at = 0; at <= text.size(); ++at) {
+            if (!escaped && pattern.front() == '%')
+                next[at] = reached[at] || (at > 0 && next[at - 1]);
+            else if (at > 0)
+                next[at] = reached[at - 1] && text[at - 1] == pattern.front();
+        }
+        reached = std::move(next);
+    }
+    return reached.back();
+}
+
+/// Whether a text begins with the first word, and has the others with their blanks behind it in that order.
+bool holdsWords(std::string_view text, std::string_view words)
+{
+    const std::size_t first = std::min(words.find(' '), words.size());
+    if (!text.starts_with(words.substr(0, first))) return false;
+    text.remove_prefix(first);
+    words.remove_prefix(first);
+    while (!words.empty()) {
+        const std::size_t end = std::min(words.find(' ', 1), words.size());
+        const std::size_t at = text.find(words.substr(0, end));
+        if (at == std::string_view::npos) return false;
+        text.remove_prefix(at + end);
+        words.remove_prefix(end);
+    }
+    return true;
+}
+
 std::string percentEncoded(std::string_view text)
 {
     constexpr std::string_view digits = "0123456789abcdef";
@@ -182,6 +314,54 @@ void literals(Input& input)
     host::appendText(literal, text, host::Engine::sqlServer);
     require(readSqlServer(literal) == text, "SQL Server reads the text back");
     require(!data::odbc::isStacked("INSERT INTO t VALUES (" + literal + ")"), "a literal is no statement");
+}
+
+void binds(Input& input)
+{
+    const std::string first = input.text();
+    const std::int64_t number = input.number();
+    const std::string decimal = input.text();
+    const std::string last = input.rest();
+    bool read = true;
+    try {
+        static_cast<void>(host::Decimal(decimal));
+    } catch (const RuntimeError&) {
+        read = false;
+    }
+    require(read == isDecimalText(decimal), "a decimal is figures with a sign and a point, and nothing else");
+    const auto whole = static_cast<std::int32_t>(number);
+    for (const host::Engine engine : {host::Engine::mariadb, host::Engine::sqlServer}) {
+        host::Statement statement("UPDATE t SET a = ?, b = ?, c = ?, d = ?, e = ? WHERE f = ? AND g = ?");
+        statement.bind(first).bind(whole).bind(host::Decimal(read ? decimal : "0")).null();
+        statement.bind(DateTime{2026, 3, 14, 9, 30, 5}).bind(last).bind(std::optional<std::string>());
+        const std::string text = statement.text(engine);
+        std::string_view rest = text;
+        skip(rest, "UPDATE t SET a = ");
+        require(takeText(rest, engine) == first, "a text reads back");
+        skip(rest, ", b = " + std::to_string(whole) + ", c = " + (read ? decimal : "0") +
+                       ", d = NULL, e = '2026-03-14T09:30:05' WHERE f = ");
+        require(takeText(rest, engine) == last, "a text reads back");
+        require(rest == " AND g = NULL", "a statement ends with its fixed words");
+        require(engine == host::Engine::mariadb || !data::odbc::isStacked(text), "a value is no statement");
+    }
+}
+
+void patterns(Input& input)
+{
+    const std::string typed = input.text();
+    const std::string name = input.rest();
+    for (const host::Engine engine : {host::Engine::mariadb, host::Engine::sqlServer}) {
+        const std::string text = host::personsFrom(host::patternOf(typed)).text(engine);
+        std::string_view rest = text;
+        rest.remove_prefix(std::min(rest.find(" LIKE "), rest.size()));
+        skip(rest, " LIKE ");
+        const std::string pattern = takeText(rest, engine);
+        require(rest.starts_with(engine == host::Engine::mariadb ? " ESCAPE '!' " : " ESCAPE N'!' "),
+                "the sign that takes a wildcard's power is told");
+        require(fits(name, pattern) == holdsWords(name, typed),
+                "a search finds what holds its words, and no other");
+        require(fits(typed + name, pattern), "a search finds what begins with its text");
+    }
 }
 
 void mariadbTexts(Input& input)

@@ -9,15 +9,22 @@ namespace dn::fuzz {
 
 const std::vector<Target>& targets()
 {
-    static const std::vector<Target> all{{"addresses", addresses},   {"bodies", bodies},
-                                         {"copies", copies},         {"dates", dates},
+    static const std::vector<Target> all{{"addresses", addresses},   {"amounts", amounts},
+                                         {"binds", binds},           {"bodies", bodies},
+                                         {"calls", calls},           {"copies", copies},
+                                         {"dates", dates},           {"directories", directories},
                                          {"documents", documents},   {"formats", formats},
                                          {"headers", headers},       {"literals", literals},
                                          {"mails", mails},           {"mariadb", mariadbTexts},
                                          {"notes", notes},           {"odbc", odbcTexts},
-                                         {"order", order},           {"parameters", parameters},
-                                         {"prospects", prospects},   {"rows", rows},
-                                         {"statements", statements}, {"texts", texts},
+                                         {"options", options},       {"order", order},
+                                         {"parameters", parameters}, {"patterns", patterns},
+                                         {"projects", projects},     {"prospects", prospects},
+                                         {"queue", queue},           {"reasons", reasons},
+                                         {"replies", replies},       {"rows", rows},
+                                         {"settings", settings},     {"statements", statements},
+                                         {"telephones", telephones}, {"templates", templates},
+                                         {"texts", texts},           {"timelines", timelines},
                                          {"values", values},         {"workbooks", workbooks}};
     return all;
 }

@@ -13,7 +13,7 @@ struct HostileType {
     std::string type;
     std::string literal;          ///< an extreme value
     std::string shown;            ///< as a plain cell has it
-    bool refusedByIfNull = false; ///< IFNULL(column, '') is an error of the server
+    bool refusedByIfNull = false; ///< IFNULL(column, '') is an error of the server, and so is DATEDIFF
 };
 
 extern const std::vector<HostileType> hostileTypes;

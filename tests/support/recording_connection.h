@@ -8,6 +8,7 @@
 #include "data/error.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -25,13 +26,23 @@ public:
     {
         statements.emplace_back(statement);
         if (refuses && refuses(statement)) throw data::Error("HY000", 1205, "Lock wait timeout exceeded");
-        return real_->execute(statement);
+        if (passesOver && passesOver(statement)) return nullptr;
+        try {
+            return real_->execute(statement);
+        } catch (const data::Error& error) {
+            codes[std::string(statement)] = error.nativeCode();
+            throw;
+        }
     }
 
     /// Every statement asked for, in order.
     std::vector<std::string> statements;
+    /// What the server said to the statements that it refused.
+    std::map<std::string, int> codes;
     /// Tells which statements fail ahead of the server.
     std::function<bool(std::string_view)> refuses;
+    /// Tells which statements never reach the server, as if it had carried them out.
+    std::function<bool(std::string_view)> passesOver;
 
 private:
     std::unique_ptr<data::Connection> real_;

@@ -3,8 +3,6 @@
 
 #include "tests/support/table_files.h"
 
-#include <sys/resource.h>
-
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -12,17 +10,6 @@
 #include <iterator>
 
 namespace dn::tests {
-namespace {
-
-void limitFiles(rlim_t bytes)
-{
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    limit.rlim_cur = std::min(bytes, limit.rlim_max);
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-} // namespace
 
 OutputFolder::OutputFolder()
 {
@@ -47,16 +34,19 @@ std::string contentsOf(const std::string& file)
     return {std::istreambuf_iterator<char>(bytes), {}};
 }
 
-FullDisk::FullDisk(std::size_t bytes)
+// Without the signal ignored the process ends instead of being told.
+FullDisk::FullDisk(std::size_t bytes) : signalBefore_(std::signal(SIGXFSZ, SIG_IGN))
 {
-    std::signal(SIGXFSZ, SIG_IGN); // else the process ends instead of being told
-    limitFiles(bytes);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit limit = before_;
+    limit.rlim_cur = std::min<rlim_t>(bytes, before_.rlim_cur);
+    setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 FullDisk::~FullDisk()
 {
-    limitFiles(RLIM_INFINITY);
-    std::signal(SIGXFSZ, SIG_DFL);
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signalBefore_);
 }
 
 } // namespace dn::tests

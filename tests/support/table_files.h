@@ -6,6 +6,8 @@
 
 #include "tables/table.h"
 
+#include <sys/resource.h>
+
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -64,9 +66,14 @@ std::string contentsOf(const std::string& file);
 class FullDisk {
 public:
     explicit FullDisk(std::size_t bytes);
+    /// The limit is again what it was.
     ~FullDisk();
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit before_{};
+    void (*signalBefore_)(int);
 };
 
 } // namespace dn::tests

@@ -10,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
@@ -155,6 +156,33 @@ TEST_F(NewFileTest, that_does_not_fit_on_the_disk_leaves_what_was_there)
     EXPECT_THROW(writeMuch(), RuntimeError);
     EXPECT_EQ(contentsOf(folder.file("a")), "antes");
     EXPECT_THAT(folder.names(), ElementsAre("a"));
+}
+
+TEST(FullDiskTest, leaves_the_limit_and_the_signal_that_were_there)
+{
+    const auto limits = [] {
+        rlimit limit{};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        return std::pair(limit.rlim_cur, limit.rlim_max);
+    };
+    const auto handler = [] {
+        const auto present = std::signal(SIGXFSZ, SIG_IGN);
+        std::signal(SIGXFSZ, present);
+        return present;
+    };
+    const auto before = limits();
+    const auto handlerBefore = handler();
+    {
+        const FullDisk outer(5'000'000);
+        {
+            const FullDisk inner(10);
+            EXPECT_EQ(limits(), std::pair(rlim_t{10}, before.second));
+        }
+        EXPECT_EQ(limits(), std::pair(rlim_t{5'000'000}, before.second));
+        EXPECT_EQ(handler(), SIG_IGN);
+    }
+    EXPECT_EQ(limits(), before);
+    EXPECT_EQ(handler(), handlerBefore);
 }
 
 TEST_F(NewFileTest, that_does_not_fit_with_its_last_bytes_is_no_file)

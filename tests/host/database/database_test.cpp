@@ -10,6 +10,7 @@
 #include "host/database/server_binaries.h"
 #include "host/database/server_probe.h"
 #include "tests/host/database/fixtures.h"
+#include "tests/support/relay.h"
 
 #include <gmock/gmock.h>
 #include <sys/wait.h>
@@ -58,6 +59,32 @@ TEST(OpenDatabase, a_new_private_one_has_tables_and_sample_data)
     EXPECT_EQ(prospects(database.connection()), "50");
     EXPECT_EQ(prospects(*database.openConnection()), "50");
     EXPECT_THAT(steps, Contains("Creando las tablas…"));
+}
+
+TEST(OpenDatabase, a_server_that_goes_between_two_connections_is_followed_by_the_next_one)
+{
+    const std::string direct = foreign("seguida");
+    const dn::tests::Relay once(SharedServer::get().folder().socket.string(), 1);
+    DatabaseOptions options;
+    options.connect = "mariadb://root@localhost/seguida?socket=" + once.socket();
+    options.further = {direct};
+    options.createSchema = true;
+    Database database = openDatabase(options);
+    EXPECT_TRUE(database.created());
+    EXPECT_EQ(prospects(database.connection()), "0");
+    EXPECT_THAT(database.description(), HasSubstr("(servidor 2 de 2)"));
+}
+
+TEST(OpenDatabase, the_tables_are_made_on_the_first_server_that_works)
+{
+    const std::string direct = foreign("segunda");
+    DatabaseOptions options;
+    options.connect = "mariadb://root@127.0.0.1:1/segunda?connect_timeout=1";
+    options.further = {direct};
+    options.createSchema = true;
+    Database database = openDatabase(options);
+    EXPECT_TRUE(database.created());
+    EXPECT_EQ(prospects(database.connection()), "0");
 }
 
 TEST(OpenDatabase, an_old_private_one_is_left_as_it_is)

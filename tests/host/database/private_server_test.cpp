@@ -187,8 +187,12 @@ TEST(PrivateServer, the_installer_keeps_its_temporary_tables_to_itself)
 {
     const TemporaryFolder folder;
     const ServerOptions telling = withInstaller(folder, "echo \"[ERROR] en $TMPDIR\"; exit 1");
+    const char* const before = ::getenv("TMPDIR");
+    const std::string kept = before == nullptr ? "" : before;
+    ::setenv("TMPDIR", folder.path().c_str(), 1); // the user's own does not prevail
     EXPECT_THAT(failureOf([&] { PrivateServer server(telling); }),
                 HasSubstr("[ERROR] en " + (telling.folder / "tmp").string()));
+    before == nullptr ? ::unsetenv("TMPDIR") : ::setenv("TMPDIR", kept.c_str(), 1);
 }
 
 TEST(PrivateServer, an_interrupted_first_start_leaves_nothing_behind)

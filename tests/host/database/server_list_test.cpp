@@ -3,6 +3,7 @@
 
 // Several servers of one database, and the connection that outlives each of them.
 
+#include "host/database/file_lock.h"
 #include "host/database/lasting_connection.h"
 #include "host/database/patience.h"
 #include "host/database/server_list.h"
@@ -12,6 +13,12 @@
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <stop_token>
+#include <thread>
 
 namespace dn::host::tests {
 namespace {
@@ -65,6 +72,59 @@ TEST(ServerList, goes_on_to_the_one_that_works_and_stays_there)
     EXPECT_THAT(servers.description(), HasSubstr("(servidor 2 de 3)"));
     EXPECT_EQ(valueOf(*servers.connect(), "SELECT 1"), "1");
     EXPECT_THAT(servers.description(), HasSubstr("(servidor 2 de 3)"));
+}
+
+/// Servers that are not there; those of these ports take a connection.
+class AskedServers {
+public:
+    explicit AskedServers(std::vector<unsigned> takers) : takers_(std::move(takers)) {}
+
+    std::unique_ptr<data::Connection> operator()(const DatabaseChoice& choice)
+    {
+        asked.push_back(std::get<MariadbTarget>(choice));
+        if (onAsking) onAsking();
+        for (const unsigned taker : takers_)
+            if (asked.back().port == taker) return std::make_unique<FakeConnection>();
+        throw std::runtime_error("not even a HostError");
+    }
+
+    std::vector<MariadbTarget> asked;
+    std::function<void()> onAsking;
+
+private:
+    std::vector<unsigned> takers_;
+};
+
+TEST(ServerList, goes_on_whatever_keeps_a_server_away)
+{
+    AskedServers servers({2});
+    ServerList list({nobodyAt("1"), nobodyAt("2")}, std::ref(servers));
+    EXPECT_NE(list.connect(), nullptr);
+    EXPECT_EQ(servers.asked.size(), 2U);
+}
+
+TEST(ServerList, asks_no_further_server_once_nobody_wants_a_connection)
+{
+    AskedServers servers({});
+    ServerList list({nobodyAt("1"), nobodyAt("2"), nobodyAt("3")}, std::ref(servers));
+    std::stop_source wish;
+    servers.onAsking = [&] {
+        if (servers.asked.size() == 2) wish.request_stop();
+    };
+    EXPECT_THROW(list.connect({.givenUp = wish.get_token()}), HostError);
+    EXPECT_EQ(servers.asked.size(), 2U);
+}
+
+TEST(ServerList, waits_as_long_as_is_wished_for_each_of_them)
+{
+    AskedServers servers({2});
+    ServerList list({nobodyAt("1"), nobodyAt("2")}, std::ref(servers));
+    list.connect({.readTimeout = 3600});
+    list.connect();
+    std::vector<unsigned> waits;
+    for (const MariadbTarget& target : servers.asked)
+        waits.push_back(target.readTimeout);
+    EXPECT_THAT(waits, testing::ElementsAre(3600U, 3600U, 60U));
 }
 
 TEST(ServerList, tells_what_each_one_said_and_no_password)
@@ -127,6 +187,56 @@ TEST(PrivateServer, is_started_again_where_it_was_killed_and_only_there)
     };
     EXPECT_TRUE(waitUntil(std::chrono::seconds(10), revived));
     EXPECT_EQ(valueOf(*connect(server.target("")), "SELECT 1"), "1");
+}
+
+/// The threads of this process.
+std::size_t threads()
+{
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator("/proc/self/task"),
+                                                  std::filesystem::directory_iterator()));
+}
+
+/// Signals that a process was sent and has not taken, by the numbers of the system.
+unsigned long pendingSignals(pid_t process)
+{
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("ShdPnd:")) return std::stoul(line.substr(7), nullptr, 16);
+    throw std::runtime_error("no such process");
+}
+
+TEST(PrivateServer, outlives_the_thread_that_started_it_again)
+{
+    const TemporaryFolder folder;
+    PrivateServer server(serverIn(folder.path()));
+    const pid_t first = server.pid();
+    const std::size_t before = threads();
+    ::kill(first, SIGKILL);
+    std::thread([&] {
+        waitUntil(std::chrono::seconds(10), [&] {
+            server.revive();
+            return server.pid() != first;
+        });
+        ::kill(server.pid(), SIGSTOP); // a signal that it got would show
+    }).join();
+    EXPECT_TRUE(waitUntil(std::chrono::seconds(10), [&] { return threads() == before; }));
+    EXPECT_EQ(pendingSignals(server.pid()), 0U);
+    ::kill(server.pid(), SIGCONT);
+    EXPECT_EQ(valueOf(*connect(server.target("")), "SELECT 1"), "1");
+}
+
+TEST(PrivateServer, is_waited_for_by_nobody_who_has_given_it_up)
+{
+    const TemporaryFolder folder;
+    ServerOptions options = serverIn(folder.path());
+    options.lockPatience = std::chrono::hours(1);
+    PrivateServer server(options);
+    const FileLock heldByAnother(server.folder().lock, std::chrono::seconds(1));
+    ::kill(server.pid(), SIGKILL);
+    std::stop_source wish;
+    wish.request_stop();
+    const auto refused = [&] { return failureOf([&] { server.revive(wish.get_token()); }) != "(no failure)"; };
+    EXPECT_TRUE(waitUntil(std::chrono::seconds(10), refused));
 }
 
 } // namespace

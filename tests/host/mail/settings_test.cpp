@@ -96,7 +96,8 @@ TEST_F(Settings, under_which_no_mail_can_go_out_say_why)
          {Bad{"url=http://x\nfrom=a@x", "smtp://"}, Bad{"url=correo.example.com\nfrom=a@x", "smtp://"},
           Bad{"url=smtp://ana:clave@x\nfrom=a@x", "no lleva usuario"}, Bad{"url=smtp://x y\nfrom=a@x", "espacios"},
           Bad{"url=smtp://x", "remitente"}, Bad{"url=smtp://x\nfrom=ana", "«ana» no es una dirección"},
-          Bad{"url=smtp://x\nfrom=a@x\ntls=no\nuser=a", "sin cifrar"}}) {
+          Bad{"url=smtp://x\nfrom=a@x\ntls=no\nuser=a", "sin cifrar"},
+          Bad{"url=smtp://127.0.0.1.example.com\nfrom=a@x\ntls=no\nuser=a", "sin cifrar"}}) {
         EXPECT_THAT(read(bad.content).problem, HasSubstr(bad.why)) << bad.content;
         EXPECT_THAT(read(bad.content).problem, Not(HasSubstr("clave@"))) << bad.content;
     }

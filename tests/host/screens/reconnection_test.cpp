@@ -3,17 +3,16 @@
 
 // What an operator keeps when the server goes away under him: a real server that is killed, and the real window.
 
-#include "host/database/schema.h"
-#include "host/main_window.h"
-#include "shell/ctr_dn_contacts.h"
+#include "host/database/file_lock.h"
 #include "tests/approved/approval.h"
-#include "tests/host/screens/fixture.h"
-#include "tests/support/maria_server.h"
+#include "tests/host/screens/losing_the_server.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QPlainTextEdit>
-#include <QTest>
+
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
 
 #include <csignal>
 
@@ -28,82 +27,10 @@ using testing::IsEmpty;
 using testing::StartsWith;
 using namespace std::chrono_literals;
 
-std::string textTo(const MariaServer& server)
-{
-    return "mariadb://" + std::string(MariaServer::user) + ":" + std::string(MariaServer::password) +
-           "@localhost/" + std::string(MariaServer::database) +
-           "?read_timeout=1&connect_timeout=1&socket=" + server.socket();
-}
-
-std::unique_ptr<data::Connection> reach(const MariaServer& server)
-{
-    return connect(parseDatabaseChoice(textTo(server)));
-}
-
-std::unique_ptr<MariaServer> serverWithRows()
-{
-    auto server = std::make_unique<MariaServer>(MariaServer::Network::socketOnly,
-                                                std::vector<std::string>{"--innodb-flush-log-at-trx-commit=1"});
-    const auto beside = reach(*server);
-    createSchema(*beside, Engine::mariadb);
-    beside->execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana'), (9, 'Beto')");
-    beside->execute("INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_Telefono, uf_IEjecutivo, uf_Fecha) VALUES "
-                    "(1, 'Luz', '961', 7, '2026-03-01'), (2, 'Gil', '962', 7, '2026-03-02'), "
-                    "(3, 'Rita', '963', 9, '2026-03-03')");
-    return server;
-}
-
-class LosingTheServer : public testing::Test {
+/// Other texts in the bar, for a picture that tells nothing of this machine and this second.
+class ThePicturedBar : public LosingTheServer {
 protected:
-    void opens(std::optional<std::int16_t> tab, Reconnection::Pauses pauses = {0s, 1s},
-               const Worker& worker = {7, false, "ana"})
-    {
-        database.emplace(openDatabase(options()));
-        window.emplace(*database, worker, std::move(pauses));
-        window->show();
-        window->start(tab);
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&*window));
-    }
-    void TearDown() override { window.reset(); }
-
-    virtual DatabaseOptions options()
-    {
-        DatabaseOptions result;
-        result.connect = textTo(*server);
-        return result;
-    }
-
-    desk::Elements& elements() { return window->control().elements(); }
-    template <class Kind = QWidget>
-    Kind& in(const char* name)
-    {
-        auto* const found = window->findChild<Kind*>(name);
-        if (found == nullptr) throw std::runtime_error(name);
-        return *found;
-    }
-    std::string bar()
-    {
-        if (!in("BarraDeConexion").isVisible()) return "";
-        return in<QLabel>("lblConexion").text().toStdString();
-    }
-    void clicks(const char* button) { QTest::mouseClick(&in<QAbstractButton>(button), Qt::LeftButton); }
-    bool tells(const std::string& part)
-    {
-        return QTest::qWaitFor([&] { return bar().find(part) != std::string::npos; }, 20'000);
-    }
-    /// The operator is back in his work.
-    bool goesOn()
-    {
-        return QTest::qWaitFor([&] { return bar().starts_with("Conexión restablecida") && window->ready(); },
-                               20'000);
-    }
-    void selects(screen::ListView& list, const char* key)
-    {
-        list.clickRow(static_cast<std::size_t>(list.ListItems()(key).Index()) - 1);
-    }
-    /// Other texts in the bar, for a picture that tells nothing of this machine and this second.
-    void showsInTheBar(const char* text, const char* reason)
+    void shows(const char* text, const char* reason)
     {
         auto& first = in<QLabel>("lblConexion");
         do {
@@ -121,25 +48,6 @@ protected:
         for (const QLabel* label : in("BarraDeConexion").findChildren<QLabel*>())
             EXPECT_TRUE(!label->isVisible() || label->height() >= label->heightForWidth(label->width()));
     }
-    static std::string selected(screen::ListView& list)
-    {
-        const auto row = list.SelectedItem();
-        return row ? std::string(row->Key()) : "";
-    }
-    std::vector<std::string> notes()
-    {
-        std::vector<std::string> found;
-        const auto rows =
-            reach(*server)->execute("SELECT CONCAT(uf_Iicontact, ' ', uf_Mensaje) FROM xt_biticontact");
-        for (; !rows->Eof(); rows->MoveNext())
-            found.emplace_back(rows->value(0).raw());
-        return found;
-    }
-
-    std::unique_ptr<MariaServer> server = serverWithRows();
-    std::optional<Database> database;
-    std::optional<MainWindow> window;
-    dn::tests::ModalDriver operatorAt;
 };
 
 TEST_F(LosingTheServer, tells_and_goes_on_with_the_same_row_and_the_typed_note)
@@ -164,8 +72,8 @@ TEST_F(LosingTheServer, tells_and_goes_on_with_the_same_row_and_the_typed_note)
     EXPECT_TRUE(in("lvw").isVisible());
     EXPECT_FALSE(in("lvwHoy").isVisible());
     EXPECT_EQ(elements().detail.txtText.Text(), "pide precios por volumen");
-    note.setFocus();
-    QTest::keyClick(&note, Qt::Key_Return);
+    EXPECT_EQ(focus(), "txtText");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_THAT(notes(), ElementsAre("1 pide precios por volumen"));
     clicks("cmdCerrarAviso");
     EXPECT_EQ(bar(), "");
@@ -185,17 +93,16 @@ TEST_F(LosingTheServer, gives_back_what_a_list_that_came_out_empty_had_selected)
     EXPECT_THAT(elements().detail.txtInfo.Text(), HasSubstr("Luz"));
 }
 
-TEST_F(LosingTheServer, waits_for_its_time_or_for_the_button)
+TEST_F(ThePicturedBar, waits_for_its_time_or_for_the_button)
 {
-    opens(desk::prospectos, {0s, 60s});
+    opens(desk::prospectos, once());
     window->resize(960, 480);
     server->kill();
     ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
     EXPECT_THAT(in<QLabel>("lblMotivo").text().toStdString(),
                 AllOf(HasSubstr("No se pudo abrir la base de datos"), testing::Not(HasSubstr("clave-de-prueba"))));
-    showsInTheBar(
-        "Se perdió la conexión con la base de datos: lo que haga ahora no se guarda. Nuevo intento en 60 s.",
-        "No se pudo abrir la base de datos «ventas» en db.example.com:3306, usuario ana.");
+    shows("Se perdió la conexión con la base de datos: lo que haga ahora no se guarda. Nuevo intento en 60 s.",
+          "No se pudo abrir la base de datos «ventas» en db.example.com:3306, usuario ana.");
     dn::tests::looksAsApproved(in("BarraDeConexion"), "BarraDeConexion");
     showsWhole();
     clicks("cmdReconectar");
@@ -205,7 +112,7 @@ TEST_F(LosingTheServer, waits_for_its_time_or_for_the_button)
     server->restart();
     clicks("cmdReconectar");
     EXPECT_TRUE(goesOn()) << bar();
-    showsInTheBar("Conexión restablecida a las 10:15. Compruebe si quedó guardado lo último que hizo.", "");
+    shows("Conexión restablecida a las 10:15. Compruebe si quedó guardado lo último que hizo.", "");
     dn::tests::looksAsApproved(in("BarraDeConexion"), "BarraDeConexion-restablecida");
 }
 
@@ -220,7 +127,7 @@ TEST_F(LosingTheServer, an_hourglass_that_a_failure_left_behind_keeps_nobody_wai
 
 TEST_F(LosingTheServer, keeps_an_administrators_agent_filter_and_checks)
 {
-    opens(desk::prospectos, {0s, 1s}, {0, true, "jefa"});
+    opens(desk::prospectos, quickly(), {0, true, "jefa"});
     elements().top.cbAgente.pick("Ana");
     elements().prospects.lvw.toggleCheck(1);
     const std::string checked(elements().prospects.lvw.ListItems()(2).Key());
@@ -263,19 +170,6 @@ TEST_F(LosingTheServer, goes_back_to_each_tab)
     ASSERT_TRUE(goesOn());
     EXPECT_TRUE(in("lvwContactos").isVisible());
     EXPECT_EQ(selected(elements().persons.lvwContactos), "PK6");
-}
-
-TEST_F(LosingTheServer, tells_the_note_whose_prospect_is_gone)
-{
-    opens(desk::prospectos);
-    selects(elements().prospects.lvw, "K1");
-    elements().detail.txtText.edit("pide precios");
-    reach(*server)->execute("UPDATE ut_icontact SET uf_IEjecutivo = 9 WHERE Sys_PK = 1");
-    server->restart();
-    ASSERT_TRUE(goesOn());
-    EXPECT_EQ(elements().detail.txtText.Text(), "") << "not beside another prospect";
-    EXPECT_TRUE(in("lblMotivo").isVisible());
-    EXPECT_EQ(in<QLabel>("lblMotivo").text(), "La nota que no se guardó dice: «pide precios»");
 }
 
 TEST_F(LosingTheServer, an_open_window_keeps_what_was_typed_and_stores_it_afterwards)
@@ -339,6 +233,88 @@ TEST_F(LosingTheServer, a_hanging_server_does_not_hang_the_window)
     EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 2);
 }
 
+TEST_F(LosingTheServer, one_that_comes_and_goes_is_not_stormed)
+{
+    opens(desk::prospectos, once());
+    server->restart();
+    ASSERT_TRUE(goesOn()) << bar();
+    server->restart();
+    EXPECT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
+    clicks("cmdReconectar");
+    EXPECT_TRUE(goesOn()) << bar();
+}
+
+TEST_F(LosingTheServer, one_that_stood_for_a_while_is_tried_at_once_again)
+{
+    Rhythm rhythm = once();
+    rhythm.steady = 0s;
+    opens(desk::prospectos, rhythm);
+    for (int i = 0; i < 3; ++i) {
+        server->restart();
+        ASSERT_TRUE(goesOn()) << bar();
+        clicks("cmdCerrarAviso");
+    }
+}
+
+/// Takes connections and says nothing.
+class SilentServer {
+public:
+    SilentServer() : listener_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t size = sizeof address;
+        auto* const general = reinterpret_cast<sockaddr*>(&address);
+        if (::bind(listener_.get(), general, size) != 0 || ::listen(listener_.get(), 5) != 0 ||
+            ::getsockname(listener_.get(), general, &size) != 0)
+            throw std::runtime_error("no port");
+        port_ = ntohs(address.sin_port);
+    }
+    std::string text(int seconds) const
+    {
+        return "mariadb://ana@127.0.0.1:" + std::to_string(port_) +
+               "/x?connect_timeout=" + std::to_string(seconds);
+    }
+    /// The next one that comes.
+    UniqueFd takes() const { return UniqueFd(::accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC)); }
+    /// Whether he still waits for a word.
+    static bool waits(const UniqueFd& guest)
+    {
+        pollfd end{guest.get(), POLLIN | POLLRDHUP, 0};
+        return ::poll(&end, 1, 0) == 0;
+    }
+
+private:
+    UniqueFd listener_;
+    int port_ = 0;
+};
+
+class BesideASilentServer : public LosingTheServer {
+protected:
+    DatabaseOptions options() override
+    {
+        DatabaseOptions result = LosingTheServer::options();
+        result.further = {silent.text(3)};
+        return result;
+    }
+
+    SilentServer silent;
+};
+
+TEST_F(BesideASilentServer, the_window_closes_during_an_attempt_without_waiting_for_its_end)
+{
+    opens(desk::prospectos);
+    server->kill();
+    const UniqueFd guest = [&] {
+        EXPECT_TRUE(tells("Reconectando…")) << bar();
+        return silent.takes();
+    }();
+    window.reset();
+    EXPECT_TRUE(SilentServer::waits(guest)) << "the attempt has been waited for";
+    database.reset(); // the attempt needs nothing of it
+}
+
 class LosingThePrivateServer : public LosingTheServer {
 protected:
     DatabaseOptions options() override
@@ -346,10 +322,21 @@ protected:
         DatabaseOptions result;
         result.server.folder = server->folder() / "propio";
         result.server.bufferPoolMegabytes = 32;
+        result.server.lockPatience = 2s;
         result.demoRows = 5;
         return result;
     }
 };
+
+TEST_F(LosingThePrivateServer, the_window_goes_on_while_another_program_keeps_it_from_starting)
+{
+    opens(desk::prospectos);
+    std::optional<FileLock> held(std::in_place, database->server()->folder().lock, 1s);
+    ASSERT_EQ(::kill(database->server()->pid(), SIGKILL), 0);
+    ASSERT_TRUE(tells("Reconectando…")) << bar() << in<QLabel>("lblMotivo").text().toStdString();
+    held.reset();
+    EXPECT_TRUE(goesOn()) << bar();
+}
 
 TEST_F(LosingThePrivateServer, starts_it_again)
 {
