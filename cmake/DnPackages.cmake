@@ -22,8 +22,28 @@ foreach(component IN ITEMS program runtime development)
     string(TOUPPER "${component}" upper)
     set(CPACK_DEBIAN_${upper}_PACKAGE_NAME "${DN_PACKAGE_OF_${component}}")
 endforeach()
-install(FILES docs/embedding.md DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev"
-    COMPONENT development)
+# dn_install_page(PAGE FOLDER COMPONENT ABSENT): a page of the documents; what it says of pages that are not installed
+# with it, by a regular expression, stays as words without a link.
+function(dn_install_page page folder component absent)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/${page}.md")
+    file(READ "${PROJECT_SOURCE_DIR}/docs/${page}.md" text)
+    string(REGEX REPLACE "\\[([^]\n]+)\\]\\((${absent})[^) ]*\\)" "\\1" text "${text}")
+    file(WRITE "${PROJECT_BINARY_DIR}/package/${component}/${page}.md" "${text}")
+    install(FILES "${PROJECT_BINARY_DIR}/package/${component}/${page}.md" DESTINATION "${folder}"
+        COMPONENT ${component})
+endfunction()
+foreach(page IN ITEMS embedding database mail)
+    dn_install_page(${page} "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev/docs" development
+        "manual\\.md|reliability\\.md")
+endforeach()
+# The manual that Ayuda > Manual shows, with the pages that it leads to.
+foreach(page IN ITEMS manual database mail)
+    dn_install_page(${page} "${CMAKE_INSTALL_DATAROOTDIR}/dncontacts" program
+        "embedding\\.md|reliability\\.md|\\.\\./host")
+endforeach()
+install(DIRECTORY docs/manual docs/pictures DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/dncontacts" COMPONENT program)
+install(DIRECTORY host/database/schema
+    DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev/host/database" COMPONENT development)
 install(DIRECTORY examples/minimal-host DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev/examples"
     COMPONENT development)
 

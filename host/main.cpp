@@ -121,7 +121,11 @@ int run(const ProgramOptions& options, const QPalette& desktop)
     if (!worker) return 0;
 
     MainWindow window(database, *worker);
-    window.resize(options.size.value_or(QSize(1280, 800)));
+    constexpr QSize designed(1280, 800);
+    if (options.size || picture)
+        window.resize(options.size.value_or(designed));
+    else
+        takeFirstPlace(window, designed);
     window.sendMails(options.dataFolder.isEmpty() ? defaultDataFolder()
                                                   : std::filesystem::path(options.dataFolder.toStdString()),
                      keyring);

@@ -6,6 +6,8 @@
 #include "host/connection_bar.h"
 #include "host/dialler.h"
 #include "host/mail/mailer.h"
+#include "host/screens/boxes.h"
+#include "screen/qt/hourglass.h"
 #include "shell/ctr_dn_contacts.h"
 
 #include <QAction>
@@ -190,16 +192,46 @@ void MainWindow::addMenus()
     connect(quit, &QAction::triggered, this, &QWidget::close);
 
     QMenu* help = menuBar()->addMenu("A&yuda");
-    connect(help->addAction("Acerca de..."), &QAction::triggered, this, [this] {
-        QMessageBox::about(this, "Acerca de",
-                           QApplication::applicationDisplayName() + " " + QApplication::applicationVersion() +
-                               "\n\nBase de datos: " + QString::fromStdString(database_.description()));
-    });
+    QAction* manual = help->addAction("&Manual");
+    manual->setShortcut(QKeySequence::HelpContents);
+    connect(manual, &QAction::triggered, this, [this] { showManual(); });
+    connect(help->addAction("Acerca de..."), &QAction::triggered, this, [this] { tellAbout(); });
+}
+
+void MainWindow::tellAbout()
+{
+    constexpr int side = 48; // logical pixels
+    QMessageBox box(QMessageBox::NoIcon, "Acerca de",
+                    QApplication::applicationDisplayName() + " " + QApplication::applicationVersion() +
+                        "\n\nBase de datos: " + QString::fromStdString(database_.description()),
+                    QMessageBox::NoButton, this);
+    box.setObjectName("AcercaDe");
+    box.setTextFormat(Qt::PlainText);
+    box.setIconPixmap(QIcon(":/dn/icons/dncontacts.svg").pixmap(QSize(side, side), devicePixelRatioF()));
+    box.addButton("&Aceptar", QMessageBox::AcceptRole);
+    box.exec();
+}
+
+// One window: the key that opens it also brings it back to the front.
+void MainWindow::showManual()
+{
+    if (manual_.isNull()) {
+        const auto folder = manualFolder();
+        if (!folder) {
+            tell(this, "El manual no está instalado junto al programa.");
+            return;
+        }
+        manual_ = new ManualWindow(*folder, this);
+    }
+    manual_->show();
+    manual_->raise();
+    manual_->activateWindow();
 }
 
 // Opening the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
 void MainWindow::refresh()
 {
+    const screen::qt::Hourglass hourglass;
     const std::int16_t tab = control().activeTab();
     if (tab >= 0)
         control().openTab(tab);

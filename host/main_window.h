@@ -5,6 +5,7 @@
 #pragma once
 
 #include "host/database/database.h"
+#include "host/desktop/manual_window.h"
 #include "host/keyboard_place.h"
 #include "host/mail/mail_password.h"
 #include "host/mail/mail_settings.h"
@@ -17,6 +18,7 @@
 #include "screen/signal.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <filesystem>
 #include <functional>
@@ -65,6 +67,8 @@ private:
     void rememberPlace();
     void resume();
     void refresh();
+    void tellAbout();
+    void showManual();
     void reportError(const std::exception& failure);
 
     Database& database_;
@@ -73,6 +77,7 @@ private:
     ScreensFactory screens_;
     Reconnection reconnection_;
     ConnectionBar* bar_;
+    QPointer<ManualWindow> manual_;
     screen::qt::CtrDnContactsWidget* widget_;
     WorkPlace place_;                  // a moment ago, or where the last note was typed
     std::optional<WorkPlace> leading_; // where to take the operator back to; until it is done

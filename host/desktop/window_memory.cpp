@@ -3,6 +3,7 @@
 
 #include "host/desktop/window_memory.h"
 
+#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -58,6 +59,14 @@ void WindowMemory::save() const
 }
 
 void WindowMemory::resetColumns() { control_.columnLayouts(designed_); }
+
+void takeFirstPlace(QWidget& window, QSize designed)
+{
+    const QSize room = window.screen()->availableGeometry().size();
+    window.resize(designed.boundedTo(room));
+    const bool fits = designed.width() <= room.width() && designed.height() <= room.height();
+    if (!fits) window.setWindowState(window.windowState() | Qt::WindowMaximized);
+}
 
 QString rememberedTheme(const QString& file)
 {

@@ -34,6 +34,9 @@ private:
     screen::qt::ColumnLayouts designed_;
 };
 
+/// Gives a window that has not been shown its first size. On a screen without room for that it fills the screen.
+void takeFirstPlace(QWidget& window, QSize designed);
+
 /// The theme that the operator chose, by its name in `themes`; empty for none.
 QString rememberedTheme(const QString& file);
 void rememberTheme(const QString& file, const QString& theme);

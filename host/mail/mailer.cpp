@@ -6,6 +6,7 @@
 #include "host/mail/composer.h"
 #include "host/mail/history_window.h"
 #include "host/screens/boxes.h"
+#include "screen/qt/hourglass.h"
 
 #include <QDate>
 
@@ -87,12 +88,14 @@ void Mailer::VerHistorial(const std::string& record)
             tell(over, noHistory);
             return;
         }
-        QStringList notices;
-        const PartyFields fields = fieldsOf(context_->database, record, notices);
-        const auto name = fields.find("nombre");
-        HistoryWindow(context_->database, record,
-                      name == fields.end() ? QString() : QString::fromStdString(name->second), over)
-            .exec();
+        HistoryWindow window = screen::qt::waiting([&] {
+            QStringList notices;
+            const PartyFields fields = fieldsOf(context_->database, record, notices);
+            const auto name = fields.find("nombre");
+            return HistoryWindow(context_->database, record,
+                                 name == fields.end() ? QString() : QString::fromStdString(name->second), over);
+        });
+        window.exec();
     });
 }
 

@@ -4,6 +4,7 @@
 #include "host/screens/boxes.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -25,6 +26,13 @@ QWidget* windowBelow(QWidget* mainWindow)
 {
     if (QWidget* const modal = QApplication::activeModalWidget(); modal != nullptr) return modal;
     return mainWindow;
+}
+
+void offerToClear(QLineEdit& line)
+{
+    line.setClearButtonEnabled(true);
+    for (auto* const button : line.findChildren<QAbstractButton*>())
+        button->setAccessibleName("Borrar lo escrito");
 }
 
 void tell(QWidget* over, const QString& text) { show(over, QMessageBox::Information, text); }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The ctrDnContacts authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What the host's screens say in boxes.
+// What the host's screens say in boxes, and what else their windows have in common.
 #pragma once
 
 #include <QString>
@@ -9,10 +9,15 @@
 
 #include <exception>
 
+class QLineEdit;
+
 namespace dn::host {
 
 /// The window that a new window or box stands over.
 QWidget* windowBelow(QWidget* mainWindow);
+
+/// Gives a line the button that empties it, with a name for a screen reader, which the toolkit leaves out.
+void offerToClear(QLineEdit& line);
 
 /// Shows a text under the program's name and waits. The box's object name is "Aviso".
 void tell(QWidget* over, const QString& text);

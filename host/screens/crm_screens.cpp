@@ -8,9 +8,12 @@
 #include "host/screens/entry_removal.h"
 #include "host/screens/relations_window.h"
 #include "host/screens/search_window.h"
+#include "screen/qt/hourglass.h"
 
 namespace dn::host {
 namespace {
+
+using screen::qt::waiting;
 
 constexpr auto person = PartyField::Kind::person;
 constexpr auto organisation = PartyField::Kind::organisation;
@@ -40,7 +43,7 @@ void CrmScreens::EditarPersona(std::int32_t& key, std::int32_t& agente, std::any
 void CrmScreens::edit(PartyField::Kind kind, std::int32_t key, std::int32_t agente, std::any& result)
 {
     reporting(below(), [&] {
-        EntryForm form(*context_, kind, key, agentOr(agente), below());
+        EntryForm form = waiting([&] { return EntryForm(*context_, kind, key, agentOr(agente), below()); });
         if (form.exec() == QDialog::Accepted) result = form.key();
     });
 }
@@ -76,8 +79,11 @@ void CrmScreens::MostrarRelaciones(std::int16_t& kind, std::int32_t& key, std::s
 {
     const PartyField::Kind of = kind == 1 ? organisation : person;
     reporting(below(), [&] {
-        if (!findEntity(context_->database, of == organisation, key)) throw RowGone();
-        RelationsWindow(*context_, of, key, QString::fromStdString(caption), below()).exec();
+        RelationsWindow window = waiting([&] {
+            if (!findEntity(context_->database, of == organisation, key)) throw RowGone();
+            return RelationsWindow(*context_, of, key, QString::fromStdString(caption), below());
+        });
+        window.exec();
     });
 }
 

@@ -3,6 +3,8 @@
 
 #include "host/screens/entry_form.h"
 
+#include "screen/qt/hourglass.h"
+
 namespace dn::host {
 
 EntryForm::EntryForm(ScreenContext& context, PartyField::Kind kind, std::int32_t key, std::int32_t agent,
@@ -64,7 +66,7 @@ void EntryForm::organisation(std::int32_t key)
 std::int32_t makeEntry(ScreenContext& context, PartyField::Kind kind, const QString& name,
                        std::int32_t organisation, QWidget* over)
 {
-    EntryForm form(context, kind, 0, context.agent, over);
+    EntryForm form = screen::qt::waiting([&] { return EntryForm(context, kind, 0, context.agent, over); });
     form.name(name);
     if (organisation != 0) form.organisation(organisation);
     return form.exec() == QDialog::Accepted ? form.key() : 0;

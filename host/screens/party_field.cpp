@@ -38,7 +38,7 @@ PartyField::PartyField(const QString& name, Kind kind, ScreenContext& context, Q
     setObjectName(name);
     edit_->setObjectName("txt" + name);
     edit_->setMaxLength(longestName);
-    edit_->setClearButtonEnabled(true);
+    offerToClear(*edit_);
     edit_->setPlaceholderText("Escriba las primeras letras para buscar");
     edit_->setAccessibleName(kind == Kind::organisation ? "Organización" : "Persona");
     setFocusPolicy(Qt::StrongFocus); // a label leads its mnemonic to no other

@@ -6,6 +6,7 @@
 #include "host/screens/boxes.h"
 #include "host/screens/directory.h"
 #include "host/screens/entry_form.h"
+#include "screen/qt/hourglass.h"
 
 namespace dn::host {
 namespace {
@@ -118,7 +119,7 @@ void ProjectForm::reject()
 
 void editProject(ScreenContext& context, std::int32_t key, QWidget* over)
 {
-    ProjectForm form(context, key, over);
+    ProjectForm form = screen::qt::waiting([&] { return ProjectForm(context, key, over); });
     form.exec();
 }
 

@@ -5,6 +5,7 @@
 
 #include "host/screens/boxes.h"
 #include "host/screens/project_form.h"
+#include "screen/qt/hourglass.h"
 
 namespace dn::host {
 namespace {
@@ -49,7 +50,7 @@ void ProjectScreens::CrearProyecto(std::int16_t& kind, std::int32_t& party, std:
     result = 0;
     QWidget* const over = windowBelow(context_->window);
     reporting(over, [&] {
-        ProjectForm form(*context_, 0, over);
+        ProjectForm form = screen::qt::waiting([&] { return ProjectForm(*context_, 0, over); });
         if (kind == kindPerson) form.person(party);
         if (kind == kindOrganisation) form.organisation(party);
         if (form.exec() == QDialog::Accepted) result = form.key();

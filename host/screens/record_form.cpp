@@ -3,6 +3,8 @@
 
 #include "host/screens/record_form.h"
 
+#include "screen/qt/hourglass.h"
+
 namespace dn::host {
 
 RecordForm::RecordForm(ScreenContext& context, const RecordKind& kind, std::int32_t key, const QString& name,
@@ -19,6 +21,7 @@ void RecordForm::load()
 
 void RecordForm::store()
 {
+    const screen::qt::Hourglass hourglass;
     Transaction transaction(context_.database);
     std::int32_t key = key_;
     if (isNew()) {

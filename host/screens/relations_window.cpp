@@ -6,15 +6,19 @@
 #include "host/screens/boxes.h"
 #include "host/screens/entry_form.h"
 #include "host/screens/project_form.h"
+#include "screen/qt/hourglass.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 
 #include <algorithm>
+#include <memory>
 
 namespace dn::host {
 namespace {
+
+using screen::qt::waiting;
 
 constexpr int relationKeyRole = Qt::UserRole;
 constexpr int amountColumn = 4;
@@ -153,11 +157,11 @@ void RelationsWindow::openChosen(const QTreeWidget& list)
     const PartyField::Kind other = ofOrganisation() ? PartyField::Kind::person : PartyField::Kind::organisation;
     reporting(this, [&] {
         if (&list == parties_)
-            EntryForm(context_, other, key, 0, this).exec();
+            waiting([&] { return std::make_unique<EntryForm>(context_, other, key, 0, this); })->exec();
         else
             editProject(context_, key, this);
     });
-    reporting(this, [this] { load(); });
+    reporting(this, [this] { waiting([this] { load(); }); });
 }
 
 } // namespace dn::host

@@ -45,7 +45,7 @@ void SearchWindow::build()
     text_->setObjectName("txtBuscar");
     text_->setAccessibleName("Texto que se busca");
     text_->setPlaceholderText("Nombre, teléfono o correo");
-    text_->setClearButtonEnabled(true);
+    offerToClear(*text_);
     text_->installEventFilter(this);
     auto* const caption = new QLabel("&Buscar:", this);
     caption->setObjectName("lblBuscar");

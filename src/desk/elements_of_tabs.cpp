@@ -35,6 +35,9 @@ screen::Twips layOutCommands(std::initializer_list<Command> commands, screen::Tw
 // The strips lie 75 to the left of and 30 above what shows of them.
 constexpr screen::Twips stripLeft = 105;
 constexpr screen::Twips stripTop = 45;
+// The panels of the other tabs lie elsewhere: with these the commands of all tabs stand in one place.
+constexpr screen::Twips panelLeft = 0;
+constexpr screen::Twips panelTop = 30;
 
 /// @param spoken what a screen reader calls it.
 void layOutList(ListView& list, const char* spoken)
@@ -53,7 +56,7 @@ void layOutPanel(PicturePanel& panel, screen::Twips height)
 void layOutCounter(Label& label, const char* caption)
 {
     label.Caption(caption);
-    label.Move(60, 510, 45, 195);
+    label.Move(panelLeft, 510, 45, 195);
     label.AutoSize(true);
 }
 
@@ -75,7 +78,7 @@ PersonElements::PersonElements(Container& control)
                     {&deleteContact, "Eliminar", "delete", 1350},
                     {&showContactRelations, "Ver relaciones", "relations", 1800},
                     {&genProyectFromContact, "Crear proyecto", "project", 1800}},
-                   30, 75);
+                   panelLeft, panelTop);
     layOutCounter(lblInfoContacto, "infoContacto");
     layOutList(lvwContactos, "Contactos");
 }
@@ -96,7 +99,7 @@ OrganisationElements::OrganisationElements(Container& control)
                     {&deleteOrganization, "Eliminar", "delete", 1350},
                     {&showOrganizationRelations, "Ver relaciones", "relations", 1800},
                     {&genProyectFromOrganization, "Crear proyecto", "project", 1800}},
-                   30, 75);
+                   panelLeft, panelTop);
     layOutCounter(lblinfoOrganizacion, "infoOrganizacion");
     layOutList(lvwOrganizaciones, "Organizaciones");
 }
@@ -113,7 +116,7 @@ TodayElements::TodayElements(Container& control)
     layOutCommands({{&cmdEditHoy, "Editar", "edit", 1200},
                     {&Command7, "Historial de correos", "history", 2250},
                     {&geProyFromContacto, "Crear proyecto", "project", 1800}},
-                   30, 75);
+                   panelLeft, panelTop);
     cmdEditHoy.Shortcut("F2"); // as the command has that it stands in for
     layOutCounter(lblcuenta2, "info");
     layOutList(lvwHoy, "Trabajo del día");

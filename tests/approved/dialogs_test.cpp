@@ -31,6 +31,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <functional>
+
 namespace dn::tests {
 namespace {
 
@@ -60,9 +63,11 @@ protected:
     }
 
     template <class Dialog>
-    void looks(Dialog& dialog, const char* name, const char* picture = nullptr)
+    void looks(
+        Dialog& dialog, const char* name, const char* picture = nullptr, const std::function<void()>& fill = [] {})
     {
         ports.events.expectModal(name, [&](screen::Form& form) {
+            fill();
             screen::qt::FormView view(form, nullptr, guard);
             looksAndReads(view, picture == nullptr ? name : picture);
             form.closeWindow();
@@ -79,7 +84,13 @@ TEST_F(DialogLooks, of_a_new_prospect)
 {
     dialogs::dlgNuevoPros dialog(ports.ports());
     dialog.Cnn = &cnn;
-    looks(dialog, "dlgNuevoPros");
+    looks(dialog, "dlgNuevoPros", nullptr, [&] {
+        dialog.txtNombre.type("Luz Ñúñez");
+        dialog.txtTelefono.type("961 111 2233");
+        dialog.txtCorreo.type("luz@example.com");
+        dialog.txtEmpresa.type("Silos del Sureste");
+        dialog.txtPuesto.type("Compras");
+    });
 }
 
 TEST_F(DialogLooks, of_the_next_contact)
@@ -87,6 +98,13 @@ TEST_F(DialogLooks, of_the_next_contact)
     dialogs::dlgAgendarContacto dialog(ports.ports());
     dialog.Cnn = &cnn;
     looks(dialog, "dlgAgendarContacto");
+}
+
+TEST_F(DialogLooks, of_a_day_for_the_next_contact)
+{
+    dialogs::dlgAgendarContacto dialog(ports.ports());
+    dialog.Cnn = &cnn;
+    looks(dialog, "dlgAgendarContacto", "dlgAgendarContacto-dia", [&] { dialog.opt2.choose(); });
 }
 
 TEST_F(DialogLooks, of_a_correction)
@@ -107,7 +125,7 @@ TEST_F(DialogLooks, of_the_agents)
 TEST_F(DialogLooks, of_what_comes_next)
 {
     dialogs::dlgQueH dialog(ports.ports());
-    looks(dialog, "dlgQueH");
+    looks(dialog, "dlgQueH", nullptr, [&] { dialog.Option1.choose(); });
 }
 
 TEST_F(DialogLooks, of_the_addresses)
@@ -206,6 +224,12 @@ TEST_F(BoxLooks, of_a_text_asked_for)
     boxes.InputBox("Motivo:");
 }
 
+TEST_F(BoxLooks, of_a_note)
+{
+    expectLooks("InputBox", "InputBox-nota");
+    boxes.InputBox("Nota:");
+}
+
 TEST_F(BoxLooks, of_who_works)
 {
     expectLooks("QuienTrabaja", "QuienTrabaja");
@@ -223,12 +247,27 @@ TEST_F(BoxLooks, of_a_password_asked_for)
                       nullptr);
 }
 
+TEST_F(BoxLooks, of_the_password_of_the_mail)
+{
+    expectLooks("PedirClave", "PedirClave-correo");
+    host::askPassword({.title = "Clave del correo",
+                       .account = "ana en correo.example.com",
+                       .accepts = "&Enviar",
+                       .rejects = "&Cancelar",
+                       .canKeep = true},
+                      nullptr);
+}
+
 TEST_F(BoxLooks, of_the_note_that_asks_to_wait)
 {
     host::WaitingNote note;
     note.tell("Creando las tablas…");
-    for (QWidget* const window : QApplication::topLevelWidgets())
-        if (window->objectName() == "NotaDeEspera" && window->isVisible()) looksAndReads(*window, "NotaDeEspera");
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto shown = std::find_if(all.begin(), all.end(), [](const QWidget* window) {
+        return window->objectName() == "NotaDeEspera" && window->isVisible();
+    });
+    ASSERT_NE(shown, all.end());
+    looksAndReads(**shown, "NotaDeEspera");
 }
 
 } // namespace

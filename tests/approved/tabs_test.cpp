@@ -5,15 +5,22 @@
 // picture depends on the day.
 
 #include "screen/qt/guard.h"
+#include "screen/qt/list_view_view.h"
 #include "screen/qt/panel_views.h"
 #include "screen/qt/theme.h"
+#include "shell/list_commands.h"
 #include "tests/approved/approval.h"
 #include "tests/directories/fixture.h"
 #include "tests/screen/qt/accessible_tree.h"
 #include "tests/support/project_fixture.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QTest>
+
+#include <array>
+#include <string>
+#include <tuple>
 
 namespace dn::tests {
 namespace {
@@ -105,7 +112,11 @@ protected:
         QApplication::processEvents();
         QApplication::processEvents(); // the lists publish their rows once a turn
         looksAsApproved(view, name, scales);
-        EXPECT_THAT(cutOff(view), testing::IsEmpty()) << name;
+        for (const int width : {1280, 1048, 800}) {
+            view.resize(width, 560);
+            QApplication::processEvents();
+            EXPECT_THAT(cutOff(view), testing::IsEmpty()) << name << " at " << width;
+        }
         EXPECT_THAT(unnamed(view), testing::IsEmpty()) << name;
         EXPECT_THAT(unreached(view), testing::IsEmpty()) << name;
     }
@@ -158,27 +169,45 @@ TEST_F(Looks, of_a_call)
     looks("llamada-resumen");
 }
 
-TEST_F(Looks, of_the_prospects_in_the_dark)
+TEST_F(Looks, of_the_menu_of_a_row)
 {
-    QApplication::setPalette(schemePalette(screen::qt::Scheme::dark));
     opensTab(desk::prospectos);
-    looks("prospectos-oscuro");
+    screen::qt::ControlView view(control.root(), nullptr, guard);
+    view.resize(1100, 560);
+    screen::qt::dress(view);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    auto* const list = view.findChild<screen::qt::ListViewView*>("lvw");
+    list->offer(shell::commandsOf("lvw", elements()));
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {120, 30}, list->viewport()->mapToGlobal(QPoint(120, 30)));
+    QApplication::sendEvent(list->viewport(), &asked);
+    QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    looksAsApproved(*menu, "menu-de-un-prospecto");
+    menu->close();
 }
 
-TEST_F(Looks, of_the_prospects_in_high_contrast)
-{
-    QApplication::setPalette(schemePalette(screen::qt::Scheme::whiteOnBlack));
-    opensTab(desk::prospectos);
-    looks("prospectos-contraste");
-}
+/// Each tab in the schemes that are not the usual one.
+class LooksInSchemes : public Looks, public testing::WithParamInterface<std::tuple<screen::qt::Scheme, int>> {};
 
-TEST_F(Looks, of_the_persons_in_high_contrast_on_white)
+TEST_P(LooksInSchemes, of_a_tab)
 {
-    QApplication::setPalette(schemePalette(screen::qt::Scheme::blackOnWhite));
+    const auto [scheme, tab] = GetParam();
+    constexpr std::array tabs{"prospectos", "proyectos", "hoy", "organizaciones", "contactos"};
+    constexpr std::array schemes{"claro", "oscuro", "contraste", "contraste-claro"};
+    QApplication::setPalette(schemePalette(scheme));
     fillDirectories();
-    opensTab(desk::contactos);
-    looks("contactos-contraste-claro");
+    opensTab(tab);
+    const std::string name =
+        std::string(tabs.at(static_cast<std::size_t>(tab))) + "-" + schemes.at(static_cast<std::size_t>(scheme));
+    looks(name.c_str());
 }
+
+INSTANTIATE_TEST_SUITE_P(All, LooksInSchemes,
+                         testing::Combine(testing::Values(screen::qt::Scheme::dark,
+                                                          screen::qt::Scheme::whiteOnBlack,
+                                                          screen::qt::Scheme::blackOnWhite),
+                                          testing::Range(0, 5)));
 
 TEST(Approval, is_held_in_the_fonts_of_the_pictures) { EXPECT_TRUE(hasApprovedFonts()) << "run it by ctest"; }
 

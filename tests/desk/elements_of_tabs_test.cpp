@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <set>
+#include <utility>
 
 namespace dn::desk {
 namespace {
@@ -147,6 +148,24 @@ TEST(Commands, of_a_strip_stand_beside_each_other_and_inside_it)
             EXPECT_LE(child->Top() + child->Height(), strip.Height() + 15) << child->name();
         }
     }
+}
+
+TEST(Commands, of_all_tabs_stand_in_one_place)
+{
+    const Elements elements;
+    const auto place = [](const screen::Element& element) {
+        std::pair<screen::Twips, screen::Twips> found;
+        for (const screen::Element* step = &element; step->parent() != nullptr; step = step->parent()) {
+            found.first += step->Left();
+            found.second += step->Top();
+        }
+        return found;
+    };
+    const auto first = place(elements.prospects.cbStatus);
+    EXPECT_EQ(place(elements.projects.cbProjStatusProj), first);
+    EXPECT_EQ(place(elements.today.cmdEditHoy), first);
+    EXPECT_EQ(place(elements.organisations.addOrganization), first);
+    EXPECT_EQ(place(elements.persons.addContact), first);
 }
 
 } // namespace

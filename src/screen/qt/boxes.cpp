@@ -21,6 +21,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <vector>
+
 namespace dn::screen::qt {
 namespace {
 
@@ -29,6 +31,26 @@ QWidget* windowBelow(QWidget* owner)
     QWidget* const active = QApplication::activeWindow();
     return active != nullptr ? active : owner;
 }
+
+/// The plain pointer while the operator has something to answer, whatever it was before.
+class PointerAtRest {
+public:
+    PointerAtRest()
+    {
+        for (; QGuiApplication::overrideCursor() != nullptr; QGuiApplication::restoreOverrideCursor())
+            before_.push_back(*QGuiApplication::overrideCursor());
+    }
+    PointerAtRest(const PointerAtRest&) = delete;
+    PointerAtRest& operator=(const PointerAtRest&) = delete;
+    ~PointerAtRest()
+    {
+        for (; !before_.empty(); before_.pop_back())
+            QGuiApplication::setOverrideCursor(before_.back());
+    }
+
+private:
+    std::vector<QCursor> before_;
+};
 
 /// Adds a button; Enter presses the one whose number is the default's.
 QPushButton* addButton(QMessageBox& box, const QString& text, QMessageBox::ButtonRole role, bool isDefault)
@@ -103,6 +125,7 @@ bool mayWrite(Dialogs& dialogs, const QString& path)
 
 Answer QtDialogs::MsgBox(const MessageBox& box)
 {
+    const PointerAtRest rest;
     const bool critical = box.icon == MessageBox::Icon::critical;
     QMessageBox window(critical ? QMessageBox::Critical : QMessageBox::NoIcon, {}, fromUtf8(box.prompt),
                        QMessageBox::NoButton, windowBelow(owner_));

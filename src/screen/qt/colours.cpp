@@ -36,27 +36,33 @@ double contrast(const QColor& one, const QColor& other)
     return (high + 0.05) / (low + 0.05);
 }
 
-QColor legible(const QColor& colour, const QColor& background)
+QColor legible(const QColor& colour, const QColor& background, double least)
 {
-    constexpr double readable = 4.5;
     constexpr float step = 0.02F;
     constexpr float calm = 0.75F; // a shifted colour at full saturation glares
     const float direction = inkOn(background) == QColor(Qt::white) ? step : -step;
     QColor result = colour;
     float lightness = colour.lightnessF();
-    while (contrast(result, background) < readable && lightness > 0.0F && lightness < 1.0F) {
+    while (contrast(result, background) < least && lightness > 0.0F && lightness < 1.0F) {
         lightness = std::clamp(lightness + direction, 0.0F, 1.0F);
         const float saturation = std::min(calm, colour.hslSaturationF());
         result = QColor::fromHslF(std::max(0.0F, colour.hslHueF()), saturation, lightness);
     }
-    return contrast(result, background) < readable ? inkOn(background) : result;
+    return contrast(result, background) < least ? inkOn(background) : result;
 }
 
-QColor LegibleInks::on(const QColor& background, const QColor& colour) const
+QColor LegibleInks::on(const QColor& background, const QColor& colour, double least) const
 {
-    QColor& ink = known_[{background.rgba(), colour.rgba()}];
-    if (!ink.isValid()) ink = legible(colour, background);
+    QColor& ink = known_[{background.rgba(), colour.rgba(), least}];
+    if (!ink.isValid()) ink = legible(colour, background, least);
     return ink;
+}
+
+bool isStark(const QPalette& palette)
+{
+    constexpr double stark = 20;
+    return contrast(palette.color(QPalette::Active, QPalette::Window),
+                    palette.color(QPalette::Active, QPalette::WindowText)) >= stark;
 }
 
 QColor mixed(const QColor& one, const QColor& other, float share)

@@ -9,9 +9,10 @@
 #include <QColor>
 #include <QHash>
 
+#include <cstddef>
 #include <optional>
-#include <utility>
 
+class QPalette;
 class QWidget;
 
 namespace dn::screen::qt {
@@ -22,17 +23,38 @@ QColor fromColour(Colour colour);
 /// How far two colours stand apart: 1 for equal ones to 21 for black and white (WCAG 2).
 double contrast(const QColor& one, const QColor& other);
 
+/// The contrasts that texts need (WCAG 2): in general, in the schemes of high contrast, and while they are
+/// disabled.
+constexpr double readable = 4.5;
+constexpr double starklyReadable = 7;
+constexpr double faintlyReadable = 3;
+
 /// The colour itself where it can be read on the background, else the nearest lighter or darker one that can.
-QColor legible(const QColor& colour, const QColor& background);
+/// @param least the contrast that it needs.
+QColor legible(const QColor& colour, const QColor& background, double least = readable);
 
 /// The same, found out once for each pair: a list paints a few colours over and over.
 class LegibleInks {
 public:
-    QColor on(const QColor& background, const QColor& colour) const;
+    QColor on(const QColor& background, const QColor& colour, double least) const;
 
 private:
-    mutable QHash<std::pair<QRgb, QRgb>, QColor> known_;
+    struct Pair {
+        QRgb background, colour;
+        double least;
+
+        friend bool operator==(const Pair&, const Pair&) = default;
+        friend std::size_t qHash(const Pair& pair, std::size_t seed = 0)
+        {
+            return qHashMulti(seed, pair.background, pair.colour, pair.least);
+        }
+    };
+
+    mutable QHash<Pair, QColor> known_;
 };
+
+/// Whether a palette is one of high contrast, which has nothing but black and white; others stay a little below.
+bool isStark(const QPalette& palette);
 
 /// A colour between two: 0 is the one, 1 the other.
 QColor mixed(const QColor& one, const QColor& other, float share);

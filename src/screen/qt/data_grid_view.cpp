@@ -18,6 +18,8 @@
 namespace dn::screen::qt {
 namespace {
 
+constexpr int numbersWidth = 32; // logical pixels, of three figures with some air
+
 /// The rows with their numbers; the cells may be changed unless the grid is for reading alone.
 class Model : public ListViewModel {
 public:
@@ -109,6 +111,8 @@ DataGridView::DataGridView(screen::DataGrid& grid, QWidget* parent, Guard& guard
     verticalHeader()->show();
     verticalHeader()->setSectionsClickable(true);
     verticalHeader()->setHighlightSections(false);
+    verticalHeader()->setMinimumWidth(numbersWidth);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     if (currentIndex().isValid())
         selectionModel()->setCurrentIndex(currentIndex(), QItemSelectionModel::ClearAndSelect);
 }

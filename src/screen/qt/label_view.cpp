@@ -4,6 +4,7 @@
 #include "screen/qt/label_view.h"
 
 #include "screen/qt/colours.h"
+#include "screen/qt/hourglass.h"
 #include "screen/qt/list_view_view.h"
 #include "screen/qt/text.h"
 
@@ -46,6 +47,7 @@ LabelView::LabelView(screen::Label& label, QWidget* parent, Guard& guard)
     : QLabel(parent), bond_(label, *this, guard, [this](const auto& state) { mirror(state); })
 {
     setTextFormat(Qt::PlainText); // telephone numbers and counters come from data
+    parent->installEventFilter(this);
     bond_.refresh();
 }
 
@@ -64,7 +66,52 @@ void LabelView::mirror(const screen::Label& label)
     setFrameShape(label.BorderStyle() != 0 ? QFrame::Box : QFrame::NoFrame);
     setAutoFillBackground(label.BackColor().has_value());
     dressInColour(*this, label.BackColor());
-    if (label.AutoSize()) resize(sizeHint());
+    if (label.AutoSize()) fit(label);
+}
+
+int LabelView::room() const { return parentWidget()->width() - x(); }
+
+void LabelView::fit(const screen::Label& label)
+{
+    constexpr int narrowest = 76; // percent of the letters' own width
+    QFont face = font();
+    for (int stretch = QFont::Unstretched; stretch >= narrowest; stretch -= 2) {
+        face.setStretch(stretch);
+        if (QFontMetrics(face).size(Qt::TextShowMnemonic, text()).width() <= room()) break;
+    }
+    if (face.stretch() != font().stretch()) setFont(face);
+    resize(sizeHint());
+    setToolTip(width() > room() ? text() : asToolTip(label.ToolTipText()));
+}
+
+void LabelView::paintEvent(QPaintEvent* event)
+{
+    const screen::Label* const label = bond_.element();
+    if (label == nullptr || !label->AutoSize() || width() <= room() || room() <= 0) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    style()->drawItemText(&painter, {0, 0, room(), height()}, static_cast<int>(alignment()), palette(),
+                          isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, room()), foregroundRole());
+}
+
+void LabelView::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange && bond_.element() != nullptr && bond_.element()->AutoSize())
+        fit(*bond_.element());
+}
+
+bool LabelView::eventFilter(QObject* watched, QEvent* event)
+{
+    const screen::Label* const label = bond_.element();
+    const bool fits = label != nullptr && label->AutoSize();
+    if (fits && watched == parent() && event->type() == QEvent::Resize) {
+        fit(*label);
+        update();
+    }
+    return QLabel::eventFilter(watched, event);
 }
 
 void LabelView::mouseReleaseEvent(QMouseEvent* event)
@@ -78,7 +125,11 @@ ClickLabelView::ClickLabelView(screen::Label& label, QWidget* parent, Guard& gua
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
-    connect(this, &QAbstractButton::clicked, this, [this] { bond_.gesture([](auto& it) { it.click(); }); });
+    // What a tab shows is read anew, which may take a while.
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        const Hourglass hourglass;
+        bond_.gesture([](auto& it) { it.click(); });
+    });
     bond_.refresh();
 }
 

@@ -12,6 +12,9 @@
 
 namespace dn::screen::qt {
 
+/// A label that takes the size of its text (`AutoSize`) has the room that its container leaves: where that is too
+/// little, the letters are set narrower, as far as they can be read, and what is still too long is cut off by
+/// three dots and stands in the tool tip.
 class LabelView : public QLabel {
 public:
     LabelView(screen::Label& label, QWidget* parent, Guard& guard);
@@ -21,9 +24,14 @@ public:
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void mirror(const screen::Label& label);
+    int room() const;
+    void fit(const screen::Label& label);
 
     Bond<screen::Label> bond_;
 };

@@ -3,7 +3,10 @@
 
 #include "screen/qt/list_cell_painter.h"
 
+#include "screen/qt/icons.h"
+
 #include <QApplication>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -38,6 +41,29 @@ void setCloser(QStyleOptionViewItem& option)
     option.fontMetrics = QFontMetrics(option.font);
 }
 
+/// The drawings have colours of their own, which one or the other selection would swallow: on it they stand on a
+/// plate of paper.
+QIcon onPlate(const QStyleOptionViewItem& option)
+{
+    const qreal scale = option.widget != nullptr ? option.widget->devicePixelRatioF() : 1;
+    const QRect place(QPoint(0, 0), option.decorationSize);
+    QPixmap plate(place.size() * scale);
+    plate.setDevicePixelRatio(scale);
+    plate.fill(Qt::transparent);
+    QPainter painter(&plate);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(QPalette::Base));
+    constexpr int rounding = 3;
+    painter.drawRoundedRect(place, rounding, rounding);
+    const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+    option.icon.paint(&painter, place, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+    painter.end();
+    QIcon icon(plate);
+    icon.addPixmap(plate, QIcon::Disabled);
+    return icon;
+}
+
 } // namespace
 
 void ListCellPainter::describe(QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -58,6 +84,9 @@ void ListCellPainter::initStyleOption(QStyleOptionViewItem* option, const QModel
     option->text.remove(u'\r').replace(QChar(QChar::LineSeparator), u' '); // one line a row
     option->state &= ~QStyle::State_HasFocus;                              // the row is selected, no cell of it is
     setCloser(*option);
+    const bool selected = (option->state & QStyle::State_Selected) != 0;
+    const bool drawn = (option->features & QStyleOptionViewItem::HasDecoration) != 0;
+    if (selected && drawn && option->icon.cacheKey() != blank().cacheKey()) option->icon = onPlate(*option);
     const QVariant foreground = index.data(Qt::ForegroundRole);
     if (!foreground.isValid()) return;
     const QColor colour = foreground.value<QBrush>().color();
@@ -65,10 +94,12 @@ void ListCellPainter::initStyleOption(QStyleOptionViewItem* option, const QModel
     const bool second = (option->features & QStyleOptionViewItem::Alternate) != 0;
     const QColor paper = palette.color(second ? QPalette::AlternateBase : QPalette::Base);
     const bool enabled = (option->state & QStyle::State_Enabled) != 0;
-    const QColor ink = enabled ? inks_.on(paper, colour) : mixed(colour, paper, 0.5F);
-    const QColor selected = inks_.on(palette.color(QPalette::Highlight), colour);
+    const double least = isStark(palette) ? starklyReadable : readable;
+    const QColor ink =
+        enabled ? inks_.on(paper, colour, least) : inks_.on(paper, mixed(colour, paper, 0.5F), faintlyReadable);
+    const QColor onSelection = inks_.on(palette.color(QPalette::Highlight), colour, least);
     option->palette.setColor(QPalette::Text, ink);
-    option->palette.setColor(QPalette::HighlightedText, selected);
+    option->palette.setColor(QPalette::HighlightedText, onSelection);
 }
 
 } // namespace dn::screen::qt

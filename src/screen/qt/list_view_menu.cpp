@@ -31,15 +31,16 @@ QString commandName(const screen::Button& button)
     return button.Caption().empty() ? QString(caption).replace(u'&', QLatin1String("&&")) : caption;
 }
 
-/// The button's picture, on its colour where it stands for one.
-QIcon commandIcon(const screen::Button& button)
+/// The button's picture, on its colour where it stands for one. @param scale of the screen that it shows on.
+QIcon commandIcon(const screen::Button& button, qreal scale)
 {
-    constexpr int side = 16;
+    constexpr QRect place(0, 0, 16, 16);
     if (!button.BackColor()) return drawing(button.Picture());
-    QPixmap swatch(side, side);
+    QPixmap swatch(place.size() * scale);
+    swatch.setDevicePixelRatio(scale);
     swatch.fill(fromColour(*button.BackColor()));
     QPainter painter(&swatch);
-    drawing(button.Picture()).paint(&painter, swatch.rect());
+    drawing(button.Picture()).paint(&painter, place);
     return swatch;
 }
 
@@ -96,7 +97,7 @@ void ListViewView::addCommands(QMenu& menu)
         if (!button->shown()) continue;
         if (panel != nullptr && panel != button->parent()) menu.addSeparator();
         panel = button->parent();
-        QAction* const action = menu.addAction(commandIcon(*button), commandName(*button));
+        QAction* const action = menu.addAction(commandIcon(*button, devicePixelRatioF()), commandName(*button));
         action->setShortcut(keyOf(*button));
         action->setShortcutContext(Qt::WidgetShortcut);
         action->setEnabled(button->usable());

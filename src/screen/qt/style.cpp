@@ -4,6 +4,7 @@
 #include "screen/qt/style.h"
 
 #include "screen/qt/colours.h"
+#include "screen/qt/icons.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -128,6 +129,69 @@ void drawFrame(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
+constexpr float grooveShare = 0.06F; // of the ink in the ground
+
+float handleShare(const QStyleOptionSlider& option)
+{
+    const Looks looks(option);
+    const bool touched = (option.activeSubControls & QStyle::SC_ScrollBarSlider) != 0;
+    if (!looks.enabled) return 0.25F;
+    return touched && looks.down ? 0.85F : touched && looks.hover ? 0.7F : 0.55F;
+}
+
+void drawArrow(QPainter& painter, const QRect& place, Qt::ArrowType arrow)
+{
+    constexpr qreal reach = 3; // logical pixels from the middle
+    QPolygonF triangle({{-reach, reach / 2}, {reach, reach / 2}, {0, -reach / 2}});
+    QTransform turn;
+    turn.rotate(arrow == Qt::UpArrow ? 0 : arrow == Qt::RightArrow ? 90 : arrow == Qt::DownArrow ? 180 : 270);
+    painter.drawPolygon(turn.map(triangle).translated(QRectF(place).center()));
+}
+
+/// A flat groove with a handle that stands out from it in every theme.
+void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QStyle& style, const QWidget* widget)
+{
+    const QColor ground = option.palette.color(QPalette::Window);
+    const QColor ink = option.palette.color(QPalette::WindowText);
+    const auto place = [&](QStyle::SubControl part) {
+        return style.subControlRect(QStyle::CC_ScrollBar, &option, part, widget);
+    };
+    painter.fillRect(option.rect, mixed(ground, ink, grooveShare));
+    const SmoothPainter smooth(painter);
+    painter.setPen(Qt::NoPen);
+    const bool moves = option.maximum > option.minimum;
+    painter.setBrush(mixed(ground, ink, moves ? 0.7F : 0.25F));
+    const bool across = option.orientation == Qt::Horizontal;
+    const bool mirrored = across && option.direction == Qt::RightToLeft;
+    const Qt::ArrowType back = !across ? Qt::UpArrow : mirrored ? Qt::RightArrow : Qt::LeftArrow;
+    const Qt::ArrowType forth = !across ? Qt::DownArrow : mirrored ? Qt::LeftArrow : Qt::RightArrow;
+    drawArrow(painter, place(QStyle::SC_ScrollBarSubLine), back);
+    drawArrow(painter, place(QStyle::SC_ScrollBarAddLine), forth);
+    if (!moves) return;
+    constexpr int air = 3; // on either side of the handle
+    const QRectF handle = QRectF(place(QStyle::SC_ScrollBarSlider))
+                              .adjusted(across ? 0 : air, across ? air : 0, across ? 0 : -air, across ? -air : 0);
+    painter.setBrush(mixed(ground, ink, handleShare(option)));
+    painter.drawRoundedRect(handle, rounding, rounding);
+}
+
+/// The drawing of a message box, nothing for other pictures.
+QIcon messageDrawing(QStyle::StandardPixmap picture)
+{
+    switch (picture) {
+    case QStyle::SP_MessageBoxInformation:
+        return drawing("message-information");
+    case QStyle::SP_MessageBoxWarning:
+        return drawing("message-warning");
+    case QStyle::SP_MessageBoxCritical:
+        return drawing("message-critical");
+    case QStyle::SP_MessageBoxQuestion:
+        return drawing("message-question");
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -167,6 +231,31 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        control == CC_ScrollBar && bar != nullptr) {
+        drawScrollBar(*bar, *painter, *this, widget);
+        return;
+    }
+    const auto* const button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+    const bool month = widget != nullptr && widget->objectName() == QLatin1String("qt_calendar_monthbutton");
+    if (control != CC_ToolButton || button == nullptr || !month) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QStyleOptionToolButton plain = *button; // there is no room for the arrow of its menu: it would lie on the name
+    plain.features &= ~QStyleOptionToolButton::HasMenu;
+    QProxyStyle::drawComplexControl(control, &plain, painter, widget);
+}
+
+QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
+{
+    const QIcon own = messageDrawing(picture);
+    return own.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : own;
+}
+
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -179,6 +268,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_ButtonIconSize:
     case PM_ListViewIconSize:
         return 16;
+    case PM_MessageBoxIconSize:
+        return 32;
     case PM_ScrollBarExtent:
         return 13;
     case PM_IndicatorWidth:

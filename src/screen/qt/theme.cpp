@@ -53,6 +53,7 @@ QPalette paletteOf(const Tones& tones)
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, tones.dim);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.mid);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, inkOn(tones.mid));
     return palette;
 }
 
@@ -93,14 +94,11 @@ QPalette schemePalette(Scheme scheme)
                       0xFF2B6CB0, 0xFF8A94A0});
 }
 
-// A palette of high contrast has nothing but black and white; others stay a little below.
 Scheme schemeOf(const QPalette& desktop)
 {
-    constexpr double stark = 20;
     const QColor window = desktop.color(QPalette::Window);
     const bool dark = window.lightness() < 128;
-    if (contrast(window, desktop.color(QPalette::WindowText)) >= stark)
-        return dark ? Scheme::whiteOnBlack : Scheme::blackOnWhite;
+    if (isStark(desktop)) return dark ? Scheme::whiteOnBlack : Scheme::blackOnWhite;
     return dark ? Scheme::dark : Scheme::light;
 }
 

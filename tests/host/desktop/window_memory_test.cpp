@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QMenu>
+#include <QScreen>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -142,6 +143,23 @@ TEST_F(ViewMenuTest, gives_the_columns_their_design_again)
     QMenu* const menu = window.menuBar()->findChild<QMenu*>("menuVer");
     menu->actions().back()->trigger();
     EXPECT_EQ(window.control->columnLayouts(), designed);
+}
+
+TEST_F(WindowMemoryTest, a_first_window_is_as_designed_where_it_fits_and_else_fills_the_screen)
+{
+    const QSize room = QApplication::primaryScreen()->availableGeometry().size();
+    QWidget small;
+    takeFirstPlace(small, {640, 480});
+    EXPECT_EQ(small.size(), QSize(640, 480));
+    EXPECT_FALSE(small.isMaximized());
+    QWidget wide;
+    takeFirstPlace(wide, {room.width() + 1, 480});
+    EXPECT_EQ(wide.size(), QSize(room.width(), 480));
+    EXPECT_TRUE(wide.isMaximized());
+    QWidget high;
+    takeFirstPlace(high, {640, room.height() + 1});
+    EXPECT_EQ(high.size(), QSize(640, room.height()));
+    EXPECT_TRUE(high.isMaximized());
 }
 
 } // namespace

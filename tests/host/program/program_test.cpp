@@ -55,10 +55,12 @@ protected:
         return execute("python3 '" DN_AT_A_DISPLAY "' '" DN_PROGRAM "' " + arguments + " -- " + steps);
     }
 
-    /// Runs it with a screen reader, which presses these tabs one after the other.
-    Outcome heard(const std::string& arguments, const std::string& tabs) const
+    /// Runs it, or another program, with a screen reader, which goes through these tabs and windows.
+    Outcome heard(const std::string& arguments, const std::string& steps,
+                  const std::string& program = DN_PROGRAM) const
     {
-        return execute("dbus-run-session -- '" DN_SCREEN_READER "' '" DN_PROGRAM "' " + arguments + " -- " + tabs);
+        return execute("dbus-run-session -- '" DN_SCREEN_READER "' '" + program + "' " + arguments + " -- " +
+                       steps);
     }
 
     /// Puts a program of that name ahead of all others, which writes its argument into a file. @return the file.
@@ -189,8 +191,22 @@ TEST_F(Program, hands_the_number_of_a_call_to_the_desktop_where_it_was_asked_to)
 TEST_F(Program, has_a_name_for_everything_that_a_screen_reader_meets)
 {
     const Outcome outcome =
-        heard("--demo-rows 50 --agent 1 --user prueba", "Prospectos Proyectos Hoy Organizaciones Contactos");
+        heard("--demo-rows 50 --agent 1 --user prueba",
+              "Prospectos=Prospectos:Nuevo,Asignar,Corregir,Nota,Correo "
+              "'Proyectos=Proyectos:Nuevo proyecto,Editar,Buscar' "
+              "'Hoy=Trabajo del día:Editar,Historial de correos' "
+              "'Organizaciones=Organizaciones:Nuevo,Ver relaciones' Contactos=Contactos:Editar");
     EXPECT_EQ(outcome.status, 0) << outcome.said;
+}
+
+TEST_F(Program, the_screen_reader_of_these_tests_misses_a_name_and_a_key)
+{
+    const Outcome outcome = heard("", "Prospectos=Prospectos", DN_NAMELESS);
+    EXPECT_EQ(outcome.status, 1) << outcome.said;
+    EXPECT_THAT(outcome.said, HasSubstr("no name: Prospectos: text in Sin nombres"));
+    EXPECT_THAT(outcome.said, HasSubstr("no name: Prospectos: push button in Sin nombres"));
+    EXPECT_THAT(outcome.said, HasSubstr("not reached by the keyboard: Prospectos: check box in Sin nombres"));
+    EXPECT_THAT(outcome.said, HasSubstr("never met: "));
 }
 
 TEST_F(Program, offers_sample_data_at_its_first_start_and_remembers_it)

@@ -3,11 +3,13 @@
 # SPDX-License-Identifier: Apache-2.0
 """Meets a program as a screen reader does: over the accessibility bus, on a display of its own.
 
-    dbus-run-session -- screen_reader.py PROGRAM [ARGUMENT...] -- TAB...
+    dbus-run-session -- screen_reader.py PROGRAM [ARGUMENT...] -- TAB=TABLE[:BUTTON,...]...
 
-Waits for the program's window, presses each tab by its name through the bus, and walks the window. Prints each
-control without a name, or that the keyboard does not reach, and fails when there is one; fails as well when the walk
-met fewer kinds of controls than a window of this program has. It runs on the system's own Python, which has the bus.
+Waits for the program's window, presses each tab by its name through the bus, waits until the table of that name
+shows, and walks the window; then presses each of the buttons, walks the window that comes, and leaves it by its
+button "Cancelar" or "Cerrar". Prints each control without a name, or that the keyboard does not reach, and fails when
+there is one; fails as well when a tab has no such table, a button no window, or the walk met fewer kinds of controls
+than a window of this program has. It runs on the system's own Python, which has the bus.
 """
 import os
 import re
@@ -28,6 +30,7 @@ NAMED = {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.CHECK_BOX, ROLE.RADIO_BUTTON
          ROLE.PASSWORD_TEXT, ROLE.COMBO_BOX, ROLE.LIST, ROLE.TABLE, ROLE.TREE_TABLE, ROLE.PAGE_TAB, ROLE.SPIN_BUTTON,
          ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
 NO_FOCUS = {ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
+MOUSE_ONLY = {"Borrar lo escrito"}  # what the keys of the line beside it do as well
 PROGRAMMERS = re.compile(r"(cb|chk|cmd|lbl|lvw|pic|txt)[A-Z]?\w*")  # names that say nothing to an operator
 EXPECTED = {ROLE.PUSH_BUTTON, ROLE.TEXT, ROLE.COMBO_BOX, ROLE.TABLE, ROLE.FRAME, ROLE.MENU_ITEM}
 
@@ -56,20 +59,28 @@ def shows(node):
 
 
 def walk(node, inside=()):
-    """Each node that shows, with those around it; the cells of a table are data, the list of a combo box its own."""
+    """Each node that shows, with those around it; the cells of a table are data, the parts of a field its own."""
     yield node, inside
-    if node.get_role() in (ROLE.TABLE, ROLE.TREE_TABLE, ROLE.COMBO_BOX):
+    if node.get_role() in (ROLE.TABLE, ROLE.TREE_TABLE, ROLE.TREE, ROLE.LIST, ROLE.COMBO_BOX, ROLE.SPIN_BUTTON):
         return
     for child in children(node):
         if shows(child):
             yield from walk(child, inside + (node,))
 
 
-def window_of(pid):
+def windows_of(pid):
     for application in children(Atspi.get_desktop(0)):
         if application.get_process_id() == pid:
-            return next((one for one in children(application) if one.get_role() == ROLE.FRAME), None)
-    return None
+            return [one for one in children(application) if one.get_state_set().contains(Atspi.StateType.SHOWING)]
+    return []
+
+
+def window_of(pid):
+    return next((one for one in windows_of(pid) if one.get_role() == ROLE.FRAME), None)
+
+
+def dialog_of(pid):
+    return next((one for one in windows_of(pid) if one.get_role() in (ROLE.DIALOG, ROLE.ALERT)), None)
 
 
 def examine(window, place, met):
@@ -82,15 +93,38 @@ def examine(window, place, met):
         told = f"{place}: {node.get_role_name()} in {' / '.join(one.get_name() or one.get_role_name() for one in inside)}"
         if not node.get_name().strip() or PROGRAMMERS.fullmatch(node.get_name()):
             faults.append(f"no name: {told}")
-        elif role not in NO_FOCUS and not node.get_state_set().contains(Atspi.StateType.FOCUSABLE):
+        elif not (role in NO_FOCUS or node.get_name() in MOUSE_ONLY or
+                  node.get_state_set().contains(Atspi.StateType.FOCUSABLE)):
             faults.append(f"not reached by the keyboard: {told}: {node.get_name()}")
     return faults
 
 
-def press(window, name):
-    found = wait(name, lambda: next((node for node, _ in walk(window) if node.get_name() == name), None))
+def find(window, names, roles):
+    return next((node for node, _ in walk(window) if node.get_name() in names and node.get_role() in roles), None)
+
+
+def press(window, *names):
+    """Presses whichever of the buttons there is. The press itself comes a moment later."""
+    buttons = (ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.PAGE_TAB)
+    found = wait(" or ".join(names), lambda: find(window, names, buttons))
     if not found.do_action(0):
-        raise RuntimeError("cannot be pressed: " + name)
+        raise RuntimeError("cannot be pressed: " + found.get_name())
+
+
+def visit(program, window, step, met):
+    """Opens a tab, then each of the windows that its buttons open. Gives what is wrong in them."""
+    tab, _, rest = step.partition("=")
+    table, _, buttons = rest.partition(":")
+    press(window, tab)
+    wait(f"the table {table} of {tab}", lambda: find(window, [table], (ROLE.TABLE, ROLE.TREE_TABLE)))
+    faults = examine(window, tab, met)
+    for button in buttons.split(",") if buttons else []:
+        press(window, button)
+        dialog = wait(f"the window of {button} of {tab}", lambda: dialog_of(program.pid))
+        faults += examine(dialog, f"{tab}, {button}", met)
+        press(dialog, "Cancelar", "Cerrar")
+        wait(f"the end of the window of {button}", lambda: not dialog_of(program.pid))
+    return faults
 
 
 def end(process):
@@ -106,7 +140,7 @@ def end(process):
 
 def main():
     parting = sys.argv.index("--", 1)
-    command, tabs = sys.argv[1:parting], sys.argv[parting + 1:]
+    command, steps = sys.argv[1:parting], sys.argv[parting + 1:]
     read, write = os.pipe()
     started = [subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x800x24", "-nolisten", "tcp",
                                  "-noreset"],
@@ -121,9 +155,8 @@ def main():
         started.append(program)
         window = wait("the window", lambda: window_of(program.pid))
         faults, met = [], set()
-        for tab in tabs:
-            press(window, tab)
-            faults += wait(tab, lambda place=tab: (examine(window, place, met),))[0]
+        for step in steps:
+            faults += visit(program, window, step, met)
         missing = EXPECTED - met
         if missing:
             faults.append("never met: " + ", ".join(role.value_nick for role in missing))

@@ -3,16 +3,25 @@
 
 // What the program's own window adds to the control, and how both look together.
 
+#include "desk/elements.h"
 #include "desk/tab_strip.h"
+#include "host/desktop/view_menu.h"
 #include "host/main_window.h"
+#include "shell/ctr_dn_contacts.h"
 #include "tests/approved/approval.h"
 #include "tests/host/screens/fixture.h"
 #include "tests/support/maria_server.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
+
+#include <utility>
 
 namespace dn::host::tests {
 namespace {
@@ -72,12 +81,72 @@ protected:
 
 TEST_F(ProgramWindow, looks_as_approved)
 {
+    const QTemporaryDir folder;
+    WindowMemory memory(window, window.widget(), folder.filePath("ventana.ini"));
+    addViewMenu(*window.menuBar(), memory, folder.filePath("ventana.ini"), "claro", QApplication::palette());
     window.resize(1000, 480);
     window.show();
     window.start(desk::contactos);
     QApplication::processEvents();
     QApplication::processEvents(); // the lists publish their rows once a turn
     dn::tests::looksAsApproved(window, "VentanaPrincipal");
+    const QList<QAction*> menus = window.menuBar()->actions();
+    ASSERT_EQ(menus.size(), 3);
+    for (const auto& [index, name] :
+         {std::pair(0, "menu-Archivo"), std::pair(1, "menu-Ver"), std::pair(2, "menu-Ayuda")}) {
+        QMenu& menu = *menus.at(index)->menu();
+        menu.popup(window.mapToGlobal(QPoint(0, 20)));
+        dn::tests::looksAsApproved(menu, name);
+        menu.close();
+    }
+    QMenu& themes = *menus.at(1)->menu()->actions().constFirst()->menu();
+    themes.popup(window.mapToGlobal(QPoint(0, 20)));
+    dn::tests::looksAsApproved(themes, "menu-Tema");
+    themes.close();
+}
+
+TEST_F(ProgramWindow, tells_about_itself_and_its_database)
+{
+    open();
+    operatorAt.expect("AcercaDe", [](QWidget& shown) {
+        auto& box = dynamic_cast<QMessageBox&>(shown);
+        EXPECT_THAT(box.text().toStdString(), testing::HasSubstr("Base de datos: "));
+        EXPECT_THAT(box.text().toStdString(), testing::HasSubstr("pantallas"));
+        box.setText("DN Contactos 0.1.0\n\nBase de datos: MariaDB, ventas en db.example.com");
+        dn::tests::looksAsApproved(box, "AcercaDe");
+        dn::tests::pressButton(box, "Aceptar");
+    });
+    window.menuBar()->actions().constLast()->menu()->actions().constLast()->trigger();
+}
+
+TEST_F(ProgramWindow, opens_its_manual_once_and_brings_it_back_to_the_front)
+{
+    open();
+    const auto manuals = [this] { return window.findChildren<QWidget*>("Manual"); };
+    key(Qt::Key_F1);
+    ASSERT_EQ(manuals().size(), 1);
+    QWidget* const manual = manuals().constFirst();
+    EXPECT_EQ(manual->findChild<QTextBrowser*>("Paginas")->source().fileName().toStdString(), "manual.md");
+    EXPECT_FALSE(manual->isModal());
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    key(Qt::Key_F1);
+    EXPECT_EQ(manuals().size(), 1);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(manual));
+    QTest::keyClick(manual->findChild<QTextBrowser*>("Paginas"), Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return manuals().isEmpty(); }));
+}
+
+TEST_F(ProgramWindow, shows_the_hourglass_while_it_reads_anew)
+{
+    open();
+    window.control().openTab(desk::hoy);
+    bool shown = false;
+    const auto watching = window.control().elements().today.lvwHoy.cleared.connect(
+        [&] { shown = QApplication::overrideCursor() != nullptr; });
+    key(Qt::Key_F5);
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(ProgramWindow, names_the_export_in_its_menu)

@@ -32,6 +32,8 @@ struct Line {
 };
 
 extern QWidget* window;
+extern dn::screen::qt::CtrDnContactsWidget* contacts;
+dn::screen::qt::ColumnLayouts readLayouts();
 extern dn::HostFactory& factory;
 extern dn::data::Connection& connection;
 extern dn::ctrDnContacts& control;

@@ -42,6 +42,9 @@ bool isPartOfField(const QObject* object)
     return object != nullptr && object->objectName().startsWith(QLatin1String("qt_"));
 }
 
+/// A name of the code, "txtNombre", and no word that an operator reads, "Nombre".
+bool isCode(const QString& name) { return !name.isEmpty() && name.front().isLower(); }
+
 std::string describe(const QAccessibleInterface& part)
 {
     const QObject* const object = part.object();
@@ -77,7 +80,8 @@ std::vector<std::string> unnamed(QWidget& window)
     std::vector<std::string> found;
     walk(*QAccessible::queryAccessibleInterface(&window), [&](const QAccessibleInterface& part) {
         const QString name = part.text(QAccessible::Name).trimmed();
-        const bool named = !name.isEmpty() && (part.object() == nullptr || name != part.object()->objectName());
+        const bool programmers = part.object() != nullptr && name == part.object()->objectName() && isCode(name);
+        const bool named = !name.isEmpty() && !programmers;
         if (isWorkedWith(part) && !named && !isPartOfField(part.object())) found.push_back(describe(part));
     });
     return found;
@@ -87,13 +91,15 @@ std::vector<std::string> cutOff(QWidget& window)
 {
     std::vector<std::string> found;
     for (const QWidget* child : window.findChildren<QWidget*>()) {
-        if (child->objectName().startsWith(QLatin1String("qt_")) || !child->isVisibleTo(&window)) continue;
+        if (child->objectName().startsWith(QLatin1String("qt_")) || !child->isVisible()) continue;
+        const int shown = child->visibleRegion().boundingRect().width();
+        if (shown == 0) continue; // behind a panel, or beyond the edge of the window
         int needed = 0;
         if (const auto* const label = qobject_cast<const QLabel*>(child); label != nullptr && !label->wordWrap())
             needed = label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
         if (const auto* const button = qobject_cast<const QAbstractButton*>(child); button != nullptr)
             needed = neededBy(*button);
-        if (needed > child->width()) found.push_back(child->objectName().toStdString());
+        if (needed > shown) found.push_back(child->objectName().toStdString());
     }
     return found;
 }

@@ -6,6 +6,7 @@
 #include "tests/screen/qt/accessible_tree.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -43,6 +44,26 @@ TEST(AccessibleTree, finds_what_has_no_name_and_what_no_key_leads_to)
     button.setFocusPolicy(Qt::StrongFocus);
     EXPECT_THAT(unnamed(window), IsEmpty());
     EXPECT_THAT(unreached(window), IsEmpty());
+}
+
+TEST(AccessibleTree, finds_the_texts_that_are_cut_off_by_their_width_or_by_an_edge)
+{
+    QWidget window;
+    window.resize(300, 100);
+    const auto label = [&window](const char* name, const QRect& place) {
+        auto* const made = new QLabel("Un texto que necesita su lugar", &window);
+        made->setObjectName(name);
+        made->setGeometry(place);
+        return made;
+    };
+    label("whole", {0, 0, 280, 20});
+    label("narrow", {0, 20, 60, 20});
+    label("beyondTheEdge", {240, 40, 280, 20});
+    label("outside", {400, 60, 280, 20});
+    label("hidden", {0, 80, 10, 20})->hide();
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_THAT(cutOff(window), ElementsAre("narrow", "beyondTheEdge"));
 }
 
 } // namespace

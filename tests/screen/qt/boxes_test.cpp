@@ -159,6 +159,20 @@ TEST_F(PortsTest, the_hourglass_is_an_override_cursor_that_goes_as_often_as_it_c
     EXPECT_EQ(QApplication::overrideCursor(), nullptr); // a control that ends in the middle of its work
 }
 
+TEST_F(PortsTest, the_pointer_rests_while_a_box_waits_for_its_answer)
+{
+    Pointer& pointer = ports.ports().pointer;
+    pointer.MousePointer(Pointer::hourglass);
+    driver.expect("MsgBox", [](QWidget& box) {
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        pressButton(box, "Aceptar");
+    });
+    dialogs.MsgBox({.prompt = "Falló."});
+    EXPECT_NE(QApplication::overrideCursor(), nullptr) << "it is not the box that ends the hourglass";
+    pointer.MousePointer(Pointer::standard);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(PortsTest, the_clock_gives_the_machines_time_in_whole_seconds)
 {
     const QDateTime before = QDateTime::currentDateTime();

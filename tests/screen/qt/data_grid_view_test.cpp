@@ -356,5 +356,12 @@ TEST_F(DataGridViewTest, for_reading_alone_opens_no_cell_and_still_copies)
     EXPECT_EQ(copied(), "b") << "typed letters lead to a row";
 }
 
+TEST_F(DataGridViewTest, the_numbers_of_the_rows_have_room)
+{
+    open();
+    const QHeaderView& numbers = *table().verticalHeader();
+    EXPECT_GE(numbers.width(), numbers.fontMetrics().horizontalAdvance("999") + 8);
+}
+
 } // namespace
 } // namespace dn::tests

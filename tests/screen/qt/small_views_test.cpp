@@ -10,6 +10,7 @@
 #include "screen/qt/icons.h"
 #include "screen/qt/small_views.h"
 #include "screen/qt/text.h"
+#include "screen/qt/theme.h"
 #include "screen/text_box.h"
 #include "screen/timer.h"
 #include "tests/screen/qt/stage.h"
@@ -17,13 +18,18 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QEventLoop>
+#include <QLabel>
+#include <QPainter>
 #include <QProgressBar>
+#include <QStyleOptionToolButton>
 #include <QTimeEdit>
+#include <QToolButton>
 
 namespace dn::tests {
 namespace {
 
 using namespace dn::screen;
+using dn::screen::qt::dress;
 
 class SmallViewsTest : public StageTest {
 protected:
@@ -241,6 +247,71 @@ TEST_F(SmallViewsTest, accelerators_are_taken_out_where_no_widget_knows_them)
     EXPECT_EQ(qt::withoutMnemonic("Uno && dos"), QStringLiteral("Uno & dos"));
     EXPECT_EQ(qt::withoutMnemonic("&&&x"), QStringLiteral("&x"));
     EXPECT_EQ(qt::withoutMnemonic(""), QString());
+}
+
+TEST_F(SmallViewsTest, a_label_of_the_size_of_its_text_keeps_to_the_room_of_its_panel)
+{
+    PicturePanel strip(&root, "strip");
+    Label counter(&strip, "counter");
+    const std::string text = "Hoy: 150 actividades | Proyectos: 38 Contactos: 135";
+    place(strip, 0, 0, 400, 21);
+    place(counter, 20, 1, 3, 13);
+    counter.AutoSize(true);
+    counter.Caption(text);
+    counter.ToolTipText("");
+    show();
+    auto& label = widget<QLabel>("counter");
+    const int whole = label.width();
+    ASSERT_LT(whole, 380);
+    EXPECT_EQ(label.font().stretch(), QFont::Unstretched);
+    place(strip, 0, 0, 20 + whole * 85 / 100, 21);
+    EXPECT_LE(label.x() + label.width(), strip.Width() / 15) << "set narrower";
+    EXPECT_LT(label.font().stretch(), 90);
+    EXPECT_EQ(label.text().toStdString(), text);
+    EXPECT_EQ(label.toolTip(), "");
+    place(strip, 0, 0, 20 + whole / 2, 21);
+    EXPECT_EQ(label.toolTip().toStdString(), text) << "no room for what can still be read";
+    place(strip, 0, 0, 400, 21);
+    EXPECT_EQ(label.width(), whole);
+    EXPECT_EQ(label.font().stretch(), QFont::Unstretched);
+    EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(SmallViewsTest, the_hourglass_shows_while_a_click_on_a_tab_works)
+{
+    Label tab(&root, "lblItem(0)");
+    place(tab, 0, 0, 100, 21);
+    tab.handPointer(true);
+    bool shown = false;
+    const auto works = tab.Click.connect([&] { shown = QApplication::overrideCursor() != nullptr; });
+    show();
+    QTest::mouseClick(&widget<QWidget>("lblItem(0)"), Qt::LeftButton);
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SmallViewsTest, the_name_of_a_month_has_no_arrow_on_it)
+{
+    MonthView month(&root, "month");
+    place(month, 0, 0, 250, 200);
+    show();
+    dress(*view);
+    const auto* const name = view->findChild<QToolButton*>("qt_calendar_monthbutton");
+    ASSERT_NE(name, nullptr);
+    QStyleOptionToolButton option;
+    option.initFrom(name);
+    option.rect = {0, 0, 60, 20};
+    option.text = "marzo";
+    option.subControls = QStyle::SC_ToolButton;
+    const auto drawn = [&](bool menu) {
+        option.features = menu ? QStyleOptionToolButton::HasMenu : QStyleOptionToolButton::None;
+        QImage image(60, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        name->style()->drawComplexControl(QStyle::CC_ToolButton, &option, &painter, name);
+        return image;
+    };
+    EXPECT_EQ(drawn(true), drawn(false));
 }
 
 } // namespace

@@ -6,10 +6,13 @@
 #include "screen/label.h"
 #include "screen/qt/colours.h"
 #include "screen/qt/list_cell_painter.h"
+#include "screen/qt/style.h"
 #include "screen/qt/theme.h"
 #include "tests/screen/qt/list_view_fixture.h"
 
 #include <QApplication>
+#include <QPainter>
+#include <QStyleOptionSlider>
 
 #include <array>
 #include <cmath>
@@ -20,6 +23,9 @@ namespace {
 using namespace dn::screen::qt;
 
 constexpr double legibleEnough = 4.5; // of WCAG 2, for texts of this size
+constexpr double visibleEnough = 3;   // for what is worked with, and for texts of what is disabled
+
+bool isStarkScheme(Scheme scheme) { return scheme == Scheme::whiteOnBlack || scheme == Scheme::blackOnWhite; }
 
 constexpr std::array stateColours{0x0000FFU, 0x004000U, 0xFF0000U, 0x800080U, 0xFF8080U}; // blue in the high byte
 
@@ -44,7 +50,7 @@ protected:
 TEST_P(ThemeTest, texts_stand_out_from_what_they_stand_on)
 {
     const QPalette palette = schemePalette(GetParam());
-    const bool stark = GetParam() == Scheme::whiteOnBlack || GetParam() == Scheme::blackOnWhite;
+    const bool stark = isStarkScheme(GetParam());
     using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
     for (const auto& [ink, paper] :
          {Pair{QPalette::WindowText, QPalette::Window}, Pair{QPalette::Text, QPalette::Base},
@@ -54,7 +60,12 @@ TEST_P(ThemeTest, texts_stand_out_from_what_they_stand_on)
         EXPECT_GE(contrast(palette.color(ink), palette.color(paper)), stark ? 7 : legibleEnough)
             << ink << " on " << paper;
     EXPECT_GE(contrast(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), legibleEnough);
-    EXPECT_GE(contrast(palette.color(QPalette::Highlight), palette.color(QPalette::Window)), 3) << "the focus";
+    EXPECT_GE(contrast(palette.color(QPalette::Highlight), palette.color(QPalette::Window)), visibleEnough)
+        << "the focus";
+    EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::HighlightedText),
+                       palette.color(QPalette::Disabled, QPalette::Highlight)),
+              legibleEnough)
+        << "the row of a call, while its list is disabled";
 }
 
 TEST_P(ThemeTest, the_colours_of_the_lists_can_be_read_and_told_apart)
@@ -66,6 +77,7 @@ TEST_P(ThemeTest, the_colours_of_the_lists_can_be_read_and_told_apart)
     }
     show();
     const auto& painter = dynamic_cast<const ListCellPainter&>(*table().itemDelegate());
+    const double least = isStarkScheme(GetParam()) ? 7 : legibleEnough;
     std::vector<QColor> inks;
     for (int row = 0; row < 10; ++row) {
         QStyleOptionViewItem option;
@@ -76,19 +88,75 @@ TEST_P(ThemeTest, the_colours_of_the_lists_can_be_read_and_told_apart)
         painter.describe(option, model().index(row, 0));
         const QColor paper = option.palette.color(second ? QPalette::AlternateBase : QPalette::Base);
         const QColor ink = option.palette.color(QPalette::Text);
-        EXPECT_GE(contrast(ink, paper), legibleEnough) << "row " << row;
+        EXPECT_GE(contrast(ink, paper), least) << "row " << row;
         EXPECT_GE(
             contrast(option.palette.color(QPalette::HighlightedText), option.palette.color(QPalette::Highlight)),
-            legibleEnough)
+            least)
             << "row " << row;
         const QColor given = fromColour(stateColours.at(static_cast<std::size_t>(row / 2)));
         EXPECT_NEAR(ink.hslHueF(), given.hslHueF(), 0.02) << "row " << row << ": it stays the colour that it was";
         if (!second) inks.push_back(ink);
+        option.state &= ~QStyle::State_Enabled;
+        painter.describe(option, model().index(row, 0));
+        EXPECT_GE(contrast(option.palette.color(QPalette::Text), paper), visibleEnough)
+            << "row " << row << ", disabled";
     }
     for (std::size_t one = 0; one < inks.size(); ++one)
         for (std::size_t other = 0; other < one; ++other)
             EXPECT_NE(inks[one], inks[other]);
     EXPECT_EQ(list.ListItems()("K2").ForeColor(), 0x004000U) << "the element keeps what it was given";
+}
+
+TEST_P(ThemeTest, a_drawing_on_the_selected_row_stands_on_paper)
+{
+    list.SmallIcons(&images);
+    addRows(0, 1);
+    list.ListItems()("K0").SmallIcon(2);
+    show();
+    const auto& painter = dynamic_cast<const ListCellPainter&>(*table().itemDelegate());
+    QStyleOptionViewItem option;
+    option.palette = table().palette();
+    option.decorationSize = {16, 16};
+    const auto corner = [&](QStyle::State state) {
+        option.state = state | QStyle::State_Enabled | QStyle::State_Active;
+        painter.describe(option, model().index(0, 0));
+        return option.icon.pixmap(QSize(16, 16), 1).toImage().pixelColor(2, 13);
+    };
+    EXPECT_EQ(corner(QStyle::State_Selected), option.palette.color(QPalette::Base));
+    EXPECT_EQ(corner({}).alpha(), 0);
+}
+
+TEST_P(ThemeTest, the_handle_of_a_scroll_bar_stands_out_from_its_groove)
+{
+    const Style style;
+    QStyleOptionSlider option;
+    option.palette = schemePalette(GetParam());
+    option.orientation = Qt::Vertical;
+    option.rect = {0, 0, 13, 200};
+    option.maximum = 100;
+    option.pageStep = 50;
+    option.state = QStyle::State_Enabled;
+    QImage image(13, 200, QImage::Format_RGB32);
+    QPainter painter(&image);
+    style.drawComplexControl(QStyle::CC_ScrollBar, &option, &painter, nullptr);
+    painter.end();
+    const auto middle = [&](QStyle::SubControl part) {
+        return image.pixelColor(style.subControlRect(QStyle::CC_ScrollBar, &option, part, nullptr).center());
+    };
+    const QColor groove = middle(QStyle::SC_ScrollBarAddPage);
+    EXPECT_GE(contrast(middle(QStyle::SC_ScrollBarSlider), groove), visibleEnough);
+    EXPECT_GE(contrast(middle(QStyle::SC_ScrollBarAddLine), groove), visibleEnough) << "the arrow";
+}
+
+TEST(Style, has_drawings_of_its_own_for_boxes_and_the_toolkits_for_the_rest)
+{
+    const Style style;
+    for (const auto picture : {QStyle::SP_MessageBoxCritical, QStyle::SP_MessageBoxInformation,
+                               QStyle::SP_MessageBoxQuestion, QStyle::SP_MessageBoxWarning}) {
+        const QIcon icon = style.standardIcon(picture, nullptr, nullptr);
+        EXPECT_EQ(icon.pixmap(QSize(32, 32), 3).size(), QSize(96, 96)) << picture << ": sharp at every scale";
+    }
+    EXPECT_FALSE(style.standardIcon(QStyle::SP_DirIcon, nullptr, nullptr).isNull());
 }
 
 TEST_P(ThemeTest, a_white_strip_is_paper_and_a_coloured_one_stays_coloured)
