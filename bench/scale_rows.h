@@ -35,8 +35,8 @@ std::vector<Scale> scalesUpTo(std::size_t largest);
 /// and every project has a pending activity, each tenth of them three.
 void makeScaleRows(data::Connection& connection, const Scale& scale);
 
-/// Makes agents from `firstLoadAgent` on with 500 prospects, 40 projects, 200 persons and 100 organisations each, unless they are
-/// there. Nothing is changed in the rows of others.
+/// Makes agents from `firstLoadAgent` on with 500 prospects, 40 projects, 200 persons and 100 organisations each,
+/// unless they are there. Nothing is changed in the rows of others.
 void makeLoadRows(data::Connection& connection, std::size_t agents);
 
 } // namespace dn::bench

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int longestSubject = 250;
 constexpr int lookInterval = 50; // milliseconds
-constexpr int linesOfText = 6; // that stay in sight in the smallest window
+constexpr int linesOfText = 6;   // that stay in sight in the smallest window
 constexpr int widthInCharacters = 92;
 constexpr int heightInLines = 34;
 constexpr const char* nobody = "dncontacts@localhost"; // where no sender is set up, of a mail in the outbox

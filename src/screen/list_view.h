@@ -199,7 +199,7 @@ public:
     Signal<> growing; ///< in the middle of a load: behind the first screenful, then once in many rows
     /// Rows are gone, if there were any: nothing that was shown is there any more.
     Signal<> cleared;
-    Signal<> dirty;   ///< raised once, at the first change after `takeChanges`
+    Signal<> dirty; ///< raised once, at the first change after `takeChanges`
     Signal<> columnsChanged;
     Signal<std::size_t> revealed; ///< a position to scroll to
 
