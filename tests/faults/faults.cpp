@@ -41,7 +41,7 @@ void awaitEnd(const std::string& connection)
 }
 
 // The session holds a lock on another table, and so may use no table that it did not ask for.
-class Refused final : public Fault {
+class RefusedStatement final : public Fault {
 public:
     std::string name() const override { return "statement refused"; }
     std::vector<int> codes() const override { return {ER_TABLE_NOT_LOCKED}; }
@@ -413,7 +413,7 @@ std::string Fault::changed(const std::string& /*statement*/) const { return {}; 
 std::vector<std::unique_ptr<Fault>> allFaults()
 {
     std::vector<std::unique_ptr<Fault>> all;
-    all.push_back(std::make_unique<Refused>());
+    all.push_back(std::make_unique<RefusedStatement>());
     all.push_back(std::make_unique<Cut>());
     all.push_back(std::make_unique<Killed>());
     all.push_back(std::make_unique<Frozen>());
