@@ -57,6 +57,7 @@ QString testServers(const std::vector<std::string>& servers)
 {
     if (servers.size() == 1) return testConnection(servers.front());
     std::vector<std::future<QString>> tests;
+    tests.reserve(servers.size());
     for (const std::string& server : servers)
         tests.push_back(std::async(std::launch::async, [&server] { return testConnection(server); }));
     QStringList told;

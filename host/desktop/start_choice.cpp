@@ -89,7 +89,7 @@ std::vector<ServerAddress> serversIn(const QSettings& settings)
 QString problemOf(const OwnDatabase& database)
 {
     if (database.odbc) return problemOfOdbc(database.text);
-    if (const QString problem = problemOfServers(database.servers); !problem.isEmpty()) return problem;
+    if (QString problem = problemOfServers(database.servers); !problem.isEmpty()) return problem;
     if (database.name.trimmed().isEmpty()) return QStringLiteral("Escriba el nombre de la base de datos.");
     if (database.user.trimmed().isEmpty()) return QStringLiteral("Escriba el usuario con el que se entra.");
     return {};
