@@ -259,9 +259,7 @@ void benchCommands(BenchDatabase& database, const Scale& few, const Scale& many,
     }
     Desk desk(database, many.agent);
     const double large = benchChecks(desk, many, rounds, report);
-    report.bar("check of all rows: growth from " + readable(static_cast<double>(few.rows)) + " to " +
-                   readable(static_cast<double>(many.rows)) + " rows",
-               large / small, mostGrowth, "times");
+    report.growth("check of all rows", few.rows, many.rows, small, large, mostGrowth);
 }
 
 } // namespace dn::bench

@@ -58,10 +58,12 @@ void judgeLoad(const LoadResult& load, Report& report)
         std::vector<double> own;
         for (const Step& step : load.steps)
             if (static_cast<std::size_t>(step.action) == i) own.push_back(ownShare(step));
-        if (!own.empty())
-            report.bar(std::string("agents at once, ") + actionNames[i] +
-                           ": our own share beside the server's, p99",
-                       percentile(own, 0.99), 20, "ms");
+        const std::string what = std::string("agents at once, ") + actionNames[i] + " (" +
+                                 std::to_string(own.size()) + "): our own share beside the server's, p99";
+        if (own.empty())
+            report.notMeasured(what);
+        else
+            report.bar(what, percentile(own, 0.99), 20, "ms");
     }
     for (const std::string& wrong : load.wrong)
         report.wrong("agents at once", wrong);
@@ -73,9 +75,10 @@ std::string figuresOf(const Results& results, const std::string& picture)
            "\n### Lists to the first painted frame\n\n![Time over rows](" + picture +
            ")\n\nMilliseconds of client CPU where nothing else is said, medians.\n\n" +
            listsAsMarkdown(results.lists) +
-           "\n### Who takes the time\n\nMilliseconds of CPU of one load: the server, our driver reading every "
-           "cell, and "
-           "the rest of ours up to the frame; then the first row, by the clock.\n\n" +
+           "\n### By the clock\n\nMilliseconds, of the round whose CPU is the median.\n\n" +
+           wallAsMarkdown(results.lists) +
+           "\n### Who takes the time\n\nMilliseconds of CPU of one load: the server, in steps of 10, our driver "
+           "reading every cell, and the rest of ours up to the frame.\n\n" +
            sharesAsMarkdown(results.lists) + load(results) + "\n### Other figures\n\n" +
            results.report.figuresAsMarkdown();
 }

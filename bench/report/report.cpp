@@ -51,11 +51,22 @@ void Report::figure(const std::string& what, double value, const std::string& un
 void Report::bar(const std::string& what, double value, double largest, const std::string& unit)
 {
     const bool kept = value <= largest;
-    const bool asFraction = unit == "times" && largest < 1 && value > 0;
+    const bool asFraction = unit == "times" && largest < 1 && value > 0 && value < 1;
     rows_.push_back({what, asFraction ? fraction(value) : written(value, unit),
-                     "at most " + (asFraction ? fraction(largest) : written(largest, unit)),
+                     "at most " + (unit == "times" && largest < 1 ? fraction(largest) : written(largest, unit)),
                      kept ? "kept" : "MISSED"});
     if (!kept) missed_.push_back(what);
+}
+
+void Report::growth(const std::string& of, std::size_t few, std::size_t many, double small, double large,
+                    double most)
+{
+    const std::string what = of + ": growth from " + readable(static_cast<double>(few)) + " to " +
+                             readable(static_cast<double>(many)) + " rows";
+    if (few == many)
+        notMeasured(what);
+    else
+        bar(what, large / small, most, "times");
 }
 
 void Report::notMeasured(const std::string& what)

@@ -4,6 +4,7 @@
 // The table of results, and the bars that they must keep.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ public:
     /// A figure with a bar: it must not be larger. Where the unit is "times" and the bar below 1, both are shown
     /// as fractions: "1/12.5".
     void bar(const std::string& what, double value, double largest, const std::string& unit);
+    /// A bar on what the larger number of rows costs above the smaller one. Equal numbers measure nothing.
+    void growth(const std::string& of, std::size_t few, std::size_t many, double small, double large, double most);
     /// A bar whose figure this run did not take: it counts as missed.
     void notMeasured(const std::string& what);
     /// A benchmark whose own answer was wrong; nothing that it measured counts.

@@ -101,8 +101,8 @@ private:
 
     void grow()
     {
-        const std::vector<Slot> old = std::move(slots_);
-        slots_.assign(old.empty() ? 16 : old.size() * 2, Slot()); // a power of two
+        std::vector<Slot> old(slots_.empty() ? 16 : slots_.size() * 2); // a power of two
+        old.swap(slots_);
         shift_ = 32U - static_cast<unsigned>(std::countr_zero(slots_.size()));
         for (const Slot& entry : old)
             if (entry.row != none) place(entry);

@@ -25,15 +25,17 @@ void ListRows::clear()
 ListRows::RowNumber ListRows::add(std::string_view key, std::string_view text, int smallIcon)
 {
     const auto row = static_cast<RowNumber>(rows_.size());
-    const auto keyOf = [this](RowNumber other) { return this->key(other); };
-    if (!key.empty() && !index_.insertNew(key, row, keyOf))
-        throw RuntimeError("La clave no es única en la colección");
     RowDraft& next = scratch(); // filled ahead of all else: key and text may lie in the row that closes now
     next.clear();
     next.key = key;
     next.add(text);
     next.smallIcon = iconNumber(smallIcon);
     close();
+    // All that may run out of memory comes ahead of the index, which must not name a row that is not there.
+    if (rows_.size() == rows_.capacity()) rows_.reserve(std::max<std::size_t>(16, 2 * rows_.size()));
+    const auto keyOf = [this](RowNumber other) { return this->key(other); };
+    if (!next.key.empty() && !index_.insertNew(next.key, row, keyOf))
+        throw RuntimeError("La clave no es única en la colección");
     rows_.emplace_back();
     openDraft_ = 1 - openDraft_;
     open_ = row;

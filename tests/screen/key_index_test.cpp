@@ -47,6 +47,17 @@ TEST_F(Keys, ten_thousand_are_found_each_at_its_row_and_no_other)
     }
 }
 
+TEST_F(Keys, that_are_there_are_not_added_again)
+{
+    for (int i = 0; i < 3000; ++i) {
+        keys.push_back("K" + std::to_string(i));
+        ASSERT_TRUE(index.insertNew(keys.back(), static_cast<KeyIndex::RowNumber>(i), keyOf()));
+        ASSERT_FALSE(index.insertNew(keys.back(), KeyIndex::RowNumber{7}, keyOf()));
+    }
+    for (int i = 0; i < 3000; ++i)
+        ASSERT_EQ(find("K" + std::to_string(i)), static_cast<KeyIndex::RowNumber>(i));
+}
+
 TEST_F(Keys, are_told_apart_by_case_and_length)
 {
     add("K1");
