@@ -4,6 +4,7 @@
 #include "tests/faults/galera/cluster.h"
 
 #include "host/database/database_choice.h"
+#include "host/database/schema.h"
 
 #include <array>
 #include <csignal>
@@ -44,6 +45,16 @@ host::DatabaseOptions Cluster::servers(const std::string& account, const std::st
     for (std::size_t number = 1; number < size; ++number)
         options.further.push_back(node(number, account, database));
     return options;
+}
+
+void Cluster::makeVentas()
+{
+    ownerAt(0, "mysql")->execute("CREATE DATABASE ventas");
+    const auto connection = ownerAt(0, "ventas");
+    host::createSchema(*connection, host::Engine::mariadb);
+    connection->execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana')");
+    connection->execute("INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_Telefono, uf_IEjecutivo, uf_Fecha) VALUES "
+                        "(1, 'Luz', '961', 7, '2026-03-01')");
 }
 
 void Cluster::kill(std::size_t number)

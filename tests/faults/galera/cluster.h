@@ -27,6 +27,8 @@ public:
     static std::unique_ptr<data::Connection> ownerAt(std::size_t number, const std::string& database);
     /// All nodes as the servers of one database, in their order.
     static host::DatabaseOptions servers(const std::string& account, const std::string& database);
+    /// Makes the database "ventas" with its schema, the agent 7 "Ana" and her prospect 1 "Luz".
+    static void makeVentas();
     /// Without a warning to anybody.
     static void kill(std::size_t number);
 };

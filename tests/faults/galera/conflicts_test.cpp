@@ -6,7 +6,6 @@
 #include "data/activity_log.h"
 #include "data/error.h"
 #include "host/database/patience.h"
-#include "host/database/schema.h"
 #include "tests/faults/at_work.h"
 #include "tests/faults/galera/cluster.h"
 
@@ -31,16 +30,6 @@ std::unique_ptr<data::Connection> behindTheOthers(std::size_t node, const std::s
     auto connection = Cluster::ownerAt(node, database);
     connection->execute("SET wsrep_sync_wait = 7");
     return connection;
-}
-
-void makeVentas()
-{
-    Cluster::ownerAt(0, "mysql")->execute("CREATE DATABASE ventas");
-    const auto owner = Cluster::ownerAt(0, "ventas");
-    host::createSchema(*owner, host::Engine::mariadb);
-    owner->execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana')");
-    owner->execute("INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_Telefono, uf_IEjecutivo, uf_Fecha) VALUES "
-                   "(1, 'Luz', '961', 7, '2026-03-01')");
 }
 
 std::string colourAt(std::size_t node)
@@ -98,7 +87,7 @@ private:
 // A node tries a statement once more by itself (wsrep_retry_autocommit), which hides most of the conflicts.
 TEST(ConflictsOnACluster, come_as_a_deadlock_that_the_operator_reads_and_are_over_then)
 {
-    makeVentas();
+    Cluster::makeVentas();
     for (const std::size_t node : {0U, 1U, 2U})
         Cluster::ownerAt(node, "mysql")->execute("SET GLOBAL wsrep_retry_autocommit = 0");
     AtWork work(behindTheOthers(0, "ventas"));
@@ -174,7 +163,7 @@ private:
 
 TEST(WritesOnACluster, lose_nothing_acknowledged_when_their_node_dies_under_them)
 {
-    makeVentas();
+    Cluster::makeVentas();
     std::atomic<int> acknowledged = 0;
     std::vector<std::unique_ptr<Writer>> writers;
     for (const char name : {'a', 'b', 'c', 'd'})

@@ -28,14 +28,8 @@ std::vector<std::string> notesOn(std::size_t node)
 
 TEST(Galera, loses_nothing_acknowledged_when_a_node_dies_and_passes_over_one_that_was_left)
 {
-    Cluster::ownerAt(0, "mysql")->execute("CREATE DATABASE ventas");
-    host::DatabaseOptions options = Cluster::servers(Cluster::owner, "ventas");
-    options.createSchema = true;
-    host::Database database = host::openDatabase(options);
-    database.connection().execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana')");
-    database.connection().execute(
-        "INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_Telefono, uf_IEjecutivo, uf_Fecha) "
-        "VALUES (1, 'Luz', '961', 7, '2026-03-01')");
+    Cluster::makeVentas();
+    host::Database database = host::openDatabase(Cluster::servers(Cluster::owner, "ventas"));
 
     AtWork work(std::make_unique<Lent>(database.connection()));
     const auto begins = [&] {

@@ -28,14 +28,8 @@ std::string noteAt(std::size_t node)
 
 TEST(TheWindowOnACluster, finds_the_next_node_and_the_operator_types_on)
 {
-    Cluster::ownerAt(0, "mysql")->execute("CREATE DATABASE ventas");
-    host::DatabaseOptions options = Cluster::servers(Cluster::owner, "ventas");
-    options.createSchema = true;
-    host::Database database = host::openDatabase(options);
-    database.connection().execute("INSERT INTO Agente (Sys_PK, Nombre) VALUES (7, 'Ana')");
-    database.connection().execute(
-        "INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_Telefono, uf_IEjecutivo, uf_Fecha) "
-        "VALUES (1, 'Luz', '961', 7, '2026-03-01')");
+    Cluster::makeVentas();
+    host::Database database = host::openDatabase(Cluster::servers(Cluster::owner, "ventas"));
     host::MainWindow window(database, host::Worker{7, false, "ana"});
     window.show();
     window.start(desk::prospectos);
