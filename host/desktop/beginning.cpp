@@ -17,13 +17,6 @@ std::vector<std::string> serversOf(const StartAnswer& answer)
     return connectTexts(answer.choice.database, answer.password);
 }
 
-/// With its password to be kept, unless the operator says otherwise.
-std::optional<StartAnswer> withoutPassword(const std::optional<StartChoice>& choice)
-{
-    if (!choice) return std::nullopt;
-    return StartAnswer{.choice = *choice, .password = {}, .keepPassword = true};
-}
-
 } // namespace
 
 Beginning::Beginning(QString file, Keyring& keyring, FirstStart::ConnectionTest test)
@@ -33,9 +26,9 @@ Beginning::Beginning(QString file, Keyring& keyring, FirstStart::ConnectionTest 
 
 bool Beginning::open(const Opener& opener)
 {
-    std::optional<StartAnswer> known = withoutPassword(readStartChoice(file_));
+    std::optional<StartAnswer> known = chosenBefore();
     std::optional<StartAnswer> answer;
-    if (known) answer = remembered(known->choice);
+    if (known) answer = completed(*known);
     QString problem;
     for (;;) {
         if (!answer) answer = ask(known, problem, nullptr);
@@ -49,13 +42,14 @@ bool Beginning::open(const Opener& opener)
         known = std::exchange(answer, std::nullopt);
     }
     answer->choice.createSchema = false; // it is done
+    answer->choice.withoutPassword = answer->choice.own && answer->password.empty();
     keep(*answer);
     return true;
 }
 
 bool Beginning::chooseAgain(QWidget* over)
 {
-    const std::optional<StartAnswer> answer = ask(withoutPassword(readStartChoice(file_)), {}, over);
+    const std::optional<StartAnswer> answer = ask(chosenBefore(), {}, over);
     if (answer) keep(*answer);
     return answer.has_value();
 }
@@ -63,37 +57,30 @@ bool Beginning::chooseAgain(QWidget* over)
 std::optional<StartAnswer> Beginning::ask(const std::optional<StartAnswer>& before, const QString& problem,
                                           QWidget* over)
 {
-    FirstStart window(test_, keyring_.answers(), over);
+    FirstStart window(test_, keyring_, over);
     if (before) window.fillWith(*before);
     if (!problem.isEmpty()) window.complain(problem);
     if (window.exec() != QDialog::Accepted) return std::nullopt;
-    StartAnswer answer = window.answer();
-    if (before) takeKeptPassword(answer, before->choice);
+    return window.answer();
+}
+
+/// With its password where the keyring has it, and then to be kept there.
+std::optional<StartAnswer> Beginning::chosenBefore()
+{
+    const std::optional<StartChoice> choice = readStartChoice(file_);
+    if (!choice) return std::nullopt;
+    StartAnswer answer{.choice = *choice, .password = {}, .keepPassword = false};
+    if (choice->own) answer.password = keptPassword(keyring_, accountOf(choice->database));
+    answer.keepPassword = !answer.password.empty();
     return answer;
 }
 
-// The field comes up empty, also where the keyring has a password for that account: then it is still the one.
-void Beginning::takeKeptPassword(StartAnswer& answer, const StartChoice& before)
+/// What was chosen before, with its password; nothing when that is not to be had, which brings up the window of
+/// the first start.
+std::optional<StartAnswer> Beginning::completed(StartAnswer answer)
 {
-    if (!answer.choice.own || !before.own || !answer.password.empty()) return;
+    if (!answer.choice.own || answer.choice.withoutPassword || !answer.password.empty()) return answer;
     const std::string account = accountOf(answer.choice.database);
-    if (account != accountOf(before.database)) return;
-    if (const auto kept = keyring_.find(account)) answer.password = *kept;
-}
-
-/// The choice with its password; nothing when that is not to be had, which brings up the window of the first
-/// start.
-std::optional<StartAnswer> Beginning::remembered(const StartChoice& choice)
-{
-    StartAnswer answer;
-    answer.choice = choice;
-    if (!choice.own) return answer;
-    const std::string account = accountOf(choice.database);
-    if (const auto password = keyring_.find(account)) {
-        answer.password = *password;
-        answer.keepPassword = true;
-        return answer;
-    }
     const auto typed = askPassword({.title = "Clave de la base de datos",
                                     .account = QString::fromStdString(account),
                                     .accepts = "&Entrar",
@@ -114,7 +101,7 @@ void Beginning::keep(const StartAnswer& answer)
     const std::string account = accountOf(answer.choice.database);
     if (!answer.keepPassword)
         keyring_.forget(account);
-    else if (keyring_.find(account) != answer.password)
+    else if (!answer.password.empty() && keptPassword(keyring_, account) != answer.password)
         keyring_.keep(account, answer.password);
 }
 

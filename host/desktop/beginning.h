@@ -36,8 +36,8 @@ public:
 private:
     std::optional<StartAnswer> ask(const std::optional<StartAnswer>& before, const QString& problem,
                                    QWidget* over);
-    void takeKeptPassword(StartAnswer& answer, const StartChoice& before);
-    std::optional<StartAnswer> remembered(const StartChoice& choice);
+    std::optional<StartAnswer> chosenBefore();
+    std::optional<StartAnswer> completed(StartAnswer answer);
     void keep(const StartAnswer& answer);
 
     QString file_;

@@ -37,11 +37,12 @@ QLabel* explanation(const QString& text, QWidget* parent)
 
 } // namespace
 
-FirstStart::FirstStart(ConnectionTest test, bool canKeep, QWidget* over) : QDialog(over), test_(std::move(test))
+FirstStart::FirstStart(ConnectionTest test, Keyring& keyring, QWidget* over)
+    : QDialog(over), test_(std::move(test)), keyring_(keyring)
 {
     setObjectName("PrimerInicio");
     setWindowTitle("Bienvenida");
-    build(canKeep);
+    build(keyring_.answers());
     for (auto* const choice : {sample_, own_})
         connect(choice, &QRadioButton::toggled, this, [this] { follow(); });
     connect(kind_, &QComboBox::currentIndexChanged, this, [this] { follow(); });
@@ -178,13 +179,20 @@ OwnDatabase FirstStart::database() const
     return database;
 }
 
+// The field comes up empty, also where the keyring has a password for that account: then it is still the one.
+std::string FirstStart::password() const
+{
+    const std::string typed = password_->text().toStdString();
+    return typed.empty() ? keptPassword(keyring_, accountOf(database())) : typed;
+}
+
 StartAnswer FirstStart::answer() const
 {
     StartAnswer answer;
     answer.choice.own = own_->isChecked();
     if (!answer.choice.own) return answer;
     answer.choice.database = database();
-    answer.password = password_->text().toStdString();
+    answer.password = password();
     answer.keepPassword = keep_->isEnabled() && keep_->isChecked();
     answer.choice.createSchema = create_->isChecked();
     return answer;
@@ -200,7 +208,7 @@ void FirstStart::tryOut()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     try {
-        say(test_(connectTexts(database(), password_->text().toStdString())), false);
+        say(test_(connectTexts(database(), password())), false);
     } catch (const std::exception& failure) {
         complain(QString::fromUtf8(failure.what()));
     }

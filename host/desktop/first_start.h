@@ -4,6 +4,7 @@
 // The window of the first start: sample data, or a database of the operator's own with its connection tried out.
 #pragma once
 
+#include "host/desktop/keyring.h"
 #include "host/desktop/start_choice.h"
 
 #include <QCheckBox>
@@ -35,8 +36,8 @@ public:
     /// Tells what the connection texts of a database's servers lead to; throws what is wrong with all of them.
     using ConnectionTest = std::function<QString(const std::vector<std::string>& servers)>;
 
-    /// @param canKeep whether there is a keyring for the password.
-    FirstStart(ConnectionTest test, bool canKeep, QWidget* over = nullptr);
+    /// @param keyring has the password of an account whose field stays empty. It outlives this.
+    FirstStart(ConnectionTest test, Keyring& keyring, QWidget* over = nullptr);
 
     /// Fills the window with what was chosen before, but for the password.
     void fillWith(const StartAnswer& before);
@@ -54,8 +55,10 @@ private:
     void tryOut();
     void say(const QString& text, bool isProblem);
     OwnDatabase database() const;
+    std::string password() const;
 
     ConnectionTest test_;
+    Keyring& keyring_;
     QRadioButton* sample_ = new QRadioButton("&Probar con datos de ejemplo", this);
     QRadioButton* own_ = new QRadioButton("Usar &mi propia base de datos", this);
     QWidget* fields_ = nullptr;

@@ -26,4 +26,10 @@ public:
     virtual void forget(const std::string& account) = 0;
 };
 
+/// The password that is kept for an account; an empty text when none is, or an empty one.
+inline std::string keptPassword(Keyring& keyring, const std::string& account)
+{
+    return keyring.find(account).value_or(std::string());
+}
+
 } // namespace dn::host

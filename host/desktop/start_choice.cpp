@@ -125,6 +125,7 @@ std::optional<StartChoice> readStartChoice(const QString& file)
     choice.database.text = settings.value("base/cadena").toString();
     choice.database.user = settings.value("base/usuario").toString();
     choice.createSchema = settings.value("base/crear").toBool();
+    choice.withoutPassword = settings.value("base/sin_clave").toBool();
     const bool known = kind == "odbc" || kind == "mariadb";
     if (!known || !problemOf(choice.database).isEmpty()) return std::nullopt;
     return choice;
@@ -138,6 +139,7 @@ bool writeStartChoice(const QString& file, const StartChoice& choice)
     if (choice.own) {
         settings.setValue("base/usuario", choice.database.user);
         if (choice.createSchema) settings.setValue("base/crear", true);
+        if (choice.withoutPassword) settings.setValue("base/sin_clave", true);
     }
     if (choice.own && choice.database.odbc) settings.setValue("base/cadena", choice.database.text.trimmed());
     if (choice.own && !choice.database.odbc) {

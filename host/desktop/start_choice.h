@@ -29,7 +29,8 @@ struct OwnDatabase {
 struct StartChoice {
     bool own = false; ///< else the private database with sample data
     OwnDatabase database;
-    bool createSchema = false; ///< when it is opened next
+    bool createSchema = false;    ///< when it is opened next
+    bool withoutPassword = false; ///< it opened without one: none is asked for
 
     bool operator==(const StartChoice& other) const = default;
 };

@@ -21,6 +21,7 @@
 #include "screen/qt/ports.h"
 #include "screen/qt/theme.h"
 #include "tests/approved/approval.h"
+#include "tests/host/desktop/fake_keyring.h"
 #include "tests/screen/qt/accessible_tree.h"
 #include "tests/screen/qt/modal_driver.h"
 #include "tests/support/fake_connection.h"
@@ -161,7 +162,8 @@ TEST_F(DialogLooks, of_the_mail_lists)
 
 TEST_F(DialogLooks, of_the_first_start)
 {
-    host::FirstStart window([](const std::vector<std::string>&) { return QString(); }, true);
+    host::FakeKeyring keyring;
+    host::FirstStart window([](const std::vector<std::string>&) { return QString(); }, keyring);
     looksAndReads(window, "primer-inicio");
     host::StartAnswer own;
     own.keepPassword = true;

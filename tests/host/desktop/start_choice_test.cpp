@@ -140,7 +140,7 @@ TEST(StartChoice, comes_back_from_its_file)
     for (const StartChoice& choice :
          {StartChoice{}, StartChoice{true, mariadb()}, StartChoice{true, several, true},
           StartChoice{true, mariadb()}, StartChoice{true, odbc("DRIVER={Uno; dos};SERVER=ñ")},
-          StartChoice{true, odbc("DSN=a"), true}, StartChoice{}}) {
+          StartChoice{true, odbc("DSN=a"), true}, StartChoice{true, mariadb(), false, true}, StartChoice{}}) {
         EXPECT_TRUE(writeStartChoice(file, choice));
         EXPECT_EQ(readStartChoice(file), choice);
     }
