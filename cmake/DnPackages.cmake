@@ -42,12 +42,17 @@ foreach(page IN ITEMS manual database mail)
         "embedding\\.md|reliability\\.md|\\.\\./host")
 endforeach()
 install(DIRECTORY docs/manual docs/pictures DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/dncontacts" COMPONENT program)
-install(DIRECTORY host/database/schema
-    DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev/host/database" COMPONENT development)
+install(DIRECTORY host/database/schema DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/dncontacts/host/database"
+    COMPONENT program)
+# The program's sources: what the guide says is there to be copied.
+install(DIRECTORY host DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev" COMPONENT development
+    FILES_MATCHING PATTERN "*.h" PATTERN "*.cpp" PATTERN "*.in" PATTERN "*.sql" PATTERN "CMakeLists.txt"
+    PATTERN "desktop_entry" EXCLUDE)
 install(DIRECTORY examples/minimal-host DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/libdncontacts-dev/examples"
     COMPONENT development)
 
 set(CPACK_GENERATOR DEB)
+set(CPACK_PROJECT_CONFIG_FILE "${PROJECT_SOURCE_DIR}/cmake/DnPackagesNeed.cmake")
 set(CPACK_PACKAGE_NAME dncontacts)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own, the first line of its description
 set(CPACK_PACKAGE_CONTACT "${DN_MAINTAINER}")
