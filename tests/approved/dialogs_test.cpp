@@ -19,8 +19,8 @@
 #include "screen/qt/form_view.h"
 #include "screen/qt/guard.h"
 #include "screen/qt/ports.h"
-#include "screen/qt/theme.h"
 #include "tests/approved/approval.h"
+#include "tests/approved/in_scheme.h"
 #include "tests/host/desktop/fake_keyring.h"
 #include "tests/screen/qt/accessible_tree.h"
 #include "tests/screen/qt/modal_driver.h"
@@ -34,19 +34,20 @@
 
 #include <algorithm>
 #include <functional>
+#include <string>
 
 namespace dn::tests {
 namespace {
 
 using testing::IsEmpty;
 
-void looksAndReads(QWidget& window, const char* name)
+void looksAndReads(QWidget& window, const std::string& name)
 {
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     QApplication::processEvents();
     QApplication::processEvents();
-    looksAsApproved(window, name);
+    looksAsApproved(window, QString::fromStdString(name));
     EXPECT_THAT(cutOff(window), IsEmpty()) << name;
     EXPECT_THAT(unnamed(window), IsEmpty()) << name;
     EXPECT_THAT(unreached(window), IsEmpty()) << name;
@@ -70,29 +71,77 @@ protected:
         ports.events.expectModal(name, [&](screen::Form& form) {
             fill();
             screen::qt::FormView view(form, nullptr, guard);
-            looksAndReads(view, picture == nullptr ? name : picture);
+            looksAndReads(view, (picture == nullptr ? name : picture) + scheme);
             form.closeWindow();
         });
         dialog.Show();
     }
 
+    void newProspect()
+    {
+        dialogs::dlgNuevoPros dialog(ports.ports());
+        dialog.Cnn = &cnn;
+        looks(dialog, "dlgNuevoPros", nullptr, [&] {
+            dialog.txtNombre.type("Luz Ñúñez");
+            dialog.txtTelefono.type("961 111 2233");
+            dialog.txtCorreo.type("luz@example.com");
+            dialog.txtEmpresa.type("Silos del Sureste");
+            dialog.txtPuesto.type("Compras");
+        });
+    }
+
+    void dayForTheNextContact()
+    {
+        dialogs::dlgAgendarContacto dialog(ports.ports());
+        dialog.Cnn = &cnn;
+        looks(dialog, "dlgAgendarContacto", "dlgAgendarContacto-dia", [&] { dialog.opt2.choose(); });
+    }
+
+    void filter()
+    {
+        dialogs::dlgFiltro dialog(ports.ports());
+        dialog.Cnn = &cnn;
+        looks(dialog, "dlgFiltro");
+    }
+
+    void mailLists()
+    {
+        FakeRecordset rows(
+            Rows{{"uf_Email", "uf_Nombre", "uf_Telefono", "uf_Empresa"},
+                 {{text("luz@example.com"), text("Luz Ñúñez"), text("961 111 2233"), text("Silos")}}});
+        dialogs::dlgShow dialog(ports.ports());
+        dialog.rsContactos = &rows;
+        looks(dialog, "dlgShow");
+    }
+
+    void whatComesNext()
+    {
+        dialogs::dlgQueH dialog(ports.ports());
+        looks(dialog, "dlgQueH", nullptr, [&] { dialog.Option1.choose(); });
+    }
+
+    /// The window of the first start with a database of the operator's own, which did not open.
+    void ownDatabase(host::FirstStart& window)
+    {
+        own.keepPassword = true;
+        own.choice.own = true;
+        own.choice.database = {.servers = {{"db.example.com"}}, .name = "ventas", .text = {}, .user = "ana"};
+        window.fillWith(own);
+        window.complain(QStringLiteral("No se pudo abrir la base de datos."));
+        looksAndReads(window, "primer-inicio-propia" + scheme);
+    }
+
+    static QString untried(const std::vector<std::string>& /*servers*/) { return {}; }
+
+    std::string scheme; ///< at the end of a picture's name
     FakeConnection cnn;
     FakePorts ports;
     screen::qt::Guard guard;
+    host::FakeKeyring keyring;
+    host::StartAnswer own;
 };
 
-TEST_F(DialogLooks, of_a_new_prospect)
-{
-    dialogs::dlgNuevoPros dialog(ports.ports());
-    dialog.Cnn = &cnn;
-    looks(dialog, "dlgNuevoPros", nullptr, [&] {
-        dialog.txtNombre.type("Luz Ñúñez");
-        dialog.txtTelefono.type("961 111 2233");
-        dialog.txtCorreo.type("luz@example.com");
-        dialog.txtEmpresa.type("Silos del Sureste");
-        dialog.txtPuesto.type("Compras");
-    });
-}
+TEST_F(DialogLooks, of_a_new_prospect) { newProspect(); }
 
 TEST_F(DialogLooks, of_the_next_contact)
 {
@@ -101,12 +150,7 @@ TEST_F(DialogLooks, of_the_next_contact)
     looks(dialog, "dlgAgendarContacto");
 }
 
-TEST_F(DialogLooks, of_a_day_for_the_next_contact)
-{
-    dialogs::dlgAgendarContacto dialog(ports.ports());
-    dialog.Cnn = &cnn;
-    looks(dialog, "dlgAgendarContacto", "dlgAgendarContacto-dia", [&] { dialog.opt2.choose(); });
-}
+TEST_F(DialogLooks, of_a_day_for_the_next_contact) { dayForTheNextContact(); }
 
 TEST_F(DialogLooks, of_a_correction)
 {
@@ -123,11 +167,7 @@ TEST_F(DialogLooks, of_the_agents)
     looks(dialog, "dlgSelAgente");
 }
 
-TEST_F(DialogLooks, of_what_comes_next)
-{
-    dialogs::dlgQueH dialog(ports.ports());
-    looks(dialog, "dlgQueH", nullptr, [&] { dialog.Option1.choose(); });
-}
+TEST_F(DialogLooks, of_what_comes_next) { whatComesNext(); }
 
 TEST_F(DialogLooks, of_the_addresses)
 {
@@ -144,60 +184,66 @@ TEST_F(DialogLooks, of_the_group_tool)
     looks(dialog, "dlgTools");
 }
 
-TEST_F(DialogLooks, of_the_filter)
-{
-    dialogs::dlgFiltro dialog(ports.ports());
-    dialog.Cnn = &cnn;
-    looks(dialog, "dlgFiltro");
-}
+TEST_F(DialogLooks, of_the_filter) { filter(); }
 
-TEST_F(DialogLooks, of_the_mail_lists)
-{
-    FakeRecordset rows(Rows{{"uf_Email", "uf_Nombre", "uf_Telefono", "uf_Empresa"},
-                            {{text("luz@example.com"), text("Luz Ñúñez"), text("961 111 2233"), text("Silos")}}});
-    dialogs::dlgShow dialog(ports.ports());
-    dialog.rsContactos = &rows;
-    looks(dialog, "dlgShow");
-}
+TEST_F(DialogLooks, of_the_mail_lists) { mailLists(); }
 
 TEST_F(DialogLooks, of_the_first_start)
 {
-    host::FakeKeyring keyring;
-    host::FirstStart window([](const std::vector<std::string>&) { return QString(); }, keyring);
+    host::FirstStart window(untried, keyring);
     looksAndReads(window, "primer-inicio");
-    host::StartAnswer own;
-    own.keepPassword = true;
-    own.choice.own = true;
-    host::OwnDatabase& database = own.choice.database;
-    database = {.servers = {{"db.example.com"}}, .name = "ventas", .text = {}, .user = "ana"};
-    window.fillWith(own);
-    window.complain(QStringLiteral("No se pudo abrir la base de datos."));
-    looksAndReads(window, "primer-inicio-propia");
-    database.odbc = true;
-    database.text = "DRIVER={FreeTDS};SERVER=db.example.com;DATABASE=ventas";
+    ownDatabase(window);
+    own.choice.database.odbc = true;
+    own.choice.database.text = "DRIVER={FreeTDS};SERVER=db.example.com;DATABASE=ventas";
     window.fillWith(own);
     looksAndReads(window, "primer-inicio-odbc");
 }
 
-TEST_F(DialogLooks, of_a_new_prospect_in_the_dark)
+/// Those dialogs that have most in them.
+class DialogLooksInSchemes : public DialogLooks, public testing::WithParamInterface<OtherScheme> {
+protected:
+    DialogLooksInSchemes() { scheme = GetParam().second; }
+
+    InScheme worn_{GetParam().first};
+};
+
+TEST_P(DialogLooksInSchemes, of_a_new_prospect) { newProspect(); }
+TEST_P(DialogLooksInSchemes, of_a_day_for_the_next_contact) { dayForTheNextContact(); }
+TEST_P(DialogLooksInSchemes, of_the_filter) { filter(); }
+TEST_P(DialogLooksInSchemes, of_the_mail_lists) { mailLists(); }
+TEST_P(DialogLooksInSchemes, of_what_comes_next) { whatComesNext(); }
+TEST_P(DialogLooksInSchemes, of_the_first_start)
 {
-    const QPalette before = QApplication::palette();
-    QApplication::setPalette(schemePalette(screen::qt::Scheme::dark));
-    dialogs::dlgNuevoPros dialog(ports.ports());
-    dialog.Cnn = &cnn;
-    looks(dialog, "dlgNuevoPros", "dlgNuevoPros-oscuro");
-    QApplication::setPalette(before);
+    host::FirstStart window(untried, keyring);
+    ownDatabase(window);
 }
+
+INSTANTIATE_TEST_SUITE_P(All, DialogLooksInSchemes, otherSchemes());
 
 /// Windows that wait for their own end.
 class BoxLooks : public testing::Test {
 protected:
-    void expectLooks(const char* window, const char* name)
+    void expectLooks(const char* window, const std::string& name)
     {
         operatorAt.expect(window, [name](QWidget& shown) {
             looksAndReads(shown, name);
             QTest::keyClick(&shown, Qt::Key_Escape);
         });
+    }
+
+    void question(const std::string& scheme)
+    {
+        expectLooks("MsgBox", "MsgBox-pregunta" + scheme);
+        boxes.MsgBox(
+            {.prompt = "Esta acción pondrá al prospecto seleccionado en estado de Sin interés. ¿Desea continuar?",
+             .buttons = screen::MessageBox::Buttons::yesNo});
+    }
+
+    void whoWorks(const std::string& scheme)
+    {
+        expectLooks("QuienTrabaja", "QuienTrabaja" + scheme);
+        EXPECT_EQ(host::askWhoWorks({{4, "Diana Marroquín Solís"}, {7, "Ana"}, {9, "Beto Ñandú"}}, 7),
+                  std::nullopt);
     }
 
     ModalDriver operatorAt;
@@ -212,13 +258,17 @@ TEST_F(BoxLooks, of_a_message)
                   .title = "Fuerza de ventas"});
 }
 
-TEST_F(BoxLooks, of_a_question)
-{
-    expectLooks("MsgBox", "MsgBox-pregunta");
-    boxes.MsgBox(
-        {.prompt = "Esta acción pondrá al prospecto seleccionado en estado de Sin interés. ¿Desea continuar?",
-         .buttons = screen::MessageBox::Buttons::yesNo});
-}
+TEST_F(BoxLooks, of_a_question) { question(""); }
+
+class BoxLooksInSchemes : public BoxLooks, public testing::WithParamInterface<OtherScheme> {
+protected:
+    InScheme worn_{GetParam().first};
+};
+
+TEST_P(BoxLooksInSchemes, of_a_question) { question(GetParam().second); }
+TEST_P(BoxLooksInSchemes, of_who_works) { whoWorks(GetParam().second); }
+
+INSTANTIATE_TEST_SUITE_P(All, BoxLooksInSchemes, otherSchemes());
 
 TEST_F(BoxLooks, of_a_text_asked_for)
 {
@@ -232,11 +282,7 @@ TEST_F(BoxLooks, of_a_note)
     boxes.InputBox("Nota:");
 }
 
-TEST_F(BoxLooks, of_who_works)
-{
-    expectLooks("QuienTrabaja", "QuienTrabaja");
-    EXPECT_EQ(host::askWhoWorks({{4, "Diana Marroquín Solís"}, {7, "Ana"}, {9, "Beto Ñandú"}}, 7), std::nullopt);
-}
+TEST_F(BoxLooks, of_who_works) { whoWorks(""); }
 
 TEST_F(BoxLooks, of_a_password_asked_for)
 {

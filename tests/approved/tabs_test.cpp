@@ -18,9 +18,11 @@
 #include <QContextMenuEvent>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <tuple>
+#include <utility>
 
 namespace dn::tests {
 namespace {
@@ -223,6 +225,30 @@ TEST(Approval, sees_a_letter_and_no_soft_edge)
         taken.setPixel(20, y, qRgb(0, 0, 0));
     EXPECT_EQ(differing(taken, approved), 9);
     EXPECT_EQ(differing(taken.copy(0, 0, 99, 40), approved), 99 * 40);
+}
+
+TEST(Approval, sees_the_stripes_of_a_list_and_no_reduced_colours)
+{
+    for (const auto& [name, scheme] : {std::pair("prospectos.png", screen::qt::Scheme::light),
+                                       std::pair("hoy-oscuro.png", screen::qt::Scheme::dark)}) {
+        const QImage approved =
+            QImage(QStringLiteral(DN_APPROVED "/pictures/") + name).convertToFormat(QImage::Format_RGB32);
+        ASSERT_FALSE(approved.isNull()) << name;
+        const QPalette palette = schemePalette(scheme);
+        const QRgb stripe = palette.color(QPalette::AlternateBase).rgb();
+        QImage plain = approved;
+        QImage softer = approved;
+        for (int y = 0; y < approved.height(); ++y)
+            for (int x = 0; x < approved.width(); ++x) {
+                const QRgb seen = approved.pixel(x, y);
+                if (seen == stripe) plain.setPixel(x, y, palette.color(QPalette::Base).rgb());
+                const int nudge = (x + y) % 2 == 0 ? 1 : -1;
+                softer.setPixel(x, y, qRgb(std::clamp(qRed(seen) + nudge, 0, 255), qGreen(seen), qBlue(seen)));
+            }
+        EXPECT_EQ(differing(plain, approved), 0) << name << " is alike, pixel by pixel";
+        EXPECT_GT(shaded(plain, approved).size(), 50U) << name;
+        EXPECT_TRUE(shaded(softer, approved).empty()) << name;
+    }
 }
 
 } // namespace

@@ -175,6 +175,21 @@ void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QS
     painter.drawRoundedRect(handle, rounding, rounding);
 }
 
+bool turnsTheMonth(const QWidget& widget)
+{
+    return widget.objectName() == QLatin1String("qt_calendar_prevmonth") ||
+           widget.objectName() == QLatin1String("qt_calendar_nextmonth");
+}
+
+/// Of a calendar, on the bar of the month, which is in the colour of what is selected.
+void drawMonthArrow(const QStyleOptionToolButton& button, QPainter& painter)
+{
+    const SmoothPainter smooth(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(button.palette.color(QPalette::HighlightedText));
+    drawArrow(painter, button.rect, button.arrowType);
+}
+
 /// The drawing of a message box, nothing for other pictures.
 QIcon messageDrawing(QStyle::StandardPixmap picture)
 {
@@ -240,6 +255,10 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         return;
     }
     const auto* const button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+    if (button != nullptr && widget != nullptr && turnsTheMonth(*widget)) {
+        drawMonthArrow(*button, *painter);
+        return;
+    }
     const bool month = widget != nullptr && widget->objectName() == QLatin1String("qt_calendar_monthbutton");
     if (control != CC_ToolButton || button == nullptr || !month) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -6,6 +6,7 @@
 
 #include "host/mail/attachments_field.h"
 #include "tests/approved/approval.h"
+#include "tests/approved/in_scheme.h"
 #include "tests/host/mail/mails.h"
 #include "tests/screen/qt/accessible_tree.h"
 
@@ -20,6 +21,7 @@ namespace {
 
 class MailPictures : public Mails {
 protected:
+    void writesALetter(const char* suffix);
     static void takes(QWidget& window, const char* suffix = "")
     {
         dn::tests::looksAsApproved(window, window.objectName() + suffix);
@@ -39,7 +41,8 @@ protected:
     }
 };
 
-TEST_F(MailPictures, of_each_window)
+/// A mail with a template and two files.
+void MailPictures::writesALetter(const char* suffix)
 {
     folder.holds("Seguimiento.txt",
                  "Asunto: Su cotización, {nombre}\n\nEstimada {nombre}:\n\nGracias por su interés. "
@@ -59,10 +62,15 @@ TEST_F(MailPictures, of_each_window)
     };
     EXPECT_FALSE(writes([&](QWidget& window) {
         write(window);
-        takes(window);
+        takes(window, suffix);
         expectQuestion("", "Descartar");
         QTest::keyClick(&window, Qt::Key_Escape);
     }));
+}
+
+TEST_F(MailPictures, of_each_window)
+{
+    writesALetter("");
     settings.url.clear();
     settings.outbox = "/home/ana/.local/share/dncontacts/bandeja-de-salida";
     settings.warnings = {"La clave del correo está escrita en «/home/ana/.config/dncontacts/mail.ini», a la vista "
@@ -80,6 +88,14 @@ TEST_F(MailPictures, of_each_window)
         QTest::keyClick(&window, Qt::Key_Escape);
     }));
 }
+
+class MailPicturesInSchemes : public MailPictures, public testing::WithParamInterface<dn::tests::OtherScheme> {
+    dn::tests::InScheme worn_{GetParam().first};
+};
+
+TEST_P(MailPicturesInSchemes, of_a_mail) { writesALetter(GetParam().second); }
+
+INSTANTIATE_TEST_SUITE_P(All, MailPicturesInSchemes, dn::tests::otherSchemes());
 
 TEST_F(MailPictures, of_a_mail_on_its_way)
 {

@@ -5,6 +5,7 @@
 // full, has a name for everything, and is reached by the keyboard, is asserted here too.
 
 #include "tests/approved/approval.h"
+#include "tests/approved/in_scheme.h"
 #include "tests/host/screens/projects_at_work.h"
 #include "tests/screen/qt/accessible_tree.h"
 
@@ -42,20 +43,20 @@ protected:
             "* 12500.5, '2026-01-10' + INTERVAL seq DAY FROM seq_1_to_7");
     }
 
-    static void takes(QWidget& window)
+    static void takes(QWidget& window, const char* scheme = "")
     {
         QTest::qWait(0);
-        dn::tests::looksAsApproved(window, window.objectName());
+        dn::tests::looksAsApproved(window, window.objectName() + scheme);
         EXPECT_THAT(dn::tests::cutOff(window), IsEmpty());
         EXPECT_THAT(dn::tests::unnamed(window), IsEmpty());
         EXPECT_THAT(dn::tests::unreached(window), IsEmpty());
         for (const QComboBox* box : window.findChildren<QComboBox*>())
             EXPECT_GE(box->width(), box->fontMetrics().horizontalAdvance(box->currentText()) + 24) << name(*box);
     }
-    void pictures(const char* window)
+    void pictures(const char* window, const char* scheme = "")
     {
-        operatorAt.expect(window, [](QWidget& shown) {
-            takes(shown);
+        operatorAt.expect(window, [scheme](QWidget& shown) {
+            takes(shown, scheme);
             QTest::keyClick(&shown, Qt::Key_Escape);
         });
     }
@@ -111,6 +112,35 @@ TEST_F(Pictures, of_each_window)
     key = bruno;
     crm->BorrarPersona(key, confirm, gone);
 }
+
+class PicturesInSchemes : public Pictures, public testing::WithParamInterface<dn::tests::OtherScheme> {
+    dn::tests::InScheme worn_{GetParam().first};
+};
+
+TEST_P(PicturesInSchemes, of_windows_with_most_in_them)
+{
+    const char* const scheme = GetParam().second;
+    std::any result;
+    std::int32_t by = 0;
+    std::int32_t key = ana;
+    pictures("EditarPersona", scheme);
+    crm->EditarPersona(key, by, result);
+    pictures("EditarProyecto", scheme);
+    opens();
+    std::string found;
+    pictures("BuscarEntidad", scheme);
+    crm->BuscarEntidad("a", true, true, found);
+    bool confirm = true;
+    std::int32_t gone = 0;
+    operatorAt.expect("Pregunta", [scheme](QWidget& box) {
+        takes(box, scheme);
+        pressButton(box, "Conservar");
+    });
+    key = bruno;
+    crm->BorrarPersona(key, confirm, gone);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PicturesInSchemes, dn::tests::otherSchemes());
 
 TEST_F(Pictures, of_what_is_wrong)
 {
