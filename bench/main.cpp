@@ -27,6 +27,7 @@
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 namespace {
 
@@ -82,6 +83,18 @@ Options readOptions(const QApplication& application)
 
 void tell(const std::string& what) { std::fprintf(stderr, "%s\n", what.c_str()); }
 
+/// A group that breaks off is missed, and what the others measured is kept.
+void attempt(const char* group, const Options& options, Report& report, const std::function<void()>& work)
+{
+    if (!options.runs(group)) return;
+    try {
+        work();
+    } catch (const std::exception& failure) {
+        tell(failure.what());
+        report.wrong(group, failure.what());
+    }
+}
+
 void benchAllLists(BenchDatabase& database, Results& results)
 {
     for (const Scale& scale : database.scales())
@@ -123,13 +136,14 @@ void benchOnTheDatabase(const Options& options, Results& results)
 {
     BenchDatabase database(options.folder, options.largest, options.agents);
     results.serverVersion = database.version();
-    if (options.runs("lists")) benchAllLists(database, results);
-    if (options.runs("rows")) benchRows(database, results);
-    if (options.runs("commands")) {
+    Report& report = results.report;
+    attempt("lists", options, report, [&] { benchAllLists(database, results); });
+    attempt("rows", options, report, [&] { benchRows(database, results); });
+    attempt("commands", options, report, [&] {
         tell("commands");
-        benchCommands(database, database.scale(manyRows), database.scales().back(), 3, results.report);
-    }
-    if (options.runs("load")) benchLoad(database, options.agents, results);
+        benchCommands(database, database.scale(manyRows), database.scales().back(), 3, report);
+    });
+    attempt("load", options, report, [&] { benchLoad(database, options.agents, results); });
 }
 
 void writeDocument(const Options& options, const Results& results)
@@ -149,12 +163,12 @@ int run(const QApplication& application)
     const auto start = std::chrono::steady_clock::now();
     Results results;
     results.revision = options.revision;
-    if (options.runs("export")) benchExport(5, results.report);
-    if (options.runs("program")) {
+    attempt("export", options, results.report, [&] { benchExport(5, results.report); });
+    attempt("program", options, results.report, [&] {
         tell("the program, starting and idle");
         const std::string program = (QCoreApplication::applicationDirPath() + "/../host/dncontacts").toStdString();
         benchProgram(program, options.folder + "-program", results.report);
-    }
+    });
     if (options.needsDatabase()) benchOnTheDatabase(options, results);
     results.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (!results.lists.empty())

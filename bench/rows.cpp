@@ -3,9 +3,9 @@
 
 #include "bench/rows.h"
 
-#include "base/collation.h"
 #include "bench/alternatives.h"
 #include "bench/measure.h"
+#include "bench/order.h"
 #include "bench/workbench.h"
 
 #include <QCoreApplication>
@@ -23,23 +23,12 @@ std::string rowsOf(const Scale& scale) { return readable(static_cast<double>(sca
 // A longer list may cost what the measuring itself varies by, and no more.
 constexpr double noGrowth = 1.5;
 
-/// Whether the rows stand in the order of a column.
-bool ordered(screen::ListView& list, std::size_t column)
-{
-    const screen::ListRows& rows = list.rows();
-    for (std::size_t position = 1; position < rows.count(); ++position)
-        if (compareSpanish(rows.cell(rows.rowAt(position - 1), column), rows.cell(rows.rowAt(position), column)) >
-            0)
-            return false;
-    return true;
-}
-
 std::vector<Cost> ourSorts(Workbench& workbench, std::size_t columns, Report& report)
 {
     std::vector<Cost> costs;
     for (std::size_t column = 0; column < columns; ++column) {
         costs.push_back(workbench.sort(static_cast<int>(column)));
-        if (!ordered(workbench.list(), column))
+        if (!isInOrder(workbench.list().rows(), column, false))
             report.wrong("sort by column " + std::to_string(column), "the order is wrong");
     }
     return costs;

@@ -78,11 +78,12 @@ std::vector<std::int32_t> agentsOf(const host::MariadbTarget& target, std::size_
                             "c.uf_IEjecutivo = a.Sys_PK AND c.uf_Status = 0 ORDER BY a.Sys_PK");
     for (; !rows->Eof(); rows->MoveNext())
         keys.push_back(rows->value(0).toInt32());
-    if (keys.empty()) throw std::runtime_error("no agent has prospects");
-    std::vector<std::int32_t> agents;
-    for (std::size_t i = 0; i < count; ++i)
-        agents.push_back(keys[i % keys.size()]);
-    return agents;
+    // Two at the desk of one agent would see each other's rows come and go, and take that for a wrong answer.
+    if (keys.size() < count)
+        throw std::runtime_error("agents with prospects in this database: " + std::to_string(keys.size()) +
+                                 "; --agents takes no more");
+    keys.resize(count);
+    return keys;
 }
 
 /// Runs the load and looks at the memory. @return whether it stayed where it was.
