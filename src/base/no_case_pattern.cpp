@@ -98,6 +98,16 @@ bool startsWithFolded(std::string_view text, std::string_view folded)
     return true;
 }
 
+char foldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | caseBit) : c; }
+
+// From the end: patterns that begin alike, as links do, differ there.
+bool startsWithAscii(std::string_view text, std::string_view folded)
+{
+    if (text.size() < folded.size()) return false;
+    return std::equal(folded.rbegin(), folded.rend(), text.substr(0, folded.size()).rbegin(),
+                      [](char wanted, char c) { return wanted == foldAscii(c); });
+}
+
 // A byte that begins no character may yet stand inside of one.
 bool beginsInsideACharacter(std::string_view text)
 {
@@ -159,7 +169,10 @@ std::size_t BytePair::findIn(std::string_view text, std::size_t from) const
 }
 
 NoCasePattern::NoCasePattern(std::string_view pattern)
-    : folded_(toLower(pattern)), beginsInside_(beginsInsideACharacter(folded_)), starts_(leadsOf(folded_))
+    : folded_(toLower(pattern)),
+      ascii_(isAscii(folded_)),
+      beginsInside_(beginsInsideACharacter(folded_)),
+      starts_(leadsOf(folded_))
 {
     const std::vector<PatternByte> bytes = bytesOf(folded_);
     mayDiffer_ = std::any_of(bytes.begin(), bytes.end(), [](const PatternByte& byte) { return !byte.fixed; });
@@ -173,8 +186,9 @@ bool NoCasePattern::isIn(std::string_view text) const
     std::size_t place = pair_->findIn(text, 0);
     if (place == std::string_view::npos) return false;
     if (beginsInside_) return isAnywhereIn(text);
+    const auto startsHere = ascii_ ? startsWithAscii : startsWithFolded;
     for (; place != std::string_view::npos; place = pair_->findIn(text, place + 1))
-        if (place >= pair_->offset && startsWithFolded(text.substr(place - pair_->offset), folded_)) return true;
+        if (place >= pair_->offset && startsHere(text.substr(place - pair_->offset), folded_)) return true;
     // A case of another length may stand ahead of the pair, which then is not where it was looked for.
     return mayDiffer_ && !isAscii(text) && isAnywhereIn(text);
 }

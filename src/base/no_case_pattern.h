@@ -40,6 +40,7 @@ private:
     bool isAnywhereIn(std::string_view text) const;
 
     std::string folded_;
+    bool ascii_;
     bool beginsInside_; ///< with a byte that may also stand inside of a character
     bool mayDiffer_;    ///< in length, between its cases
     std::optional<BytePair> pair_;
