@@ -24,13 +24,12 @@ SharedStrings::SharedStrings(Records& records) : records_(records)
 
 void SharedStrings::add(std::string_view text)
 {
-    if (text.size() <= longestCell && plainBytes(text) == text.size()) {
-        addNarrow(text);
-        return;
-    }
-    if (text.size() <= longestCell && narrow(text)) {
-        addNarrow(narrow_);
-        return;
+    if (text.size() <= longestCell) {
+        const std::size_t plain = plainBytes(text);
+        if (plain == text.size() || narrow(text, plain)) {
+            addNarrow(plain == text.size() ? text : narrow_);
+            return;
+        }
     }
     convert(text);
     begin(units_.size(), wide_);
@@ -48,19 +47,18 @@ void SharedStrings::begin(std::size_t units, bool wide)
 }
 
 // Letters with accents are units of one byte, too.
-bool SharedStrings::narrow(std::string_view text)
+bool SharedStrings::narrow(std::string_view text, std::size_t plain)
 {
     narrow_.clear();
-    while (!text.empty()) {
-        const std::size_t plain = plainBytes(text);
+    for (;;) {
         narrow_ += text.substr(0, plain);
         text.remove_prefix(plain);
         if (text.empty()) return true;
         const char32_t character = takeStorable(text);
         if (character > 0xFF) return false;
         narrow_ += static_cast<char>(static_cast<unsigned char>(character));
+        plain = plainBytes(text);
     }
-    return true;
 }
 
 // The bytes of a plain text are its units.

@@ -30,7 +30,7 @@ public:
 
 private:
     void begin(std::size_t units, bool wide);
-    bool narrow(std::string_view text);
+    bool narrow(std::string_view text, std::size_t plain);
     void addNarrow(std::string_view text);
     void convert(std::string_view text);
     void put(char32_t character, std::size_t& count);
