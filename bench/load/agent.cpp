@@ -342,7 +342,19 @@ bool Agent::detailShows(const std::string& key)
     const std::string& shown = elements.detail.txtInfo.Text();
     if (key.starts_with('K')) return shown.starts_with(key);
     screen::ListItems projects = elements.projects.lvwProy.ListItems();
-    return projects.Contains(key) && shown.starts_with(projects(key).Text());
+    return projects.Contains(key) && shown.starts_with(std::string(projects(key).Text()) + "\r\n") &&
+           shown.size() > 2;
+}
+
+// A party of both views has one row.
+int Agent::dueRows()
+{
+    const std::string agent = " WHERE ejecutivo = " + std::to_string(agent_);
+    return static_cast<int>(connection_
+                                .execute("SELECT COUNT(*) FROM (SELECT tipo, sys_pk FROM qhoy" + agent +
+                                         " UNION SELECT tipo, sys_pk FROM qatascados" + agent + ") AS due")
+                                ->value(0)
+                                .toWhole());
 }
 
 void Agent::workTheQueue()
@@ -356,8 +368,9 @@ void Agent::workTheQueue()
         },
         [&] {
             const auto first = queue.SelectedItem();
-            if (queue.ListItems().Count() == 0) return true; // nothing is due
-            return first && detailShows(std::string(first->Key()));
+            const int due = dueRows();
+            return queue.ListItems().Count() == due &&
+                   (due == 0 || (first && detailShows(std::string(first->Key()))));
         });
 }
 

@@ -7,8 +7,8 @@
 //     --folder DIR]
 //
 // Without --connect it starts a server of its own on the folder and gives each agent rows of his own. With it, the
-// agents of that database work, from the first one on and over again where they are fewer than asked for: they
-// write notes and calls into it, so it must be one for the purpose. Ends with 1 when an answer was wrong, and with
+// agents of that database work who have prospects, each at most once: they write notes and calls into it, so it
+// must be one for the purpose. Ends with 1 when an answer was wrong, and with
 // --soak when its memory grew: what it had every ten seconds stands in the file.
 
 #include "bench/load/load.h"

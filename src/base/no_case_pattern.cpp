@@ -6,6 +6,7 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace dn {
@@ -81,7 +82,7 @@ std::optional<BytePair> rarestPair(const std::vector<PatternByte>& bytes)
     for (std::size_t i = 0; i < end; ++i) {
         for (std::size_t j = i; j < end && bytes[j].fixed; ++j) {
             const std::size_t rare = rarity(bytes[i].byte) * (j == i ? 1 : rarity(bytes[j].byte));
-            if (rare <= most && best && (best->gap > 0 || j == i)) continue;
+            if (best && (rare < most || (rare == most && j == i))) continue;
             most = rare;
             best = BytePair{bytes[i].byte, bytes[j].byte, bytes[i].caseMask, bytes[j].caseMask, j - i, i};
         }
@@ -114,12 +115,12 @@ bool beginsInsideACharacter(std::string_view text)
     return !text.empty() && (static_cast<unsigned char>(text[0]) & 0xC0U) == 0x80U;
 }
 
-std::bitset<256> leadsOf(std::string_view folded)
+std::array<bool, 256> leadsOf(std::string_view folded)
 {
-    std::bitset<256> leads;
+    std::array<bool, 256> leads{};
     if (folded.empty()) return leads;
     for (const std::string& text : casesOf(takeCharacter(folded)))
-        leads.set(static_cast<unsigned char>(text.front()));
+        leads[static_cast<unsigned char>(text.front())] = true;
     return leads;
 }
 

@@ -6,7 +6,7 @@
 
 #include "base/export.h"
 
-#include <bitset>
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -44,7 +44,7 @@ private:
     bool beginsInside_; ///< with a byte that may also stand inside of a character
     bool mayDiffer_;    ///< in length, between its cases
     std::optional<BytePair> pair_;
-    std::bitset<256> starts_; ///< the bytes with which a text can begin that folds to the pattern
+    std::array<bool, 256> starts_; ///< the bytes with which a text can begin that folds to the pattern
 };
 
 /// Whether `text` holds `part`, without regard to case. An empty part is held by every text.

@@ -24,17 +24,27 @@ bool isAccentedLetter(std::string_view text)
     return text.size() >= 2 && text[0] == '\xC3' && (static_cast<unsigned char>(text[1]) & 0xC0U) == 0x80U;
 }
 
+// Eight bytes as a number, the first one the lowest.
+std::uint64_t lowestFirst(const char* bytes)
+{
+    std::uint64_t eight = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        std::memcpy(&eight, bytes, sizeof(eight));
+    } else {
+        for (std::size_t i = 0; i < sizeof(eight); ++i)
+            eight |= static_cast<std::uint64_t>(static_cast<unsigned char>(bytes[i])) << (8 * i);
+    }
+    return eight;
+}
+
 // A bit for the first of eight bytes that is not plain; those behind it may have one too many, by its borrow.
 std::uint64_t notPlainOf(const char* bytes)
 {
     constexpr std::uint64_t each = 0x0101010101010101;
-    std::uint64_t eight = 0;
-    std::memcpy(&eight, bytes, sizeof(eight));
+    const std::uint64_t eight = lowestFirst(bytes);
     const std::uint64_t unlikeDelete = eight ^ each * 0x7F;
     return (eight | (eight - each * ' ') | (unlikeDelete - each)) & each * 0x80;
 }
-
-static_assert(std::endian::native == std::endian::little, "the first byte must be the lowest one");
 
 std::size_t firstOf(std::uint64_t bits) { return static_cast<std::size_t>(std::countr_zero(bits)) / 8; }
 

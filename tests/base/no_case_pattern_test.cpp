@@ -71,10 +71,10 @@ TEST(ContainsNoCase, FindsWhatAPlainSearchInFoldedTextsFinds)
     }
 }
 
-// A search looks for signs and figures as they stand, and for the first bytes of what folds to the first letter.
+// The Kelvin, Ohm and Angstrom signs among them.
 TEST(ContainsNoCase, FindsEveryCharacterByEveryCaseOfIt)
 {
-    for (char32_t c = 1; c < 0x2100; ++c) {
+    for (char32_t c = 1; c < 0x2130; ++c) {
         std::string text;
         appendCharacter(text, c);
         const std::string folded = toLower(text);
@@ -82,10 +82,6 @@ TEST(ContainsNoCase, FindsEveryCharacterByEveryCaseOfIt)
         ASSERT_TRUE(pattern.isIn("ñ" + folded + "Z")) << std::hex << static_cast<unsigned>(c);
         ASSERT_TRUE(NoCasePattern(folded).isIn("1 ñ" + text)) << std::hex << static_cast<unsigned>(c);
         ASSERT_FALSE(pattern.isIn("ñ" + folded)) << std::hex << static_cast<unsigned>(c);
-        const bool letter = folded != text || (c >= 'a' && c <= 'z') || c >= 0x80;
-        if (!letter) continue;
-        for (const char sign : {'.', '/', '7', '_'})
-            ASSERT_NE(folded, std::string(1, sign)) << std::hex << static_cast<unsigned>(c);
     }
 }
 
@@ -163,15 +159,16 @@ TEST(ContainsNoCase, AgreesWithASearchCharacterByCharacter)
         return text;
     };
     int found = 0;
+    int missed = 0;
     for (int round = 0; round < 40'000; ++round) {
         const std::string typed = draw(4);
         const std::string text = draw(60);
         const bool holds = holdsAtACharacter(text, typed);
         ASSERT_EQ(containsNoCase(text, typed), holds) << typed << " in " << text;
-        found += holds ? 1 : 0;
+        if (!typed.empty()) (holds ? found : missed) += 1;
     }
     EXPECT_GT(found, 4'000); // both answers come often
-    EXPECT_LT(found, 36'000);
+    EXPECT_GT(missed, 4'000);
 }
 
 } // namespace
