@@ -18,9 +18,9 @@ namespace dn::fuzz {
 namespace {
 
 /// Begins each password, and stands in nothing else that is looked at.
-constexpr std::string_view mark = "zqp";
+constexpr std::string_view passwordMark = "zqp";
 
-bool holdsMark(std::string_view text) { return text.find(mark) != std::string_view::npos; }
+bool holdsMark(std::string_view text) { return text.find(passwordMark) != std::string_view::npos; }
 
 QString someText(Input& input) { return QString::fromStdString(input.text()); }
 
@@ -96,15 +96,15 @@ void requireReached(const host::OwnDatabase& database, const std::string& passwo
 void starts(Input& input)
 {
     const host::StartChoice choice = someChoice(input);
-    const std::string password = std::string(mark) + someText(input).toStdString();
+    const std::string password = std::string(passwordMark) + someText(input).toStdString();
     const std::string junk = input.rest();
     const tests::OutputFolder folder;
-    const auto write = [&](const char* name, const std::string& content) {
+    const auto put = [&](const char* name, const std::string& content) {
         std::ofstream(folder.file(name), std::ios::binary) << content;
         return QString::fromStdString(folder.file(name));
     };
 
-    const auto read = host::readStartChoice(write("a.ini", junk));
+    const auto read = host::readStartChoice(put("a.ini", junk));
     if (read && read->own) requireSafe(read->database);
     const QString copy = QString::fromStdString(folder.file("b.ini"));
     if (read)
@@ -113,7 +113,7 @@ void starts(Input& input)
 
     if (choice.own && !host::problemOf(choice.database).isEmpty()) return;
     if (choice.own) requireSafe(choice.database);
-    const QString file = write("c.ini", "[base]\nclave=" + std::string(mark) + "\n" + junk);
+    const QString file = put("c.ini", "[base]\nclave=" + std::string(passwordMark) + "\n" + junk);
     require(host::writeStartChoice(file, choice), "a choice is written over whatever is there");
     require(host::readStartChoice(file) == remembered(choice), "a choice comes back from its file");
     const auto own = (choice.database.servers.empty() ? QString() : written(choice.database.servers, 0)) +
