@@ -127,8 +127,10 @@ ClickLabelView::ClickLabelView(screen::Label& label, QWidget* parent, Guard& gua
     setAttribute(Qt::WA_Hover);
     // What a tab shows is read anew, which may take a while.
     connect(this, &QAbstractButton::clicked, this, [this] {
-        const Hourglass hourglass;
-        bond_.gesture([](auto& it) { it.click(); });
+        bond_.gesture([](auto& it) {
+            const Hourglass hourglass; // gone by the time that a failure is told
+            it.click();
+        });
     });
     bond_.refresh();
 }
