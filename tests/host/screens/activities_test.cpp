@@ -3,6 +3,8 @@
 
 // The activities in the window of a project: they are stored with the project, or not at all.
 
+#include "screen/qt/colours.h"
+#include "screen/qt/theme.h"
 #include "tests/host/screens/projects_at_work.h"
 
 #include <QApplication>
@@ -83,6 +85,29 @@ TEST_F(Activities, a_click_on_the_check_box_marks_it_too)
     });
     opens();
     EXPECT_EQ(value("SELECT Hecho FROM actividad WHERE Sys_PK = 52"), "1");
+}
+
+TEST_F(Activities, what_is_done_can_be_read_in_every_theme)
+{
+    using screen::qt::Scheme;
+    const QPalette before = QApplication::palette();
+    operatorAt.expect("EditarProyecto", [](QWidget& window) {
+        for (const Scheme scheme : {Scheme::light, Scheme::dark, Scheme::whiteOnBlack, Scheme::blackOnWhite}) {
+            QApplication::setPalette(screen::qt::schemePalette(scheme));
+            const auto inkOf = [&](int row, int column) {
+                return list(window).topLevelItem(row)->foreground(column).color();
+            };
+            const QPalette shown = list(window).palette();
+            EXPECT_EQ(inkOf(1, 3), shown.color(QPalette::Text)) << "what is to do";
+            for (int column = 1; column <= 3; ++column)
+                for (const auto paper : {QPalette::Base, QPalette::AlternateBase})
+                    EXPECT_GE(screen::qt::contrast(inkOf(0, column), shown.color(paper)), screen::qt::readable)
+                        << static_cast<int>(scheme) << ", column " << column;
+        }
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    opens();
+    QApplication::setPalette(before);
 }
 
 TEST_F(Activities, putting_off_changes_the_date_alone)
