@@ -8,9 +8,11 @@
 #include "screen/qt/list_view_view.h"
 #include "screen/qt/text.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
 namespace dn::screen::qt {
 namespace {
@@ -110,6 +112,11 @@ bool LabelView::eventFilter(QObject* watched, QEvent* event)
     if (fits && watched == parent() && event->type() == QEvent::Resize) {
         fit(*label);
         update();
+    }
+    // No room at all, as beside the marks in a window of 800 pixels: what it lies in tells its text.
+    if (fits && watched == parent() && event->type() == QEvent::ToolTip && room() <= 0) {
+        QToolTip::showText(static_cast<const QHelpEvent*>(event)->globalPos(), text(), parentWidget());
+        return true;
     }
     return QLabel::eventFilter(watched, event);
 }

@@ -90,24 +90,27 @@ TEST_F(Activities, a_click_on_the_check_box_marks_it_too)
 TEST_F(Activities, what_is_done_can_be_read_in_every_theme)
 {
     using screen::qt::Scheme;
-    const QPalette before = QApplication::palette();
     operatorAt.expect("EditarProyecto", [](QWidget& window) {
+        constexpr int toDo = 0; // it stands ahead of what is done
+        constexpr int isDone = 1;
+        const auto inkOf = [&](int row, int column) {
+            return list(window).topLevelItem(row)->foreground(column).color();
+        };
         for (const Scheme scheme : {Scheme::light, Scheme::dark, Scheme::whiteOnBlack, Scheme::blackOnWhite}) {
-            QApplication::setPalette(screen::qt::schemePalette(scheme));
-            const auto inkOf = [&](int row, int column) {
-                return list(window).topLevelItem(row)->foreground(column).color();
-            };
+            window.setPalette(screen::qt::schemePalette(scheme));
             const QPalette shown = list(window).palette();
-            EXPECT_EQ(inkOf(1, 3), shown.color(QPalette::Text)) << "what is to do";
-            for (int column = 1; column <= 3; ++column)
+            for (int column = 1; column <= 3; ++column) {
+                EXPECT_EQ(inkOf(toDo, column), shown.color(QPalette::Text));
+                EXPECT_NE(inkOf(isDone, column), shown.color(QPalette::Text));
                 for (const auto paper : {QPalette::Base, QPalette::AlternateBase})
-                    EXPECT_GE(screen::qt::contrast(inkOf(0, column), shown.color(paper)), screen::qt::readable)
+                    EXPECT_GE(screen::qt::contrast(inkOf(isDone, column), shown.color(paper)),
+                              screen::qt::readable)
                         << static_cast<int>(scheme) << ", column " << column;
+            }
         }
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     opens();
-    QApplication::setPalette(before);
 }
 
 TEST_F(Activities, putting_off_changes_the_date_alone)
