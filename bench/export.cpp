@@ -41,6 +41,8 @@ public:
 
     std::string_view cell(std::size_t row, std::size_t column) const { return cells_[row * columnCount + column]; }
 
+    std::size_t companies() const { return filled() - (columnCount - 1) * rowCount; }
+
     std::size_t filled() const
     {
         return static_cast<std::size_t>(
@@ -132,13 +134,17 @@ std::size_t linesOf(const std::string& file)
     return static_cast<std::size_t>(std::count(file.begin(), file.end(), '\n'));
 }
 
-std::size_t rowsOfHtml(const std::string& file)
+std::size_t countOf(const std::string& file, std::string_view text)
 {
-    std::size_t rows = 0;
-    for (std::size_t at = file.find("<tr><td>"); at != std::string::npos; at = file.find("<tr><td>", at + 1))
-        ++rows;
-    return rows;
+    std::size_t count = 0;
+    for (std::size_t at = file.find(text); at != std::string::npos; at = file.find(text, at + 1))
+        ++count;
+    return count;
 }
+
+constexpr std::string_view lastName = "Jos\xE9 Mar\xED"
+                                      "a \xD1\xFA\xF1"
+                                      "ez 199999"; // a byte for each sign
 
 } // namespace
 
@@ -161,11 +167,19 @@ void benchExport(int rounds, Report& report)
         asHtml.push_back(measure([&] { tables::writeHtml(html, "Correos", shown); }));
     }
     const std::size_t captions = columnCount * ((rowCount + tables::rowsOfSheet - 1) / tables::rowsOfSheet);
-    if (cellsOfWorkbook(contentsOf(workbook)) != rows.filled() + captions)
+    const std::string cells = contentsOf(workbook);
+    if (cellsOfWorkbook(cells) != rows.filled() + captions)
         report.wrong("export to a workbook", "cells are missing in the file");
+    if (cells.find(lastName) == std::string::npos ||
+        countOf(cells, "El Sol") < rowCount / 2) // some are torn between two records
+        report.wrong("export to a workbook", "the file has other texts");
     if (linesOf(contentsOf(csv)) != rowCount)
         report.wrong("comma-separated values", "rows are missing in the file");
-    if (rowsOfHtml(contentsOf(html)) != rowCount) report.wrong("export to HTML", "rows are missing in the file");
+    const std::string page = contentsOf(html);
+    if (countOf(page, "<tr><td>") != rowCount) report.wrong("export to HTML", "rows are missing in the file");
+    if (countOf(page, "&quot;El Sol&quot;, S.A. ") != rows.companies() ||
+        countOf(page, "<td>José María Ñúñez ") != rowCount)
+        report.wrong("export to HTML", "the file has other texts");
 
     report.figure("200,000 rows as comma-separated values, CPU", median(plain).cpu, "ms");
     report.figure("200,000 rows as a workbook, CPU", median(asWorkbook).cpu, "ms");

@@ -27,6 +27,7 @@
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 namespace {
 
@@ -82,11 +83,26 @@ Options readOptions(const QApplication& application)
 
 void tell(const std::string& what) { std::fprintf(stderr, "%s\n", what.c_str()); }
 
+/// A group that breaks off is missed, and the others are measured all the same; the figures are shown and do not
+/// go into the document.
+void attempt(const std::string& group, Results& results, const std::function<void()>& work)
+{
+    try {
+        work();
+    } catch (const std::exception& failure) {
+        tell(group + ": " + failure.what());
+        results.report.wrong(group, failure.what());
+        results.brokenOff = true;
+    }
+}
+
 void benchAllLists(BenchDatabase& database, Results& results)
 {
     for (const Scale& scale : database.scales())
-        for (ListFigures& figures : benchLists(database, scale, results.report))
-            results.lists.push_back(std::move(figures));
+        attempt("lists of " + std::to_string(scale.rows) + " rows", results, [&] {
+            for (ListFigures& figures : benchLists(database, scale, results.report))
+                results.lists.push_back(std::move(figures));
+        });
     judgeLists(results.lists, results.report);
 }
 
@@ -124,12 +140,13 @@ void benchOnTheDatabase(const Options& options, Results& results)
     BenchDatabase database(options.folder, options.largest, options.agents);
     results.serverVersion = database.version();
     if (options.runs("lists")) benchAllLists(database, results);
-    if (options.runs("rows")) benchRows(database, results);
-    if (options.runs("commands")) {
-        tell("commands");
-        benchCommands(database, database.scale(manyRows), database.scales().back(), 3, results.report);
-    }
-    if (options.runs("load")) benchLoad(database, options.agents, results);
+    if (options.runs("rows")) attempt("rows", results, [&] { benchRows(database, results); });
+    if (options.runs("commands"))
+        attempt("commands", results, [&] {
+            tell("commands");
+            benchCommands(database, database.scale(manyRows), database.scales().back(), 3, results.report);
+        });
+    if (options.runs("load")) attempt("load", results, [&] { benchLoad(database, options.agents, results); });
 }
 
 void writeDocument(const Options& options, const Results& results)
@@ -149,20 +166,22 @@ int run(const QApplication& application)
     const auto start = std::chrono::steady_clock::now();
     Results results;
     results.revision = options.revision;
-    if (options.runs("export")) benchExport(5, results.report);
-    if (options.runs("program")) {
-        tell("the program, starting and idle");
-        const std::string program = (QCoreApplication::applicationDirPath() + "/../host/dncontacts").toStdString();
-        benchProgram(program, options.folder + "-program", results.report);
-    }
-    if (options.needsDatabase()) benchOnTheDatabase(options, results);
+    if (options.runs("export")) attempt("export", results, [&] { benchExport(5, results.report); });
+    if (options.runs("program"))
+        attempt("program", results, [&] {
+            tell("the program, starting and idle");
+            const std::string program =
+                (QCoreApplication::applicationDirPath() + "/../host/dncontacts").toStdString();
+            benchProgram(program, options.folder + "-program", results.report);
+        });
+    if (options.needsDatabase()) attempt("database", results, [&] { benchOnTheDatabase(options, results); });
     results.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (!results.lists.empty())
         std::printf("%s\n%s\n", listsAsMarkdown(results.lists).c_str(), wallAsMarkdown(results.lists).c_str());
     if (results.load) std::printf("%s\n", loadAsMarkdown(*results.load).c_str());
     std::printf("%s", results.report.table().c_str());
-    if (options.only.isEmpty() && !options.document.empty()) writeDocument(options, results);
-    if (!options.check) return 0;
+    if (options.only.isEmpty() && !options.document.empty() && !results.brokenOff) writeDocument(options, results);
+    if (!options.check) return results.brokenOff ? 2 : 0;
     for (const std::string& row : results.report.missed())
         std::printf("missed: %s\n", row.c_str());
     return results.report.status();

@@ -151,9 +151,12 @@ private:
     // Settled is who has used no processor for a while.
     static void settle(QProcess& process)
     {
+        const auto start = std::chrono::steady_clock::now();
         const auto pid = static_cast<pid_t>(process.processId());
         double before = -1;
         for (int quiet = 0; quiet < 10;) {
+            if (std::chrono::steady_clock::now() - start > 60s)
+                throw std::runtime_error("the program does not come to rest");
             std::this_thread::sleep_for(200ms);
             const double now = cpuOfProcess(pid);
             quiet = now > 0 && now == before ? quiet + 1 : 0;

@@ -75,7 +75,8 @@ std::string figuresOf(const Results& results, const std::string& picture)
            "\n### Lists to the first painted frame\n\n![Time over rows](" + picture +
            ")\n\nMilliseconds of client CPU where nothing else is said, medians.\n\n" +
            listsAsMarkdown(results.lists) +
-           "\n### By the clock\n\nMilliseconds, of the round whose CPU is the median.\n\n" +
+           "\n### By the clock\n\nMilliseconds: first rows by their own median, all else of the round whose CPU "
+           "is the median.\n\n" +
            wallAsMarkdown(results.lists) +
            "\n### Who takes the time\n\nMilliseconds of CPU of one load: the server, in steps of 10, our driver "
            "reading every cell, and the rest of ours up to the frame.\n\n" +

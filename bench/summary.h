@@ -21,8 +21,9 @@ struct Results {
     std::size_t agents = 0;   ///< of the load
     double loadServerCpu = 0; ///< milliseconds of the server's processor in it
     std::string serverVersion;
-    std::string revision; ///< of the sources, as the caller knows it
-    double seconds = 0;   ///< of the whole run
+    std::string revision;   ///< of the sources, as the caller knows it
+    double seconds = 0;     ///< of the whole run
+    bool brokenOff = false; ///< a group ended ahead of its end
 };
 
 /// The bars of the load: what our own code adds to every action, and that every answer was right.

@@ -3,6 +3,7 @@
 
 #include "bench/load/agent.h"
 
+#include "bench/order.h"
 #include "host/database/database_choice.h"
 #include "screen/button.h"
 
@@ -25,6 +26,12 @@ Kind& childOf(screen::Form& form, const char* name)
     for (screen::Element* element : form.children())
         if (element->name() == name) return dynamic_cast<Kind&>(*element);
     throw std::runtime_error(form.name() + " has no " + name);
+}
+
+bool isSorted(screen::ListView& list)
+{
+    return isInOrder(list.rows(), static_cast<std::size_t>(list.SortKey()),
+                     list.SortOrder() == screen::ListView::descending);
 }
 
 } // namespace
@@ -195,9 +202,10 @@ int Agent::expectedRows(desk::Tab tab)
         const char* const table = tab == desk::proyectos   ? "Proyecto"
                                   : tab == desk::contactos ? "Persona"
                                                            : "Organizacion";
+        const std::string listed = tab == desk::proyectos ? " AND UF_Status1 < 5" : "";
         known->second = static_cast<int>(connection_
                                              .execute(std::string("SELECT COUNT(*) FROM ") + table +
-                                                      " WHERE IEjecutivo = " + std::to_string(agent_))
+                                                      " WHERE IEjecutivo = " + std::to_string(agent_) + listed)
                                              ->value(0)
                                              .toWhole());
     }
@@ -229,7 +237,7 @@ void Agent::sortBySome()
             lvw().clickHeader(column);
             lvw().ListItems()(1); // rows are sorted once somebody looks at them, as a view does
         },
-        [&] { return lvw().SortKey() == column && lvw().ListItems().Count() == rows; });
+        [&] { return lvw().SortKey() == column && lvw().ListItems().Count() == rows && isSorted(lvw()); });
 }
 
 // Put back behind the control's back, so that the lists stay as long as they are.
@@ -327,6 +335,28 @@ void Agent::changeStatus()
         Action::refresh, [&] { filter.pick("Recibido"); }, [&] { return lvw().ListItems().Contains(key); });
 }
 
+// The detail of a prospect begins with his key, that of a project with the text of its row.
+bool Agent::detailShows(const std::string& key)
+{
+    desk::Elements& elements = control_.elements();
+    const std::string& shown = elements.detail.txtInfo.Text();
+    if (key.starts_with('K')) return shown.starts_with(key);
+    screen::ListItems projects = elements.projects.lvwProy.ListItems();
+    return projects.Contains(key) && shown.starts_with(std::string(projects(key).Text()) + "\r\n") &&
+           shown.size() > 2;
+}
+
+// A party of both views has one row.
+int Agent::dueRows()
+{
+    const std::string agent = " WHERE ejecutivo = " + std::to_string(agent_);
+    return static_cast<int>(connection_
+                                .execute("SELECT COUNT(*) FROM (SELECT tipo, sys_pk FROM qhoy" + agent +
+                                         " UNION SELECT tipo, sys_pk FROM qatascados" + agent + ") AS due")
+                                ->value(0)
+                                .toWhole());
+}
+
 void Agent::workTheQueue()
 {
     screen::ListView& queue = control_.elements().today.lvwHoy;
@@ -338,7 +368,9 @@ void Agent::workTheQueue()
         },
         [&] {
             const auto first = queue.SelectedItem();
-            return first && control_.elements().detail.txtInfo.Text().starts_with(std::string(first->Key()));
+            const int due = dueRows();
+            return queue.ListItems().Count() == due &&
+                   (due == 0 || (first && detailShows(std::string(first->Key()))));
         });
 }
 

@@ -92,6 +92,8 @@ private:
     void discardSome();
     screen::ListView& lvw() { return control_.elements().prospects.lvw; }
     bool timelineHolds(const std::string& text);
+    bool detailShows(const std::string& key);
+    int dueRows();
 
     std::mt19937_64 random_;
     std::chrono::milliseconds thinking_;

@@ -52,7 +52,7 @@ constexpr std::array<const char*, 14> actionNames{"refresh of the prospects",
 
 struct LoadOptions {
     host::MariadbTarget server;
-    std::vector<std::int32_t> agents; ///< a thread for each; a key may come more than once
+    std::vector<std::int32_t> agents; ///< a thread for each, and each once
     std::chrono::milliseconds duration = std::chrono::seconds(20);
     std::chrono::milliseconds thinking = std::chrono::seconds(4); ///< on average, between two actions
     std::uint64_t seed = 1;

@@ -7,8 +7,8 @@
 //     --folder DIR]
 //
 // Without --connect it starts a server of its own on the folder and gives each agent rows of his own. With it, the
-// agents of that database work, from the first one on and over again where they are fewer than asked for: they
-// write notes and calls into it, so it must be one for the purpose. Ends with 1 when an answer was wrong, and with
+// agents of that database work who have prospects, each at most once: they write notes and calls into it, so it
+// must be one for the purpose. Ends with 1 when an answer was wrong, and with
 // --soak when its memory grew: what it had every ten seconds stands in the file.
 
 #include "bench/load/load.h"
@@ -78,11 +78,12 @@ std::vector<std::int32_t> agentsOf(const host::MariadbTarget& target, std::size_
                             "c.uf_IEjecutivo = a.Sys_PK AND c.uf_Status = 0 ORDER BY a.Sys_PK");
     for (; !rows->Eof(); rows->MoveNext())
         keys.push_back(rows->value(0).toInt32());
-    if (keys.empty()) throw std::runtime_error("no agent has prospects");
-    std::vector<std::int32_t> agents;
-    for (std::size_t i = 0; i < count; ++i)
-        agents.push_back(keys[i % keys.size()]);
-    return agents;
+    // Two at the desk of one agent would see each other's rows come and go, and take that for a wrong answer.
+    if (keys.size() < count)
+        throw std::runtime_error("agents with prospects in this database: " + std::to_string(keys.size()) +
+                                 "; --agents takes no more");
+    keys.resize(count);
+    return keys;
 }
 
 /// Runs the load and looks at the memory. @return whether it stayed where it was.

@@ -3,6 +3,7 @@
 
 #include "host/database/database_choice.h"
 
+#include "base/no_case_pattern.h"
 #include "base/text.h"
 #include "data/error.h"
 #include "host/database/drivers.h"

@@ -58,20 +58,13 @@ public:
 
     char32_t fold(char32_t c) const { return c < table_.size() ? table_[c] : slow(c); }
 
-    /// The first bytes of all characters that fold to this one.
-    std::bitset<256> leadsOf(char32_t folded) const
+    std::vector<char32_t> othersOf(char32_t folded) const
     {
-        std::bitset<256> leads;
-        const auto add = [&](char32_t c) {
-            std::string text;
-            appendCharacter(text, c);
-            leads.set(static_cast<unsigned char>(text.front()));
-        };
-        add(folded);
+        std::vector<char32_t> others;
         const auto [first, behind] = others_.equal_range(folded);
         for (auto other = first; other != behind; ++other)
-            add(other->second);
-        return leads;
+            others.push_back(other->second);
+        return others;
     }
 
 private:
@@ -87,74 +80,6 @@ const FoldTable& foldTable()
 {
     static const FoldTable table;
     return table;
-}
-
-// Eight bytes at a time: every cell that is searched is asked.
-bool isAscii(std::string_view text)
-{
-    std::uint64_t all = 0;
-    for (; text.size() >= sizeof(all); text.remove_prefix(sizeof(all))) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, text.data(), sizeof(word));
-        all |= word;
-    }
-    for (const char c : text)
-        all |= static_cast<unsigned char>(c);
-    return (all & 0x8080'8080'8080'8080U) == 0;
-}
-
-char foldAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-// Whether `text` begins with `folded`, a text folded already.
-bool startsWithFolded(std::string_view text, std::string_view folded)
-{
-    while (!folded.empty()) {
-        if (text.empty() || foldCase(takeCharacter(text)) != takeCharacter(folded)) return false;
-    }
-    return true;
-}
-
-// From the end: patterns that begin alike, as links do, differ there. @param text no shorter than the pattern.
-bool startsWithAscii(std::string_view text, std::string_view folded)
-{
-    return std::equal(folded.rbegin(), folded.rend(), text.substr(0, folded.size()).rbegin(),
-                      [](char wanted, char c) { return wanted == foldAscii(c); });
-}
-
-// The place of the last character that has no other case, if there is one: no other folds to a sign or a figure.
-std::size_t anchorOf(std::string_view folded)
-{
-    const auto hasCase = [](char c) { return (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80; };
-    const auto last = std::find_if_not(folded.rbegin(), folded.rend(), hasCase);
-    return last == folded.rend() ? folded.size() : static_cast<std::size_t>(folded.rend() - last) - 1;
-}
-
-std::bitset<256> leadsOf(std::string_view folded)
-{
-    if (folded.empty()) return {};
-    return foldTable().leadsOf(takeCharacter(folded));
-}
-
-// A byte that begins no character may yet stand inside of one.
-bool beginsInsideACharacter(std::string_view text)
-{
-    return (static_cast<unsigned char>(text[0]) & 0xC0U) == 0x80U;
-}
-
-// Goes from one anchor to the next, which is many characters at a step.
-bool containsAsciiNoCase(std::string_view text, std::string_view folded, std::size_t anchor)
-{
-    if (folded.size() > text.size()) return false;
-    const std::size_t last = text.size() - folded.size();
-    for (std::size_t i = 0; i <= last; ++i) {
-        if (anchor < folded.size()) {
-            const std::size_t found = text.find(folded[anchor], i + anchor);
-            if (found == std::string_view::npos || found - anchor > last) return false;
-            i = found - anchor;
-        }
-        if (startsWithAscii(text.substr(i), folded)) return true;
-    }
-    return false;
 }
 
 } // namespace
@@ -198,6 +123,20 @@ void appendCharacter(std::string& text, char32_t character)
     }
 }
 
+// Eight bytes at a time: texts that are searched are asked.
+bool isAscii(std::string_view text)
+{
+    std::uint64_t all = 0;
+    for (; text.size() >= sizeof(all); text.remove_prefix(sizeof(all))) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data(), sizeof(word));
+        all |= word;
+    }
+    for (const char c : text)
+        all |= static_cast<unsigned char>(c);
+    return (all & 0x8080'8080'8080'8080U) == 0;
+}
+
 std::size_t length(std::string_view text)
 {
     std::size_t count = 0;
@@ -226,6 +165,14 @@ std::string without(std::string_view text, std::string_view part)
 
 char32_t foldCase(char32_t character) { return foldTable().fold(character); }
 
+std::vector<char32_t> charactersThatFoldTo(char32_t folded)
+{
+    std::vector<char32_t> characters{folded};
+    for (const char32_t other : foldTable().othersOf(folded))
+        characters.push_back(other);
+    return characters;
+}
+
 std::string toLower(std::string_view text)
 {
     std::string result;
@@ -241,34 +188,5 @@ bool equalsNoCase(std::string_view left, std::string_view right)
         if (foldCase(takeCharacter(left)) != foldCase(takeCharacter(right))) return false;
     return left.empty() && right.empty();
 }
-
-NoCasePattern::NoCasePattern(std::string_view pattern)
-    : folded_(toLower(pattern)), anchor_(anchorOf(folded_)), ascii_(isAscii(folded_)), starts_(leadsOf(folded_))
-{
-}
-
-bool NoCasePattern::isIn(std::string_view text) const
-{
-    if (folded_.empty()) return true;
-    if (anchor_ < folded_.size() && text.find(folded_[anchor_]) == std::string_view::npos) return false;
-    // The Kelvin sign and the dotted capital I fold to ASCII, so an ASCII pattern alone does not make the text
-    // ASCII. Nothing in ASCII folds to anything else.
-    if (isAscii(text)) return ascii_ && containsAsciiNoCase(text, folded_, anchor_);
-    return isInUnicode(text);
-}
-
-bool NoCasePattern::isInUnicode(std::string_view text) const
-{
-    if (beginsInsideACharacter(folded_)) {
-        for (; !text.empty(); takeCharacter(text))
-            if (startsWithFolded(text, folded_)) return true;
-        return false;
-    }
-    for (; !text.empty(); text.remove_prefix(1))
-        if (starts_[static_cast<unsigned char>(text.front())] && startsWithFolded(text, folded_)) return true;
-    return false;
-}
-
-bool containsNoCase(std::string_view text, std::string_view part) { return NoCasePattern(part).isIn(text); }
 
 } // namespace dn

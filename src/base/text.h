@@ -7,16 +7,18 @@
 
 #include "base/export.h"
 
-#include <bitset>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dn {
 
 /// A carriage return and a line feed: the line end of every multi-line text here.
 inline constexpr std::string_view crlf = "\r\n";
+
+/// Whether all bytes are below 128.
+DN_INTERNAL bool isAscii(std::string_view text);
 
 /// Characters, not bytes. A byte that belongs to no valid sequence counts as one character.
 DN_INTERNAL std::size_t length(std::string_view text);
@@ -38,29 +40,13 @@ DN_INTERNAL void appendCharacter(std::string& text, char32_t character);
 /// Small letter of a character by the simple folding of the C++ library; every other character as it is.
 DN_INTERNAL char32_t foldCase(char32_t character);
 
+/// The character itself and, of those below U+10000, all others that fold to it.
+/// @param folded what foldCase() gave.
+DN_INTERNAL std::vector<char32_t> charactersThatFoldTo(char32_t folded);
+
 /// The text with every character folded; for comparing, and for `lower case` where a procedure asks for it.
 DN_INTERNAL std::string toLower(std::string_view text);
 
 DN_INTERNAL bool equalsNoCase(std::string_view left, std::string_view right);
-
-/// A text to look for without regard to case; for a search that is repeated over many texts.
-class DN_INTERNAL NoCasePattern {
-public:
-    explicit NoCasePattern(std::string_view pattern);
-
-    /// Whether the text holds the pattern. An empty pattern is held by every text.
-    bool isIn(std::string_view text) const;
-
-private:
-    bool isInUnicode(std::string_view text) const;
-
-    std::string folded_;
-    std::size_t anchor_; ///< of `folded_`: a sign that has no other case, looked for first; its size for none
-    bool ascii_;
-    std::bitset<256> starts_; ///< the bytes with which a text can begin that folds to the pattern
-};
-
-/// Whether `text` holds `part`, without regard to case. An empty part is held by every text.
-DN_INTERNAL bool containsNoCase(std::string_view text, std::string_view part);
 
 } // namespace dn

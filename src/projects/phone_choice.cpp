@@ -3,6 +3,7 @@
 
 #include "projects/phone_choice.h"
 
+#include "base/no_case_pattern.h"
 #include "base/text.h"
 #include "data/failure_modes.h"
 #include "desk/shared.h"

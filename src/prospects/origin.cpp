@@ -3,7 +3,7 @@
 
 #include "prospects/origin.h"
 
-#include "base/text.h"
+#include "base/no_case_pattern.h"
 #include "data/failure_modes.h"
 
 #include <algorithm>

@@ -45,24 +45,12 @@ void ListSubItems::Add(std::string_view text)
     item_.list_->textChanged(row);
 }
 
-int ListSubItems::Count() const { return static_cast<int>(item_.rows().cellCount(item_.row())) - 1; }
-
-ListSubItem ListSubItems::operator()(int index) const
-{
-    if (index < 1 || index > Count()) throw RuntimeError("El índice está fuera de los límites");
-    return {item_, static_cast<std::size_t>(index)};
-}
+void ListSubItems::outOfRange() { throw RuntimeError("El índice está fuera de los límites"); }
 
 // ---- ListItem
 // -------------------------------------------------------------------------------------------------
 
-ListRows::RowNumber ListItem::row() const
-{
-    if (generation_ != list_->generation_) throw RuntimeError("El elemento ya no está en la lista");
-    return row_;
-}
-
-ListRows& ListItem::rows() const { return list_->rows_; }
+void ListItem::gone() { throw RuntimeError("El elemento ya no está en la lista"); }
 
 void ListItem::textChanged() const { list_->textChanged(row()); }
 
@@ -71,8 +59,6 @@ void ListItem::looksChanged() const { list_->markChanged(row()); }
 std::string_view ListItem::Key() const { return list_->rows_.key(row()); }
 
 std::string_view ListItem::Text() const { return list_->rows_.cell(row(), 0); }
-
-screen::ListSubItems ListItem::ListSubItems() const { return screen::ListSubItems(*this); }
 
 void ListItem::cell(std::size_t index, std::string_view text) const
 {

@@ -67,8 +67,8 @@ ListRows::RowNumber ListRows::find(std::string_view key) const
 
 std::string_view ListRows::cell(RowNumber row, std::size_t cell) const
 {
-    if (cell >= cellCount(row)) return {};
-    return isOpen(row) ? draft().cell(cell) : rows_[row].cell(cell);
+    if (!isOpen(row)) return rows_[row].cell(cell);
+    return cell < draft().ends.size() ? draft().cell(cell) : std::string_view();
 }
 
 std::string_view ListRows::cellsFrom(RowNumber row, std::size_t cell) const

@@ -67,6 +67,7 @@ private:
 
     ListRows::RowNumber row() const;
     ListRows& rows() const;
+    [[noreturn]] static void gone();
     void textChanged() const;
     void looksChanged() const;
 
@@ -103,6 +104,8 @@ public:
     ListSubItem operator()(int index) const;
 
 private:
+    [[noreturn]] static void outOfRange();
+
     ListItem item_;
 };
 
@@ -233,5 +236,26 @@ private:
     bool sorted_ = false;
     bool checkBoxes_ = false;
 };
+
+// What every cell of a load goes through. The handles stay in registers when these are compiled in place; a copy
+// in memory waits for all that was written before it.
+
+inline ListRows::RowNumber ListItem::row() const
+{
+    if (generation_ != list_->generation_) gone();
+    return row_;
+}
+
+inline ListRows& ListItem::rows() const { return list_->rows_; }
+
+inline screen::ListSubItems ListItem::ListSubItems() const { return screen::ListSubItems(*this); }
+
+inline int ListSubItems::Count() const { return static_cast<int>(item_.rows().cellCount(item_.row())) - 1; }
+
+inline ListSubItem ListSubItems::operator()(int index) const
+{
+    if (index < 1 || index > Count()) outOfRange();
+    return {item_, static_cast<std::size_t>(index)};
+}
 
 } // namespace dn::screen

@@ -90,6 +90,22 @@ char* writeOffsets(char* place, const RowDraft& draft, std::size_t textSize)
     return place;
 }
 
+template <class Offset>
+std::size_t endAt(const char* ends, std::size_t index)
+{
+    Offset end = 0;
+    std::memcpy(&end, ends + index * sizeof(end), sizeof(end));
+    return end;
+}
+
+// The text lies behind the ends of all segments.
+template <class Offset>
+std::string_view segmentOf(const char* ends, std::size_t segments, std::size_t index)
+{
+    const std::size_t begin = index == 0 ? 0 : endAt<Offset>(ends, index - 1);
+    return {ends + segments * sizeof(Offset) + begin, endAt<Offset>(ends, index) - begin};
+}
+
 } // namespace
 
 std::size_t RowBlock::sizeOf(const RowDraft& draft)
@@ -143,6 +159,11 @@ void RowBlock::copyTo(RowDraft& draft) const
     draft.checked = block_->checked;
 }
 
+std::string_view RowBlock::cell(std::size_t index) const
+{
+    return index < block_->cells ? segment(index + 1) : std::string_view();
+}
+
 std::size_t RowBlock::cellCount() const { return block_->cells; }
 
 const CellStyle* RowBlock::style(std::size_t cell) const
@@ -172,23 +193,18 @@ std::size_t RowBlock::overhead() const
 
 std::size_t RowBlock::size() const { return overhead() + segmentEnd(cellCount() + 1); }
 
+// Every cell that is painted, searched, sorted or exported is read here.
 std::string_view RowBlock::segment(std::size_t index) const
 {
-    const std::size_t begin = index == 0 ? 0 : segmentEnd(index - 1);
-    const char* const text = reinterpret_cast<const char*>(block_) + overhead();
-    return {text + begin, segmentEnd(index) - begin};
+    const char* const ends = offsets();
+    const std::size_t segments = cellCount() + 2;
+    return block_->wide ? segmentOf<std::uint32_t>(ends, segments, index)
+                        : segmentOf<std::uint16_t>(ends, segments, index);
 }
 
 std::size_t RowBlock::segmentEnd(std::size_t index) const
 {
-    if (block_->wide) {
-        std::uint32_t end = 0;
-        std::memcpy(&end, offsets() + index * sizeof(end), sizeof(end));
-        return end;
-    }
-    std::uint16_t end = 0;
-    std::memcpy(&end, offsets() + index * sizeof(end), sizeof(end));
-    return end;
+    return block_->wide ? endAt<std::uint32_t>(offsets(), index) : endAt<std::uint16_t>(offsets(), index);
 }
 
 const CellStyle* RowBlock::styles() const { return reinterpret_cast<const CellStyle*>(block_ + 1); }

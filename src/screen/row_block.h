@@ -76,8 +76,8 @@ public:
 
     std::string_view key() const { return segment(0); }
 
-    /// Cell 0 is the row's own text. @param index below cellCount().
-    std::string_view cell(std::size_t index) const { return segment(index + 1); }
+    /// Cell 0 is the row's own text. Empty for a cell that the row does not have.
+    std::string_view cell(std::size_t index) const;
 
     std::size_t cellCount() const;
 

@@ -8,6 +8,7 @@
 
 #include "base/text.h"
 
+#include <array>
 #include <string_view>
 
 namespace dn::tables {
@@ -33,7 +34,7 @@ th { background: #eee; }
 
 constexpr std::string_view foot = "</tbody>\n</table>\n</body>\n</html>\n";
 
-std::string_view entity(char byte)
+constexpr std::string_view entity(char byte)
 {
     switch (byte) {
     case '&':
@@ -51,7 +52,24 @@ std::string_view entity(char byte)
     }
 }
 
-bool standsForItself(char byte) { return isPlain(byte) && entity(byte).empty(); }
+constexpr std::size_t byteValues = 256;
+
+// Every byte of a document is asked for, so the answers lie ready.
+constexpr std::array<bool, byteValues> bytesThatStandForThemselves()
+{
+    std::array<bool, byteValues> answers{};
+    for (std::size_t value = 0; value < answers.size(); ++value) {
+        const char byte = static_cast<char>(static_cast<unsigned char>(value));
+        answers[value] = isPlain(byte) && entity(byte).empty();
+    }
+    return answers;
+}
+
+bool standsForItself(char byte)
+{
+    static constexpr std::array<bool, byteValues> answers = bytesThatStandForThemselves();
+    return answers[static_cast<unsigned char>(byte)];
+}
 
 void appendEscaped(std::string& out, std::string_view text)
 {

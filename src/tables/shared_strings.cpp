@@ -6,6 +6,7 @@
 #include "tables/storable_text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace dn::tables {
 namespace {
@@ -23,9 +24,12 @@ SharedStrings::SharedStrings(Records& records) : records_(records)
 
 void SharedStrings::add(std::string_view text)
 {
-    if (text.size() <= longestCell && plainBytes(text) == text.size()) {
-        addPlain(text);
-        return;
+    if (text.size() <= longestCell) {
+        const std::size_t plain = plainBytes(text);
+        if (plain == text.size() || narrow(text, plain)) {
+            addNarrow(plain == text.size() ? text : narrow_);
+            return;
+        }
     }
     convert(text);
     begin(units_.size(), wide_);
@@ -36,12 +40,29 @@ void SharedStrings::begin(std::size_t units, bool wide)
 {
     constexpr std::size_t head = 3; // it must not be torn from its first character
     if (records_.room() < head + (wide ? 4 : 1)) goOn();
-    records_.u16(static_cast<std::uint32_t>(units)).u8(wide ? 1 : 0);
+    const std::array<char, head> bytes{static_cast<char>(units & 0xFFU), static_cast<char>(units >> 8U),
+                                       static_cast<char>(wide ? 1 : 0)};
+    records_.bytes({bytes.data(), bytes.size()});
     ++count_;
 }
 
+// Letters with accents are units of one byte, too.
+bool SharedStrings::narrow(std::string_view text, std::size_t plain)
+{
+    narrow_.clear();
+    for (;;) {
+        narrow_ += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) return true;
+        const char32_t character = takeStorable(text);
+        if (character > 0xFF) return false;
+        narrow_ += static_cast<char>(static_cast<unsigned char>(character));
+        plain = plainBytes(text);
+    }
+}
+
 // The bytes of a plain text are its units.
-void SharedStrings::addPlain(std::string_view text)
+void SharedStrings::addNarrow(std::string_view text)
 {
     begin(text.size(), false);
     for (;;) {

@@ -30,7 +30,8 @@ public:
 
 private:
     void begin(std::size_t units, bool wide);
-    void addPlain(std::string_view text);
+    bool narrow(std::string_view text, std::size_t plain);
+    void addNarrow(std::string_view text);
     void convert(std::string_view text);
     void put(char32_t character, std::size_t& count);
     void writeUnits();
@@ -38,7 +39,8 @@ private:
 
     Records& records_;
     std::uint32_t count_ = 0;
-    std::u16string units_; // of the present text
+    std::string narrow_;   // the present text in units of one byte
+    std::u16string units_; // or in wider ones
     bool wide_ = false;    // some unit of it does not fit into a byte
 };
 

@@ -41,7 +41,7 @@ constexpr std::uint32_t boldCell = 16;
 class Workbook {
 public:
     Workbook(CompoundFile& file, const std::string& sheet, const Table& table)
-        : file_(file), records_(file), sheet_(sheet), table_(table)
+        : file_(file), records_(file), sheet_(sheet), table_(table), columns_(table.columns().size())
     {
     }
 
@@ -59,7 +59,7 @@ private:
         return std::max<std::size_t>(1, (table_.rows() + rowsOfSheet - 1) / rowsOfSheet);
     }
 
-    std::size_t columns() const { return table_.columns().size(); }
+    std::size_t columns() const { return columns_; }
 
     void writeGlobals();
     void writeFonts();
@@ -77,6 +77,7 @@ private:
     Records records_;
     const std::string& sheet_;
     const Table& table_;
+    std::size_t columns_;
     std::vector<std::uint32_t> places_; // where each sheet's position is to be filled in
     std::uint32_t nextText_ = 0;        // number of the text of the next cell that is not empty
 };

@@ -3,6 +3,7 @@
 
 #include "today/search.h"
 
+#include "base/no_case_pattern.h"
 #include "base/text.h"
 #include "data/failure_modes.h"
 

@@ -137,6 +137,17 @@ std::size_t countOf(const std::string& text, const std::string& part)
     return count;
 }
 
+TEST(Reports, growth_is_measured_between_different_numbers_alone)
+{
+    Report report;
+    report.growth("load", 100, 1000, 2, 22, 11);
+    EXPECT_THAT(report.missed(), IsEmpty());
+    report.growth("sort", 100, 1000, 2, 22.1, 11);
+    report.growth("search", 100, 100, 2, 2, 11);
+    EXPECT_THAT(report.missed(), ElementsAre(HasSubstr("sort: growth from 100 to 1,000 rows"),
+                                             HasSubstr("search: growth from 100 to 100 rows (not measured)")));
+}
+
 TEST(Plots, equal_ratios_are_equal_distances)
 {
     const std::string svg = svgOf({{"load", {{"ours", {{1000, 1}, {10'000, 10}, {100'000, 100}}}}}});

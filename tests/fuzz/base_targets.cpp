@@ -6,6 +6,7 @@
 #include "base/collation.h"
 #include "base/date_time.h"
 #include "base/format.h"
+#include "base/no_case_pattern.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "data/value.h"

@@ -4,6 +4,7 @@
 // The rights that docs/database.md asks for are enough for a day's work (the control has no others in any story),
 // and for nothing more.
 
+#include "base/no_case_pattern.h"
 #include "base/text.h"
 #include "screen/list_box.h"
 #include "tests/stories/documented_grants.h"

@@ -143,6 +143,31 @@ TEST_F(WorkbookFile, holds_texts_that_go_on_in_further_records_whole)
     EXPECT_EQ(texts[5], u"\uFFFD日");
 }
 
+// Letters with accents and other signs below U+0100 take a byte; one of the control characters among them becomes
+// a sign that does not, and with it the whole text.
+TEST_F(WorkbookFile, holds_narrow_texts_as_they_are)
+{
+    std::string accents; // goes on in a second record
+    for (int i = 0; i < 15'000; ++i)
+        accents += "é";
+    const MadeTable table({{"N", 50}}, {{accents},
+                                        {"\u00A0¿Ñandú?\u00FF"},
+                                        {"é\u0085"},
+                                        {"é\r\nü"},
+                                        {std::string(40'000, 'x')},
+                                        {std::string(32'766, 'x') + "é"},
+                                        {"x" + std::string(32'764, 'x') + "é"}});
+    const std::vector<std::u16string> texts = sharedTexts(written(table));
+    ASSERT_EQ(texts.size(), 8U);
+    EXPECT_EQ(texts[1], std::u16string(15'000, u'é'));
+    EXPECT_EQ(texts[2], u"\u00A0¿Ñandú?\u00FF");
+    EXPECT_EQ(texts[3], u"é\uFFFD");
+    EXPECT_EQ(texts[4], u"é\nü");
+    EXPECT_EQ(texts[5], std::u16string(32'767, u'x'));
+    EXPECT_EQ(texts[6], std::u16string(32'766, u'x') + u"é");
+    EXPECT_EQ(texts[7], std::u16string(32'765, u'x') + u"é");
+}
+
 // Readers take the texts record by record.
 TEST_F(WorkbookFile, has_both_halves_of_a_character_in_one_record)
 {

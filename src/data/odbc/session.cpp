@@ -3,7 +3,7 @@
 
 #include "data/odbc/session.h"
 
-#include "base/text.h"
+#include "base/no_case_pattern.h"
 #include "data/driver_support.h"
 #include "data/odbc/connection_string.h"
 
