@@ -222,15 +222,15 @@ TEST_F(Program, has_a_name_for_everything_where_it_asks_for_a_password)
     ASSERT_EQ(made.status, 0) << made.said;
     const auto settings = home_ / ".config/dncontacts";
     std::filesystem::create_directories(settings);
-    std::ofstream(settings / "mail.ini") << "url = smtp://127.0.0.1:9\nuser = ana\n";
-    const Outcome mailing = heard("--demo-rows 50 --agent 1 --user prueba",
+    std::ofstream(settings / "mail.ini") << "url = smtp://127.0.0.1:9\nuser = ana\nfrom = ana@example.com\n";
+    const Outcome mailing = heard("--agent 1 --user prueba",
                                   "Prospectos=Prospectos PRESS:Correo WINDOW:Correo:Enviar "
                                   "'WINDOW:DN Contactos:Enviar sin asunto' 'WINDOW:Clave del correo:Cancelar' "
                                   "WINDOW:Correo:Cancelar");
     EXPECT_EQ(mailing.status, 0) << mailing.said;
     std::ofstream(settings / "inicio.ini")
         << "[base]\ntipo=mariadb\nservidores=127.0.0.1:9\nnombre=ventas\nusuario=ana\n";
-    const Outcome asked = heard("", "'WINDOW:Clave de la base de datos:Cambiar…' WINDOW:Bienvenida:Salir");
+    const Outcome asked = heard("", "'WINDOW:Clave de la base de datos:Cambiar…' WINDOW:Bienvenida:Salir END");
     EXPECT_EQ(asked.status, 0) << asked.said;
 }
 
@@ -242,6 +242,9 @@ TEST_F(Program, the_screen_reader_of_these_tests_misses_a_name_and_a_key)
     EXPECT_THAT(outcome.said, HasSubstr("no name: Prospectos: push button in Sin nombres"));
     EXPECT_THAT(outcome.said, HasSubstr("not reached by the keyboard: Prospectos: check box in Sin nombres"));
     EXPECT_THAT(outcome.said, HasSubstr("never met: "));
+    const Outcome window = heard("", "'WINDOW:Sin nombres:Prospectos'", DN_NAMELESS);
+    EXPECT_EQ(window.status, 1) << window.said;
+    EXPECT_THAT(window.said, HasSubstr("no name: Sin nombres: text in Sin nombres"));
 }
 
 TEST_F(Program, offers_sample_data_at_its_first_start_and_remembers_it)

@@ -14,6 +14,7 @@ A step is one of these; what is pressed is pressed by its name, through the bus:
                             and walks the window behind each that shows something in it
     WINDOW:TITLE:NAME,...   waits for a window whose title begins so, walks it, and presses what has these names in it; walks it
                             again ahead of each further one
+    END                     behind the others: waits for the end of the program, which is asked to end otherwise
 
 Prints each control without a name, or that the keyboard does not reach, and fails when there is one; fails as well
 when something does not come, or the walk through the tabs met fewer kinds of controls than a window of this program
@@ -212,13 +213,15 @@ def main():
                                                  "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         started.append(program)
         faults, met = [], set()
-        for step in steps:
+        ends = steps[-1] == "END"
+        for step in steps[:-1] if ends else steps:
             faults += follow(program, step, met)
         missing = EXPECTED - met if any("=" in step for step in steps) else set()
         if missing:
             faults.append("never met: " + ", ".join(role.value_nick for role in missing))
         print("\n".join(faults))
-        program.terminate()
+        if not ends:
+            program.terminate()
         return 1 if faults else program.wait(PATIENCE)
     except (RuntimeError, OSError, subprocess.TimeoutExpired) as failure:
         print(failure)
