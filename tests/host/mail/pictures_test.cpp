@@ -8,6 +8,7 @@
 #include "tests/approved/approval.h"
 #include "tests/host/mail/mails.h"
 #include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/documented_keys.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -26,6 +27,7 @@ protected:
         EXPECT_THAT(dn::tests::cutOff(window), testing::IsEmpty()) << suffix;
         EXPECT_THAT(dn::tests::unnamed(window), testing::IsEmpty()) << suffix;
         EXPECT_THAT(dn::tests::unreached(window), testing::IsEmpty()) << suffix;
+        EXPECT_THAT(dn::tests::lettersAgainstPage(window), testing::IsEmpty()) << suffix;
     }
     /// The bar of a sending moves and tells how far it is: what stands there now stays until it is looked at
     /// again, which takes a turn of the event loop.
