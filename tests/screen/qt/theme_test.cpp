@@ -133,7 +133,13 @@ TEST_P(ThemeTest, a_drawing_on_the_selected_row_stands_on_paper)
         return option.icon.pixmap(QSize(16, 16), 1).toImage().pixelColor(2, 13);
     };
     EXPECT_EQ(corner(QStyle::State_Selected), option.palette.color(QPalette::Base));
+    const qint64 drawing = option.icon.cacheKey();
     EXPECT_EQ(corner({}).alpha(), 0);
+    corner(QStyle::State_Selected);
+    EXPECT_EQ(option.icon.cacheKey(), drawing)
+        << "it is made once, or every painting would leave one in the cache";
+    option.palette.setColor(QPalette::Base, Qt::red);
+    EXPECT_EQ(corner(QStyle::State_Selected), QColor(Qt::red));
 }
 
 TEST_P(ThemeTest, the_handle_of_a_scroll_bar_stands_out_from_its_groove)
