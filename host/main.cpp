@@ -6,6 +6,7 @@
 #include "host/database/database.h"
 #include "host/database/server_folder.h"
 #include "host/desktop/beginning.h"
+#include "host/desktop/choosing.h"
 #include "host/desktop/connection_test.h"
 #include "host/desktop/secret_keyring.h"
 #include "host/desktop/view_menu.h"
@@ -74,18 +75,6 @@ std::optional<Database> openChosen(const ProgramOptions& options, Beginning& beg
     return database;
 }
 
-void addChoosing(MainWindow& window, Beginning& beginning)
-{
-    auto* const choose = new QAction("Elegir otra &base de datos…", &window);
-    QObject::connect(choose, &QAction::triggered, &window, [&window, &beginning] {
-        if (!beginning.chooseAgain(&window)) return;
-        QMessageBox::information(&window, QApplication::applicationDisplayName(),
-                                 "La próxima vez que abra el programa se usará la base de datos que eligió.");
-    });
-    QMenu* const file = window.menuBar()->actions().constFirst()->menu();
-    file->insertAction(file->actions().constLast(), choose);
-}
-
 void warn(const Database& database, bool silent)
 {
     for (const std::string& warning : database.warnings()) {
@@ -131,8 +120,9 @@ int run(const ProgramOptions& options, const QPalette& desktop)
                      keyring);
     if (options.dial) window.dialCalls();
     WindowMemory memory(window, window.widget(), memoryFile);
+    memory.resetColumns();
     addViewMenu(*window.menuBar(), memory, memoryFile, theme, desktop);
-    addChoosing(window, beginning);
+    addChoosing(*window.menuBar()->actions().constFirst()->menu(), beginning, window);
     if (picture) {
         window.start(options.tab);
         savePicture(window, options.screenshot);

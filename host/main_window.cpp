@@ -181,6 +181,7 @@ void MainWindow::dialCalls()
 void MainWindow::addMenus()
 {
     QMenu* file = menuBar()->addMenu("&Archivo");
+    file->setObjectName("menuArchivo");
     QAction* reload = file->addAction("&Actualizar");
     reload->setShortcut(QKeySequence::Refresh);
     connect(reload, &QAction::triggered, this, [this] { refresh(); });
@@ -192,10 +193,11 @@ void MainWindow::addMenus()
     connect(quit, &QAction::triggered, this, &QWidget::close);
 
     QMenu* help = menuBar()->addMenu("A&yuda");
+    help->setObjectName("menuAyuda");
     QAction* manual = help->addAction("&Manual");
     manual->setShortcut(QKeySequence::HelpContents);
     connect(manual, &QAction::triggered, this, [this] { showManual(); });
-    connect(help->addAction("Acerca de..."), &QAction::triggered, this, [this] { tellAbout(); });
+    connect(help->addAction("Acerca &de..."), &QAction::triggered, this, [this] { tellAbout(); });
 }
 
 void MainWindow::tellAbout()

@@ -15,14 +15,25 @@ struct Attribute {
     std::string_view key, value; ///< the value as written, with its braces
 };
 
-/// Where a value ends: at a semicolon, one inside braces left aside. "}}" inside braces is a brace of the value.
-std::size_t valueEnd(std::string_view text)
+/// Of a value in braces. "}}" inside them is a brace of the value.
+std::size_t closingBrace(std::string_view text)
 {
-    if (!text.starts_with('{')) return std::min(text.find(';'), text.size());
     std::size_t at = 1;
     while ((at = text.find('}', at)) != std::string_view::npos && text.substr(at + 1).starts_with('}'))
         at += 2;
-    return at == std::string_view::npos ? text.size() : std::min(text.find(';', at), text.size());
+    return at;
+}
+
+bool isLeftOpen(const Attribute& attribute)
+{
+    return attribute.value.starts_with('{') && closingBrace(attribute.value) == std::string_view::npos;
+}
+
+/// Where a value ends: at a semicolon, one inside braces left aside.
+std::size_t valueEnd(std::string_view text)
+{
+    const std::size_t inside = text.starts_with('{') ? closingBrace(text) : 0;
+    return inside == std::string_view::npos ? text.size() : std::min(text.find(';', inside), text.size());
 }
 
 std::vector<Attribute> attributes(std::string_view text)
@@ -65,12 +76,20 @@ std::string odbcPassword(std::string_view text)
     return found == all.end() ? std::string() : unbraced(found->value);
 }
 
+bool odbcValuesEnd(std::string_view text)
+{
+    const std::vector<Attribute> all = attributes(text);
+    return std::none_of(all.begin(), all.end(), isLeftOpen);
+}
+
 std::string odbcWithoutPassword(std::string_view text)
 {
     std::string shown;
     for (const Attribute& attribute : attributes(text))
-        shown += std::string(attribute.key) + "=" +
-                 (isPassword(attribute) ? std::string("***") : std::string(attribute.value)) + ";";
+        shown +=
+            std::string(attribute.key) + "=" +
+            (isPassword(attribute) || isLeftOpen(attribute) ? std::string("***") : std::string(attribute.value)) +
+            ";";
     return shown;
 }
 

@@ -12,7 +12,11 @@ namespace dn::host {
 /// The value of PWD= or PASSWORD=, without its braces; empty when there is none.
 std::string odbcPassword(std::string_view text);
 
-/// The string with "***" for the password, to be shown.
+/// Whether each value that begins with a brace has the one that closes it. Without it, all that comes behind is a
+/// part of that value.
+bool odbcValuesEnd(std::string_view text);
+
+/// The string with "***" for the password, and for a value that does not end, to be shown.
 std::string odbcWithoutPassword(std::string_view text);
 
 } // namespace dn::host

@@ -20,6 +20,13 @@ int portOf(const QString& digits)
     return isNumber && port > noPort && port <= ServerAddress::lastPort ? port : noPort;
 }
 
+// A name with other signs between its colons would take what stands around it into the text for the driver.
+bool isAddress(const QString& host)
+{
+    static const QRegularExpression signs(QRegularExpression::anchoredPattern(QStringLiteral("[0-9a-fA-F:.%]+")));
+    return host.count(u':') > 1 && signs.match(host).hasMatch();
+}
+
 /// An IPv6 address in brackets.
 ServerAddress readBracketed(const QString& piece, int port)
 {
@@ -27,14 +34,14 @@ ServerAddress readBracketed(const QString& piece, int port)
     const QString rest = piece.mid(end + 1);
     const QString host = end > 0 ? piece.mid(1, end - 1) : QString();
     const int own = rest.isEmpty() ? port : rest.startsWith(u':') ? portOf(rest.mid(1)) : noPort;
-    return host.isEmpty() || own == noPort ? ServerAddress{piece, noPort} : ServerAddress{host, own};
+    return !isAddress(host) || own == noPort ? ServerAddress{piece, noPort} : ServerAddress{host, own};
 }
 
 ServerAddress readServer(const QString& piece, int port)
 {
     if (piece.startsWith(u'/')) return {.host = {}, .socket = piece};
     if (piece.startsWith(u'[')) return readBracketed(piece, port);
-    if (piece.count(u':') != 1) return {piece, port}; // none, or an IPv6 address by itself
+    if (!piece.contains(u':') || isAddress(piece)) return {piece, port};
     const QString host = piece.section(u':', 0, 0);
     const int own = portOf(piece.section(u':', 1));
     return host.isEmpty() || own == noPort ? ServerAddress{piece, noPort} : ServerAddress{host, own};
@@ -42,7 +49,7 @@ ServerAddress readServer(const QString& piece, int port)
 
 QString hostOf(const ServerAddress& server)
 {
-    return server.host.count(u':') > 1 ? "[" + server.host + "]" : server.host;
+    return server.host.contains(u':') ? "[" + server.host + "]" : server.host;
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include "host/desktop/start_choice.h"
 
+#include "host/database/odbc_text.h"
+
 #include <QRegularExpression>
 #include <QSettings>
 #include <QUrl>
@@ -28,7 +30,7 @@ bool namesAnOperator(const QString& odbc)
 {
     static const QRegularExpression key(
         QStringLiteral(R"((^|;)\s*(\w*pwd|\w*passw\w*|passphrase|uid|user[ _]?(id|name)?|login)\s*=)"),
-        QRegularExpression::CaseInsensitiveOption);
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     return key.match(odbc).hasMatch();
 }
 
@@ -39,6 +41,9 @@ QString problemOfOdbc(const QString& text)
     if (!target.match(text).hasMatch()) return QStringLiteral("La cadena de conexión debe llevar DRIVER= o DSN=.");
     if (namesAnOperator(text))
         return QStringLiteral("Escriba el usuario y la clave en sus propios campos, no en la cadena de conexión.");
+    // The password, which comes behind it, would be a part of that value and be shown with it.
+    if (!odbcValuesEnd(text.toStdString()))
+        return QStringLiteral("En la cadena de conexión falta la llave «}» que cierra un valor.");
     return {};
 }
 
@@ -79,16 +84,14 @@ std::vector<ServerAddress> serversIn(const QSettings& settings)
 {
     if (settings.contains("base/servidores"))
         return readServers(settings.value("base/servidores").toStringList().join(u' '));
-    const QString host = settings.value("base/servidor").toString().trimmed();
-    if (host.isEmpty()) return {};
-    return {{host, settings.value("base/puerto").toInt()}};
+    return readServers(settings.value("base/servidor").toString(), settings.value("base/puerto").toInt());
 }
 
 } // namespace
 
 QString problemOf(const OwnDatabase& database)
 {
-    if (database.odbc) return problemOfOdbc(database.text);
+    if (database.odbc) return problemOfOdbc(database.text.trimmed()); // as it is written down
     if (QString problem = problemOfServers(database.servers); !problem.isEmpty()) return problem;
     if (database.name.trimmed().isEmpty()) return QStringLiteral("Escriba el nombre de la base de datos.");
     if (database.user.trimmed().isEmpty()) return QStringLiteral("Escriba el usuario con el que se entra.");
@@ -150,7 +153,7 @@ bool writeStartChoice(const QString& file, const StartChoice& choice)
         settings.setValue("base/nombre", choice.database.name.trimmed());
     }
     settings.sync();
-    return settings.status() == QSettings::NoError;
+    return settings.status() != QSettings::AccessError; // one of form is that of the file which was there
 }
 
 } // namespace dn::host

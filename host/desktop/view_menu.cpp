@@ -14,6 +14,7 @@ void addViewMenu(QMenuBar& bar, WindowMemory& memory, const QString& file, const
     auto* const menu = new QMenu("&Ver", &bar);
     menu->setObjectName("menuVer");
     QMenu* const looks = menu->addMenu("&Tema");
+    looks->setObjectName("menuTema");
     auto* const group = new QActionGroup(looks);
     for (const Theme& one : themes()) {
         QAction* const action = looks->addAction(one.caption);

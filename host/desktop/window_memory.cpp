@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace dn::host {
@@ -28,10 +30,20 @@ std::vector<int> toNumbers(const QVariant& list)
     return numbers;
 }
 
+/// The control's own widths, but for the day's queue, where the first ones hold more than they need: the number to
+/// call shows without scrolling in a window of 1048 logical pixels, and all columns in one of 1280.
+ColumnLayouts fitted(ColumnLayouts layouts)
+{
+    constexpr std::array queue{90, 128, 215, 225, 133, 229}; // kind, hour, contact, company, number, mail
+    std::vector<int>& widths = layouts["lvwHoy"].widths;
+    if (widths.size() == queue.size()) std::copy(queue.begin(), queue.end(), widths.begin());
+    return layouts;
+}
+
 } // namespace
 
 WindowMemory::WindowMemory(QWidget& window, screen::qt::CtrDnContactsWidget& control, QString file)
-    : window_(window), control_(control), file_(std::move(file)), designed_(control.columnLayouts())
+    : window_(window), control_(control), file_(std::move(file)), designed_(fitted(control.columnLayouts()))
 {
 }
 

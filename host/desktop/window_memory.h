@@ -16,7 +16,7 @@ namespace dn::host {
 
 class WindowMemory {
 public:
-    /// Takes the columns as they are designed. @param window and the control on it outlive this.
+    /// Reads how the columns are designed. @param window and the control on it outlive this.
     WindowMemory(QWidget& window, screen::qt::CtrDnContactsWidget& control, QString file);
 
     /// Arranges the window as it was left. What the file does not hold, or holds in a form that does not fit,
@@ -24,7 +24,8 @@ public:
     /// @param withPlace its place and size too.
     void restore(bool withPlace);
     void save() const;
-    /// Gives all columns their designed widths and order again.
+    /// Gives all columns the widths and the order that they have in this program until somebody changes them:
+    /// those of the control, with what the day's queue can spare taken from it.
     void resetColumns();
 
 private:

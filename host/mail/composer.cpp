@@ -110,7 +110,7 @@ void Composer::buildButtons()
     progress_->setAccessibleName("Avance del envío");
     sends_->setObjectName("cmdEnviar");
     sends_->setText(letter_.settings.toOutbox() ? "&Guardar en la bandeja de salida" : "&Enviar");
-    sends_->setToolTip("Ctrl+Entrar");
+    sends_->setToolTip("Ctrl+Enter");
     sends_->setAutoDefault(false); // Enter in a line must not send
     cancels_->setObjectName("cmdCancelar");
     cancels_->setAutoDefault(false);

@@ -66,7 +66,7 @@ void HistoryWindow::fill(const std::string& record)
     caption_->setText(
         mails_.empty()
             ? QString("No se ha enviado ningún correo.")
-            : QString(all ? "&Correos enviados (%1)" : "&Correos enviados (los últimos %1)").arg(mails_.size()));
+            : QString(all ? "Correos &enviados (%1)" : "Correos &enviados (los últimos %1)").arg(mails_.size()));
     list_->setCurrentItem(list_->topLevelItem(0));
     showText();
 }

@@ -28,7 +28,7 @@ PasswordQuestion questionFor(const MailSettings& settings, bool canKeep)
     return {.title = "Clave del correo",
             .account = QString::fromStdString(settings.user + " en " + settings.host()),
             .accepts = "&Enviar",
-            .rejects = "&Cancelar",
+            .rejects = "Ca&ncelar",
             .canKeep = canKeep};
 }
 

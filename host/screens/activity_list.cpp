@@ -5,6 +5,7 @@
 
 #include "host/screens/activity_form.h"
 #include "host/screens/report_list.h"
+#include "screen/qt/colours.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -103,6 +104,16 @@ bool ActivityList::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
+// A desktop may change its theme while the window is open.
+void ActivityList::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    const QSignalBlocker quiet(list_);
+    for (int row = 0; row < list_->topLevelItemCount(); ++row)
+        ink(*list_->topLevelItem(row), activities_[static_cast<std::size_t>(row)].isDone());
+}
+
 void ActivityList::add()
 {
     ActivityForm form({}, kinds_, window());
@@ -165,10 +176,16 @@ void ActivityList::showRow(QTreeWidgetItem& item, const Activity& activity)
     item.setText(whenColumn, momentText(activity.now[activity_column::when]));
     item.setText(kindColumn, textOf(kinds_, QString::fromStdString(kind).toInt()));
     item.setText(subjectColumn, QString::fromStdString(activity.now[activity_column::subject]));
-    const QBrush ink = palette().brush(done ? QPalette::Disabled : QPalette::Active, QPalette::Text);
-    for (int column = whenColumn; column <= subjectColumn; ++column)
-        item.setForeground(column, ink);
+    ink(item, done);
     list_->viewport()->update();
+}
+
+void ActivityList::ink(QTreeWidgetItem& item, bool done) const
+{
+    const QColor colour =
+        done ? screen::qt::pastInk(palette()) : palette().color(QPalette::Active, QPalette::Text);
+    for (int column = whenColumn; column <= subjectColumn; ++column)
+        item.setForeground(column, colour);
 }
 
 void ActivityList::followSelection()

@@ -25,6 +25,9 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void build();
     void buildButtons();
@@ -37,6 +40,8 @@ private:
     void mark(std::size_t row, bool done);
     void fill(std::size_t select);
     void showRow(QTreeWidgetItem& item, const Activity& activity);
+    /// What is done steps back behind what is to do.
+    void ink(QTreeWidgetItem& item, bool done) const;
     void followSelection();
     /// The selected row, or as many as there are.
     std::size_t current() const;

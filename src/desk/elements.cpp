@@ -83,6 +83,7 @@ TopElements::TopElements(Container& control)
     picTop.Move(0, 0, 15720, 1230);
     cbAgente.Move(30, 0, 2790, 315);
     cbAgente.ToolTipText("Agente");
+    cbAgente.readsAnew(true);
     layOutTabs(lblItem);
     picColors.Move(10260, -15, 3645, 315);
     picColors.BackColor(0xFFFFFF);

@@ -141,6 +141,7 @@ ProspectElements::ProspectElements(Container& control, TopElements& top)
       lvw(&control, "lvw")
 {
     cbStatus.AccessibleName("Estado de los prospectos");
+    cbStatus.readsAnew(true);
     cbStatus.Move(stripLeft, stripTop, 1800, commandHeight);
     const screen::Twips behind = layOutCommands({{&cmdProsNewPros, "Nuevo", "new", 1200},
                                                  {&cmdProsNewProj, "Crear proyecto", "project", 1800},
@@ -180,6 +181,7 @@ ProjectElements::ProjectElements(Container& control, TopElements& top)
       lvwProy(&control, "lvwProy")
 {
     cbProjStatusProj.AccessibleName("Estado de los proyectos");
+    cbProjStatusProj.readsAnew(true);
     cbProjStatusProj.Move(stripLeft, stripTop, 2190, commandHeight);
     layOutCommands({{&cmdProjNewProj, "Nuevo proyecto", "project", 1740}, // all within 800 pixels
                     {&cmdNewProjEditProj, "Editar", "edit", 1110},

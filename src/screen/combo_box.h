@@ -21,6 +21,12 @@ public:
 
     void editable(bool editable) { set(editable_, editable); }
 
+    /// Whether a pick reads lists anew, which may take a while: the pointer shows it. Not for one that asks
+    /// something.
+    bool readsAnew() const { return readsAnew_; }
+
+    void readsAnew(bool reads) { set(readsAnew_, reads); }
+
     /// The text of the selected entry, or what was typed. Empty when nothing is selected.
     const std::string& Text() const { return text_; }
 
@@ -39,6 +45,7 @@ protected:
 private:
     std::string text_;
     bool editable_ = false;
+    bool readsAnew_ = false;
 };
 
 } // namespace dn::screen

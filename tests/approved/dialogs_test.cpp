@@ -23,6 +23,7 @@
 #include "tests/approved/in_scheme.h"
 #include "tests/host/desktop/fake_keyring.h"
 #include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/documented_keys.h"
 #include "tests/screen/qt/modal_driver.h"
 #include "tests/support/fake_connection.h"
 #include "tests/support/fake_ports.h"
@@ -51,7 +52,10 @@ void looksAndReads(QWidget& window, const std::string& name)
     EXPECT_THAT(cutOff(window), IsEmpty()) << name;
     EXPECT_THAT(unnamed(window), IsEmpty()) << name;
     EXPECT_THAT(unreached(window), IsEmpty()) << name;
+    EXPECT_THAT(lettersAgainstPage(window), IsEmpty()) << name;
 }
+
+TEST(PageOnTheKeyboard, tells_of_windows_that_there_are) { EXPECT_THAT(unknownWindowsOfPage(), IsEmpty()); }
 
 class DialogLooks : public testing::Test {
 protected:
@@ -301,7 +305,7 @@ TEST_F(BoxLooks, of_the_password_of_the_mail)
     host::askPassword({.title = "Clave del correo",
                        .account = "ana en correo.example.com",
                        .accepts = "&Enviar",
-                       .rejects = "&Cancelar",
+                       .rejects = "Ca&ncelar",
                        .canKeep = true},
                       nullptr);
 }

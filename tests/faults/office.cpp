@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "data/mariadb/connection.h"
+#include "tests/support/control_statements.h"
 
 #include <algorithm>
 #include <regex>
@@ -37,6 +38,9 @@ std::unique_ptr<data::Connection> atTheMoment(std::unique_ptr<data::Connection> 
 }
 
 bool isLetter(char sign) { return sign == '_' || (std::isalnum(static_cast<unsigned char>(sign)) != 0); }
+
+/// Its names in small letters, without what stands in its texts.
+std::string namesIn(const std::string& statement) { return toLower(shapeOf(statement)); }
 
 bool names(const std::string& statement, const std::string& word)
 {
@@ -139,13 +143,13 @@ Office::View Office::readView(const std::string& name)
 const Office::View* Office::viewOf(const std::string& statement) const
 {
     for (const auto& [name, view] : views_)
-        if (names(toLower(statement), name)) return &view;
+        if (names(namesIn(statement), name)) return &view;
     return nullptr;
 }
 
 std::vector<std::string> Office::tablesOf(const std::string& statement) const
 {
-    const std::string lower = toLower(statement);
+    const std::string lower = namesIn(statement);
     for (const char* learnt : {"interes", "origen", "referencia"})
         if (lower.starts_with(std::string("call add") + learnt)) return {std::string("ut_") + learnt + "contacto"};
     std::vector<std::string> tables;
@@ -167,7 +171,7 @@ std::vector<std::string> Office::columnsOf(const std::string& table, const std::
     if (const View* view = viewOf(statement); view != nullptr)
         for (const auto& [name, columns] : *view)
             if (name == table) return columns;
-    const std::string lower = toLower(statement);
+    const std::string lower = namesIn(statement);
     if (lower.starts_with("call")) return {books_.columnsOf(table).back()};
     // Several tables have columns of one name: what is said of this table counts, where tables are said at all.
     const std::string ahead = lower.find(table + ".") == std::string::npos ? "" : table + ".";

@@ -22,10 +22,11 @@ const std::vector<Target>& targets()
                                          {"projects", projects},     {"prospects", prospects},
                                          {"queue", queue},           {"reasons", reasons},
                                          {"replies", replies},       {"rows", rows},
-                                         {"settings", settings},     {"statements", statements},
-                                         {"telephones", telephones}, {"templates", templates},
-                                         {"texts", texts},           {"timelines", timelines},
-                                         {"values", values},         {"workbooks", workbooks}};
+                                         {"settings", settings},     {"starts", starts},
+                                         {"statements", statements}, {"telephones", telephones},
+                                         {"templates", templates},   {"texts", texts},
+                                         {"timelines", timelines},   {"values", values},
+                                         {"workbooks", workbooks}};
     return all;
 }
 

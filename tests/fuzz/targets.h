@@ -41,6 +41,7 @@ void calls(Input& input);
 void reasons(Input& input);
 void workbooks(Input& input);
 void documents(Input& input);
+void starts(Input& input);
 void statements(Input& input);
 void literals(Input& input);
 void binds(Input& input);

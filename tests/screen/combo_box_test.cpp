@@ -51,6 +51,16 @@ TEST_F(Combo, shows_the_new_text_by_the_time_of_the_click)
     EXPECT_EQ(changes.count(), 0);
 }
 
+TEST_F(Combo, tells_its_view_that_a_pick_reads_anew)
+{
+    EXPECT_FALSE(combo.readsAnew());
+    const Listener changed(combo.changed);
+    combo.readsAnew(true);
+    combo.readsAnew(true);
+    EXPECT_TRUE(combo.readsAnew());
+    EXPECT_EQ(changed.count(), 1);
+}
+
 TEST_F(Combo, with_fixed_entries_takes_no_text)
 {
     combo.ListIndex(0);

@@ -125,6 +125,85 @@ TEST_F(HostileContents, every_type_in_the_projects_and_in_what_they_are_joined_t
     }
 }
 
+/// The projects with other types in the columns that the server reckons days with, or filters by.
+class ReckonedProjects : public HostileContents {
+protected:
+    static constexpr const char* dates[] = {"Días", "Últ. Contacto", "D.U.C.", "Últ. intento", "D.U.I."};
+
+    /// The columns of the projects but the given ones, whose type is another.
+    static std::string columnsBut(const std::vector<std::string>& others, const std::string& type)
+    {
+        std::string columns = projectColumns;
+        for (const std::string& other : others) {
+            const std::size_t at = columns.find(other + " ") + other.size() + 1;
+            columns.replace(at, std::min(columns.find(',', at), columns.size()) - at, type);
+        }
+        return columns;
+    }
+    std::vector<std::string> days(const std::string& column)
+    {
+        return inTheDatabase("SELECT IFNULL(datediff(NOW()," + column + "), '') FROM Proyecto WHERE Sys_PK = 1");
+    }
+};
+
+TEST_F(ReckonedProjects, every_type_in_the_columns_that_projects_are_reckoned_by)
+{
+    for (const HostileType& one : hostileTypes) {
+        SCOPED_TRACE(one.type);
+        const ReplacedTable other(*beside, "Proyecto",
+                                  columnsBut({"Sys_DTCreated", "uf_ultimocontac", "uf_ultimointento"}, one.type));
+        const std::string row = "INSERT INTO Proyecto (IEjecutivo, UF_Status1, IMeta, IOrganizacion, IContacto, "
+                                "Sys_PK, Descripcion, Sys_DTCreated, uf_ultimocontac, uf_ultimointento) VALUES "
+                                "(7, 1, 1, 1, 1, ";
+        const std::string values = ", " + one.literal + ", " + one.literal + ", " + one.literal + ")";
+        database(row + "1, 'a'" + values);
+        database(row + "2, 'b', NULL, NULL, NULL)");
+        database(row + "3, 'c'" + values);
+        for (const int due : {1, 2})
+            activity(due, "cita");
+        enters(ana);
+        opensProjects();
+        screen::ListView& lvwProy = control.elements().projects.lvwProy;
+        EXPECT_THAT(keysOf(lvwProy), testing::UnorderedElementsAre("K1", "K2", "K3"));
+        for (const char* header : dates)
+            EXPECT_EQ(seesProjectCell("c", header), "-") << "it has no activity, and no such cells";
+        if (one.refusedByIfNull) { // the server reckons no days with it: the activities stay out, and no message
+            for (const char* project : {"a", "b"})
+                EXPECT_EQ(seesProjectCell(project, "Actividad"), "< Ninguna >");
+            continue;
+        }
+        EXPECT_EQ(seesProjectCell("a", "Últ. Contacto"), one.shown);
+        EXPECT_EQ(seesProjectCell("a", "Últ. intento"), one.shown);
+        EXPECT_EQ(seesProjectCell("a", "Días"), days("Sys_DTCreated").at(0));
+        EXPECT_EQ(seesProjectCell("a", "D.U.C."), days("uf_ultimocontac").at(0));
+        EXPECT_EQ(seesProjectCell("a", "D.U.I."), days("uf_ultimointento").at(0));
+        for (const char* header : dates)
+            EXPECT_EQ(seesProjectCell("b", header), "") << header;
+    }
+}
+
+TEST_F(ReckonedProjects, texts_in_the_columns_that_projects_are_filtered_by)
+{
+    const ReplacedTable other(*beside, "Proyecto", columnsBut({"IEjecutivo", "UF_Status1"}, "VARCHAR(50)"));
+    const std::string row =
+        "INSERT INTO Proyecto (IMeta, IOrganizacion, IContacto, Sys_PK, Descripcion, IEjecutivo, UF_Status1) "
+        "VALUES (1, 1, 1, ";
+    database(row + "1, 'a', '7', '1')");
+    database(row + "2, 'b', '9 OR 7', '1')");
+    database(row + "3, 'c', '7', 'uno')");
+    database(row + "4, 'd', '7.0', '2.0')");
+    database(row + "5, 'e', '7', '5 OR 1=1')");
+    for (int project = 1; project <= 3; ++project)
+        activity(project, "cita");
+    enters(ana);
+    opensProjects();
+    EXPECT_THAT(seesProjects(), ElementsAre("a", "d"))
+        << "as the server compares them; a status that is no number "
+           "has no image, and no row";
+    picks("cbProjStatusProj", "Fríos");
+    EXPECT_THAT(seesProjects(), ElementsAre("d"));
+}
+
 TEST_F(HostileContents, two_hundred_columns_more_in_the_queue_and_in_the_log)
 {
     const std::int64_t key = prospect("María");

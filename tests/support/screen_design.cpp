@@ -110,6 +110,7 @@ private:
     {
         begin("ComboBox", it);
         flag("editable", it.editable());
+        flag("reads anew", it.readsAnew());
         entries(it);
     }
 

@@ -59,10 +59,11 @@ void writeActivities(World& world, BulkInsert& rows, const Project& project)
     Dice& dice = world.dice;
     const int count = dice.between(0, 3);
     for (int i = 0; i < count; ++i) {
+        const int days = dice.between(-20, 40);
         rows.row().number(project.key);
         rows.number(dice.between(1, static_cast<int>(activityKinds().size())));
-        rows.text(dice.pick(activitySubjects())).moment(world.workingMoment(dice.between(-40, 40)));
-        rows.number(dice.chance(45) ? 1 : 0);
+        rows.text(dice.pick(activitySubjects())).moment(world.workingMoment(days));
+        rows.number(dice.chance(days < 0 ? 75 : 10) ? 1 : 0); // what is past is done, as a rule
     }
 }
 

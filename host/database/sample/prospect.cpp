@@ -41,11 +41,23 @@ std::optional<int> inventKind(Dice& dice)
     return dice.between(0, 1) * 2;
 }
 
-std::optional<DateTime> inventNextContact(World& world, int status)
+/// Who is still worked on has a next contact, as a rule in days to come; some are late, few have none.
+std::optional<DateTime> inventOpenContact(World& world)
 {
     Dice& dice = world.dice;
     const int x = dice.between(1, 100);
-    if (x <= (status == 0 ? 30 : 70)) return {};
+    if (x <= 5) return {};
+    if (x <= 15) return world.workingMoment(-dice.between(1, 9));
+    if (x <= 25) return world.workingMoment(0);
+    return world.workingMoment(dice.between(1, 45));
+}
+
+std::optional<DateTime> inventNextContact(World& world, int status)
+{
+    if (status == 0) return inventOpenContact(world);
+    Dice& dice = world.dice;
+    const int x = dice.between(1, 100);
+    if (x <= 70) return {};
     if (x <= 80) return world.workingMoment(-dice.between(1, 60));
     if (x <= 88) return world.workingMoment(0);
     return world.workingMoment(dice.between(1, 60));

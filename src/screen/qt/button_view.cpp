@@ -79,6 +79,13 @@ OptionButtonView::OptionButtonView(screen::OptionButton& option, QWidget* parent
 {
     setAutoExclusive(false); // the elements exclude each other themselves
     connect(this, &QRadioButton::clicked, this, [this] { bond_.gesture([](auto& it) { it.choose(); }); });
+    // A screen reader chooses without a click. The widget has come to an end with that by then: the gesture may
+    // end it.
+    const auto follow = [this](auto& it) {
+        if (isChecked() && !it.Value()) it.choose();
+    };
+    connect(
+        this, &QRadioButton::toggled, this, [this, follow] { bond_.gesture(follow); }, Qt::QueuedConnection);
     bond_.refresh();
 }
 
@@ -123,6 +130,11 @@ CheckBoxView::CheckBoxView(screen::CheckBox& box, QWidget* parent, Guard& guard)
       })
 {
     connect(this, &QCheckBox::clicked, this, [this] { bond_.gesture([](auto& it) { it.toggle(); }); });
+    const auto follow = [this](auto& it) { // as above
+        if (isChecked() != (it.Value() != 0)) it.toggle();
+    };
+    connect(
+        this, &QCheckBox::toggled, this, [this, follow] { bond_.gesture(follow); }, Qt::QueuedConnection);
     bond_.refresh();
 }
 

@@ -65,6 +65,15 @@ bool isStark(const QPalette& palette)
                     palette.color(QPalette::Active, QPalette::WindowText)) >= stark;
 }
 
+QColor pastInk(const QPalette& palette)
+{
+    const double least = isStark(palette) ? starklyReadable : readable;
+    QColor ink = palette.color(QPalette::Disabled, QPalette::Text);
+    for (const auto paper : {QPalette::Base, QPalette::AlternateBase})
+        ink = legible(ink, palette.color(QPalette::Active, paper), least);
+    return ink;
+}
+
 QColor mixed(const QColor& one, const QColor& other, float share)
 {
     return QColor::fromRgbF(one.redF() + (other.redF() - one.redF()) * share,

@@ -56,6 +56,10 @@ private:
 /// Whether a palette is one of high contrast, which has nothing but black and white; others stay a little below.
 bool isStark(const QPalette& palette);
 
+/// The ink for what is over and done with in a list: fainter than the rest, and still readable on both papers of
+/// the rows.
+QColor pastInk(const QPalette& palette);
+
 /// A colour between two: 0 is the one, 1 the other.
 QColor mixed(const QColor& one, const QColor& other, float share);
 

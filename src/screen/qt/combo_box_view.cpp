@@ -3,12 +3,15 @@
 
 #include "screen/qt/combo_box_view.h"
 
+#include "screen/qt/hourglass.h"
 #include "screen/qt/item_list_model.h"
 #include "screen/qt/text.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QWheelEvent>
+
+#include <optional>
 
 namespace dn::screen::qt {
 
@@ -20,8 +23,7 @@ ComboBoxView::ComboBoxView(screen::ComboBox& combo, QWidget* parent, Guard& guar
     // After the model: adding the first entry makes the widget select it, the element does not.
     entriesChanged_ = combo.entriesChanged.connect([this] { bond_.refresh(); });
     // Raised by the operator alone, also for the entry that is selected already.
-    connect(this, &QComboBox::activated, this,
-            [this](int index) { bond_.gesture([&](auto& it) { it.pick(index); }); });
+    connect(this, &QComboBox::activated, this, &ComboBoxView::pick);
     bond_.refresh();
 }
 
@@ -32,6 +34,15 @@ void ComboBoxView::mirror(const screen::ComboBox& combo)
     if (lineEdit() == nullptr) return;
     const QString text = fromUtf8(combo.Text());
     if (lineEdit()->text() != text) lineEdit()->setText(text);
+}
+
+void ComboBoxView::pick(int index)
+{
+    bond_.gesture([&](screen::ComboBox& it) {
+        std::optional<Hourglass> hourglass; // gone by the time that a failure is told
+        if (it.readsAnew()) hourglass.emplace();
+        it.pick(index);
+    });
 }
 
 void ComboBoxView::makeEditable(bool editable)

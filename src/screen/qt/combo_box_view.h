@@ -20,6 +20,7 @@ protected:
 
 private:
     void mirror(const screen::ComboBox& combo);
+    void pick(int index);
     void makeEditable(bool editable);
 
     Bond<screen::ComboBox> bond_;

@@ -8,9 +8,11 @@
 #include "screen/qt/list_view_view.h"
 #include "screen/qt/text.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
 namespace dn::screen::qt {
 namespace {
@@ -111,6 +113,11 @@ bool LabelView::eventFilter(QObject* watched, QEvent* event)
         fit(*label);
         update();
     }
+    // No room at all, as beside the marks in a window of 800 pixels: what it lies in tells its text.
+    if (fits && watched == parent() && event->type() == QEvent::ToolTip && room() <= 0) {
+        QToolTip::showText(static_cast<const QHelpEvent*>(event)->globalPos(), text(), parentWidget());
+        return true;
+    }
     return QLabel::eventFilter(watched, event);
 }
 
@@ -127,8 +134,10 @@ ClickLabelView::ClickLabelView(screen::Label& label, QWidget* parent, Guard& gua
     setAttribute(Qt::WA_Hover);
     // What a tab shows is read anew, which may take a while.
     connect(this, &QAbstractButton::clicked, this, [this] {
-        const Hourglass hourglass;
-        bond_.gesture([](auto& it) { it.click(); });
+        bond_.gesture([](auto& it) {
+            const Hourglass hourglass; // gone by the time that a failure is told
+            it.click();
+        });
     });
     bond_.refresh();
 }

@@ -41,11 +41,16 @@ void setCloser(QStyleOptionViewItem& option)
     option.fontMetrics = QFontMetrics(option.font);
 }
 
+qreal scaleOf(const QStyleOptionViewItem& option)
+{
+    return option.widget != nullptr ? option.widget->devicePixelRatioF() : 1;
+}
+
 /// The drawings have colours of their own, which one or the other selection would swallow: on it they stand on a
 /// plate of paper.
 QIcon onPlate(const QStyleOptionViewItem& option)
 {
-    const qreal scale = option.widget != nullptr ? option.widget->devicePixelRatioF() : 1;
+    const qreal scale = scaleOf(option);
     const QRect place(QPoint(0, 0), option.decorationSize);
     QPixmap plate(place.size() * scale);
     plate.setDevicePixelRatio(scale);
@@ -65,6 +70,20 @@ QIcon onPlate(const QStyleOptionViewItem& option)
 }
 
 } // namespace
+
+const QIcon& ListCellPainter::plated(const QStyleOptionViewItem& option) const
+{
+    constexpr std::size_t most = 64; // far more than there are drawings
+    const Plate plate{option.icon.cacheKey(),
+                      option.decorationSize.width(),
+                      option.decorationSize.height(),
+                      scaleOf(option),
+                      option.palette.color(QPalette::Base).rgba(),
+                      (option.state & QStyle::State_Enabled) != 0};
+    if (const auto known = plates_.find(plate); known != plates_.end()) return known->second;
+    if (plates_.size() >= most) plates_.clear();
+    return plates_.emplace(plate, onPlate(option)).first->second;
+}
 
 void ListCellPainter::describe(QStyleOptionViewItem& option, const QModelIndex& index) const
 {
@@ -86,7 +105,7 @@ void ListCellPainter::initStyleOption(QStyleOptionViewItem* option, const QModel
     setCloser(*option);
     const bool selected = (option->state & QStyle::State_Selected) != 0;
     const bool drawn = (option->features & QStyleOptionViewItem::HasDecoration) != 0;
-    if (selected && drawn && option->icon.cacheKey() != blank().cacheKey()) option->icon = onPlate(*option);
+    if (selected && drawn && option->icon.cacheKey() != blank().cacheKey()) option->icon = plated(*option);
     const QVariant foreground = index.data(Qt::ForegroundRole);
     if (!foreground.isValid()) return;
     const QColor colour = foreground.value<QBrush>().color();

@@ -7,7 +7,11 @@
 
 #include "screen/qt/colours.h"
 
+#include <QIcon>
 #include <QStyledItemDelegate>
+
+#include <map>
+#include <tuple>
 
 namespace dn::screen::qt {
 
@@ -25,7 +29,14 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
 private:
+    /// A drawing, its width, height, scale and paper, and whether it is enabled.
+    using Plate = std::tuple<qint64, int, int, qreal, QRgb, bool>;
+
+    const QIcon& plated(const QStyleOptionViewItem& option) const;
+
     LegibleInks inks_;
+    // A new icon for each painting would fill the toolkit's cache of pixmaps, and push all others out of it.
+    mutable std::map<Plate, QIcon> plates_;
 };
 
 } // namespace dn::screen::qt

@@ -190,6 +190,27 @@ void drawMonthArrow(const QStyleOptionToolButton& button, QPainter& painter)
     drawArrow(painter, button.rect, button.arrowType);
 }
 
+/// A field as all others, with two arrows on its right.
+void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter, const QStyle& style, const QWidget* widget)
+{
+    if (option.frame) drawField(option, painter);
+    if (option.buttonSymbols == QAbstractSpinBox::NoButtons) return;
+    const QColor ink = option.palette.color(QPalette::Text);
+    const QColor ground = option.palette.color(QPalette::Base);
+    const SmoothPainter smooth(painter);
+    painter.setPen(Qt::NoPen);
+    const auto arrow = [&](QStyle::SubControl part, QAbstractSpinBox::StepEnabledFlag step, Qt::ArrowType shape) {
+        const bool lively = Looks(option).enabled && (option.stepEnabled & step) != 0;
+        const bool touched = lively && (option.activeSubControls & part) != 0;
+        const QRect place = style.subControlRect(QStyle::CC_SpinBox, &option, part, widget);
+        if (touched) painter.fillRect(place.adjusted(0, 1, -1, -1), mixed(ground, Looks(option).accent, 0.2F));
+        painter.setBrush(mixed(ground, ink, lively ? 0.7F : 0.25F));
+        drawArrow(painter, place, shape);
+    };
+    arrow(QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow);
+    arrow(QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);
+}
+
 /// The drawing of a message box, nothing for other pictures.
 QIcon messageDrawing(QStyle::StandardPixmap picture)
 {
@@ -252,6 +273,11 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
         control == CC_ScrollBar && bar != nullptr) {
         drawScrollBar(*bar, *painter, *this, widget);
+        return;
+    }
+    if (const auto* const spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+        control == CC_SpinBox && spin != nullptr) {
+        drawSpinBox(*spin, *painter, *this, widget);
         return;
     }
     const auto* const button = qstyleoption_cast<const QStyleOptionToolButton*>(option);

@@ -5,6 +5,11 @@
 
 #include "host/database/database_choice.h"
 #include "host/database/schema.h"
+#include "host/database/unique_fd.h"
+
+#include <poll.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <array>
 #include <csignal>
@@ -59,7 +64,11 @@ void Cluster::makeVentas()
 
 void Cluster::kill(std::size_t number)
 {
-    if (::kill(numberIn("DN_GALERA_PROCESSES", number), SIGKILL) != 0)
+    constexpr int patience = 10'000; // milliseconds
+    const pid_t process = numberIn("DN_GALERA_PROCESSES", number);
+    const host::UniqueFd watch(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+    pollfd end{watch.get(), POLLIN, 0};
+    if (::kill(process, SIGKILL) != 0 || ::poll(&end, 1, patience) != 1)
         throw std::runtime_error("node " + std::to_string(number) + " cannot be killed");
 }
 

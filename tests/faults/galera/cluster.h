@@ -29,7 +29,7 @@ public:
     static host::DatabaseOptions servers(const std::string& account, const std::string& database);
     /// Makes the database "ventas" with its schema, the agent 7 "Ana" and her prospect 1 "Luz".
     static void makeVentas();
-    /// Without a warning to anybody.
+    /// Without a warning to anybody, and waits for its end.
     static void kill(std::size_t number);
 };
 

@@ -177,7 +177,8 @@ TEST(WritesOnACluster, lose_nothing_acknowledged_when_their_node_dies_under_them
     EXPECT_GE(all.size(), 400U);
     for (const std::size_t survivor : {1U, 2U}) {
         std::vector<std::string> stored;
-        const auto rows = behindTheOthers(survivor, "ventas")->execute("SELECT uf_Mensaje FROM xt_biticontact");
+        const auto connection = behindTheOthers(survivor, "ventas"); // the rows come as they are read
+        const auto rows = connection->execute("SELECT uf_Mensaje FROM xt_biticontact");
         for (; !rows->Eof(); rows->MoveNext())
             stored.push_back(rows->value(0).toText());
         EXPECT_THAT(stored, testing::IsSupersetOf(all)) << survivor;

@@ -137,6 +137,8 @@ TEST(OdbcText, passwords_are_found_in_all_their_forms)
     EXPECT_EQ(odbcPassword("DSN=x;PWD="), "");
     EXPECT_EQ(odbcWithoutPassword("DSN=x;PWD={a;b};UID=u;"), "DSN=x;PWD=***;UID=u;");
     EXPECT_EQ(odbcWithoutPassword("DSN=x;PWD={never closed;UID=u"), "DSN=x;PWD=***;");
+    EXPECT_EQ(odbcWithoutPassword("DRIVER={never closed;UID=u;PWD=abc"), "DRIVER=***;") << "it has the rest in it";
+    EXPECT_EQ(odbcWithoutPassword("DRIVER={a}};b};X={"), "DRIVER={a}};b};X=***;");
 }
 
 } // namespace

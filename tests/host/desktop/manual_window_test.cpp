@@ -6,6 +6,7 @@
 #include "host/desktop/manual_window.h"
 #include "tests/approved/approval.h"
 #include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/documented_keys.h"
 
 #include <QDir>
 #include <QPushButton>
@@ -122,6 +123,7 @@ TEST_F(Manual, goes_back_forth_and_to_its_index_by_its_buttons)
     EXPECT_EQ(page(), "manual.md");
     EXPECT_THAT(dn::tests::unnamed(window), IsEmpty());
     EXPECT_THAT(dn::tests::unreached(window), IsEmpty());
+    EXPECT_THAT(dn::tests::lettersAgainstPage(window), IsEmpty());
 }
 
 TEST(ManualLooks, of_a_page)

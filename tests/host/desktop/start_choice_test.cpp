@@ -58,7 +58,8 @@ TEST(Servers, are_read_however_they_are_set_apart)
 
 TEST(Servers, that_make_no_sense_are_refused_by_their_text)
 {
-    for (const char* typed : {"a:", ":3306", "a:b", "a:0", "a:70000", "a:-1", "[::1", "[::1]x", "[::1]:", "[]"}) {
+    for (const char* typed : {"a:", ":3306", "a:b", "a:0", "a:70000", "a:-1", "[::1", "[::1]x", "[::1]:", "[]",
+                              "[a]", "[a:b]", "[/run/s]", "[::1/x]", "::1@otro", "::1@otro/x", "nodo:1:2"}) {
         const std::vector<ServerAddress> read = readServers(typed);
         ASSERT_EQ(read.size(), 1U) << typed;
         EXPECT_FALSE(isValid(read.front())) << typed;
@@ -114,12 +115,22 @@ TEST(StartChoice, a_database_needs_what_leads_to_it)
     EXPECT_EQ(problemOf(odbc("DRIVER=FreeTDS;SERVER=x")), "");
     EXPECT_EQ(problemOf(odbc("SERVER=x; dsn=ventas")), "");
     EXPECT_EQ(problemOf(odbc("SERVER=x")), "La cadena de conexión debe llevar DRIVER= o DSN=.");
-    for (const char* text :
-         {"DSN=v;PWD=x", "DSN=v; pwd =x", "password=x;DSN=v", "DSN=v;Passwd=x", "DSN=v;PASSPHRASE=x",
-          "DSN=v;User Id=ana", "DSN=v; UserName =ana", "DSN=v;UID=ana", "DSN=v;user=ana"})
+    for (const char* text : {"DSN=v;PWD=x", "DSN=v; pwd =x", "password=x;DSN=v", "DSN=v;Passwd=x",
+                             "DSN=v;PASSPHRASE=x", "DSN=v;User Id=ana", "DSN=v; UserName =ana", "DSN=v;UID=ana",
+                             "DSN=v;user=ana", "\u00A0PWD=x;DSN=v", "DSN=v;\u00A0PWD\u00A0=x"})
         EXPECT_EQ(problemOf(odbc(text)),
                   "Escriba el usuario y la clave en sus propios campos, no en la cadena de conexión.")
             << text;
+}
+
+// What comes behind it, the password too, would be a part of that value, and be shown with it.
+TEST(StartChoice, a_brace_that_nothing_closes_is_refused)
+{
+    for (const char* text : {"DSN={v", "DRIVER={a}};SERVER=x", "DSN=v;SERVER={", "DSN={}}"})
+        EXPECT_EQ(problemOf(odbc(text)), "En la cadena de conexión falta la llave «}» que cierra un valor.")
+            << text;
+    for (const char* text : {"DSN={v}", "DRIVER={a}};b};SERVER=x", "DSN=v;SERVER={}", "DSN=v{"})
+        EXPECT_EQ(problemOf(odbc(text)), "") << text;
 }
 
 TEST(StartChoice, reaches_the_drivers_to_the_letter)
@@ -153,6 +164,29 @@ TEST(StartChoice, of_an_earlier_release_is_read_on)
     const QString path = folder.filePath("inicio.ini");
     writeText(path, "[base]\ntipo=mariadb\nservidor=db.example.com\nnombre=ventas\nusuario=ana\npuerto=3307\n");
     EXPECT_EQ(readStartChoice(path)->database.servers, (std::vector<ServerAddress>{{"db.example.com", 3307}}));
+}
+
+TEST(StartChoice, of_an_earlier_release_with_a_blank_names_two_servers)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("inicio.ini");
+    writeText(path, "[base]\ntipo=mariadb\nservidor=db otro:3308\nnombre=ventas\nusuario=ana\npuerto=3307\n");
+    const auto read = readStartChoice(path);
+    EXPECT_EQ(read->database.servers, (std::vector<ServerAddress>{{"db", 3307}, {"otro", 3308}}));
+    EXPECT_TRUE(writeStartChoice(path, *read));
+    EXPECT_EQ(readStartChoice(path), read);
+}
+
+TEST(StartChoice, is_written_over_a_file_that_nobody_can_read)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("inicio.ini");
+    writeText(path, "[base]\nclave=secreto\nesto no es nada\n");
+    EXPECT_TRUE(writeStartChoice(path, {true, mariadb()}));
+    EXPECT_EQ(readStartChoice(path), (StartChoice{true, mariadb()}));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(file.readAll().contains("secreto"));
 }
 
 TEST(StartChoice, of_several_servers_can_be_written_by_hand)

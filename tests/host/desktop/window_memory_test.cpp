@@ -88,6 +88,21 @@ TEST_F(WindowMemoryTest, forgets_what_makes_no_sense)
     }
 }
 
+TEST_F(WindowMemoryTest, the_number_to_call_shows_in_the_queue_without_scrolling)
+{
+    constexpr int telephone = 4;
+    Window window(file);
+    window.resize(1048, 600);
+    window.memory.resetColumns();
+    window.show();
+    const QHeaderView& header = window.header("lvwHoy");
+    constexpr int scrollBar = 13;
+    const int room = 1048 - 242 - 2 - scrollBar; // beside the detail, within the edge of the list
+    EXPECT_LE(header.sectionPosition(telephone) + header.sectionSize(telephone), room);
+    EXPECT_EQ(header.sectionSize(telephone), 133) << "as wide as the control has it";
+    EXPECT_LE(header.length(), room + 1280 - 1048) << "all of them in a window as designed";
+}
+
 TEST_F(WindowMemoryTest, knows_who_worked_last)
 {
     EXPECT_EQ(rememberedAgent(file), std::nullopt);
@@ -137,6 +152,7 @@ TEST_F(ViewMenuTest, changes_and_remembers_the_theme)
 TEST_F(ViewMenuTest, gives_the_columns_their_design_again)
 {
     addViewMenu(*window.menuBar(), window.memory, file, {}, before);
+    window.memory.resetColumns();
     const auto designed = window.control->columnLayouts();
     window.header("lvw").moveSection(2, 0);
     window.header("lvwHoy").resizeSection(1, 50);

@@ -292,7 +292,7 @@ TEST_F(MailHistory, shows_the_mails_of_the_record_the_latest_first)
         EXPECT_EQ(list.topLevelItem(0)->text(0), "15/03/2026 10:00");
         EXPECT_EQ(list.topLevelItem(1)->text(1), "maria@acme.example; luz@acme.example");
         EXPECT_EQ(list.topLevelItem(1)->text(2), "Cotización");
-        EXPECT_EQ(textIn(window, "lblCorreos"), "&Correos enviados (2)");
+        EXPECT_EQ(textIn(window, "lblCorreos"), "Correos &enviados (2)");
         EXPECT_EQ(textIn(window, "Texto"), "");
         EXPECT_EQ(focus(), "lstCorreos");
         hits(Qt::Key_Down);

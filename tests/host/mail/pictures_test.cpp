@@ -9,6 +9,7 @@
 #include "tests/approved/in_scheme.h"
 #include "tests/host/mail/mails.h"
 #include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/documented_keys.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -28,6 +29,9 @@ protected:
         EXPECT_THAT(dn::tests::cutOff(window), testing::IsEmpty()) << suffix;
         EXPECT_THAT(dn::tests::unnamed(window), testing::IsEmpty()) << suffix;
         EXPECT_THAT(dn::tests::unreached(window), testing::IsEmpty()) << suffix;
+        const auto* const kinds = window.findChild<QComboBox*>("Plantilla");
+        if (kinds != nullptr && !kinds->isVisible()) return; // without templates there is no letter for them
+        EXPECT_THAT(dn::tests::lettersAgainstPage(window), testing::IsEmpty()) << suffix;
     }
     /// The bar of a sending moves and tells how far it is: what stands there now stays until it is looked at
     /// again, which takes a turn of the event loop.

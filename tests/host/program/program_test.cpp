@@ -199,6 +199,41 @@ TEST_F(Program, has_a_name_for_everything_that_a_screen_reader_meets)
     EXPECT_EQ(outcome.status, 0) << outcome.said;
 }
 
+TEST_F(Program, has_a_name_for_everything_on_the_way_to_its_window_and_in_what_comes_of_a_call)
+{
+    const Outcome made = run(taking("--agent 1"));
+    ASSERT_EQ(made.status, 0) << made.said;
+    const Outcome outcome = heard(
+        "", "'WINDOW:Bienvenida:Usar mi propia base de datos,Probar con datos de ejemplo,Empezar' "
+            "'WINDOW:¿Quién trabaja?:Entrar como administrador,Entrar' "
+            "Prospectos=Prospectos 'PRESS:Llamar,Llamada establecida,Contacto establecido,Fin de la llamada' "
+            "'WINDOW:¿Qué hacer?:Agendar una próxima llamada,Aceptar' "
+            "'WINDOW:Agendar próximo contacto:Aceptar' "
+            "'PRESS:Proyectos,Herramientas' 'WINDOW:Herramientas:Cerrar' "
+            "'PRESS:Archivo,Exportar listas de correo...' 'WINDOW:Exportar listas de correo:Contactos,Exportar' "
+            "WINDOW:dlgCorreos:Cerrar 'WINDOW:Exportar listas de correo:Cerrar' "
+            "'PRESS:Ayuda,Acerca de...' 'WINDOW:Acerca de:Aceptar' PRESS:Ayuda,Manual WINDOW:Manual:Índice");
+    EXPECT_EQ(outcome.status, 0) << outcome.said;
+}
+
+TEST_F(Program, has_a_name_for_everything_where_it_asks_for_a_password)
+{
+    const Outcome made = run(taking("--agent 1"));
+    ASSERT_EQ(made.status, 0) << made.said;
+    const auto settings = home_ / ".config/dncontacts";
+    std::filesystem::create_directories(settings);
+    std::ofstream(settings / "mail.ini") << "url = smtp://127.0.0.1:9\nuser = ana\nfrom = ana@example.com\n";
+    const Outcome mailing = heard("--agent 1 --user prueba",
+                                  "Prospectos=Prospectos PRESS:Correo WINDOW:Correo:Enviar "
+                                  "'WINDOW:DN Contactos:Enviar sin asunto' 'WINDOW:Clave del correo:Cancelar' "
+                                  "WINDOW:Correo:Cancelar");
+    EXPECT_EQ(mailing.status, 0) << mailing.said;
+    std::ofstream(settings / "inicio.ini")
+        << "[base]\ntipo=mariadb\nservidores=127.0.0.1:9\nnombre=ventas\nusuario=ana\n";
+    const Outcome asked = heard("", "'WINDOW:Clave de la base de datos:Cambiar…' WINDOW:Bienvenida:Salir END");
+    EXPECT_EQ(asked.status, 0) << asked.said;
+}
+
 TEST_F(Program, the_screen_reader_of_these_tests_misses_a_name_and_a_key)
 {
     const Outcome outcome = heard("", "Prospectos=Prospectos", DN_NAMELESS);
@@ -207,6 +242,9 @@ TEST_F(Program, the_screen_reader_of_these_tests_misses_a_name_and_a_key)
     EXPECT_THAT(outcome.said, HasSubstr("no name: Prospectos: push button in Sin nombres"));
     EXPECT_THAT(outcome.said, HasSubstr("not reached by the keyboard: Prospectos: check box in Sin nombres"));
     EXPECT_THAT(outcome.said, HasSubstr("never met: "));
+    const Outcome window = heard("", "'WINDOW:Sin nombres:Prospectos'", DN_NAMELESS);
+    EXPECT_EQ(window.status, 1) << window.said;
+    EXPECT_THAT(window.said, HasSubstr("no name: Sin nombres: text in Sin nombres"));
 }
 
 TEST_F(Program, offers_sample_data_at_its_first_start_and_remembers_it)

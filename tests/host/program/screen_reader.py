@@ -3,13 +3,22 @@
 # SPDX-License-Identifier: Apache-2.0
 """Meets a program as a screen reader does: over the accessibility bus, on a display of its own.
 
-    dbus-run-session -- screen_reader.py PROGRAM [ARGUMENT...] -- TAB=TABLE[:BUTTON,...]...
+    dbus-run-session -- screen_reader.py PROGRAM [ARGUMENT...] -- STEP...
 
-Waits for the program's window, presses each tab by its name through the bus, waits until the table of that name
-shows, and walks the window; then presses each of the buttons, walks the window that comes, and leaves it by its
-button "Cancelar" or "Cerrar". Prints each control without a name, or that the keyboard does not reach, and fails when
-there is one; fails as well when a tab has no such table, a button no window, or the walk met fewer kinds of controls
-than a window of this program has. It runs on the system's own Python, which has the bus.
+A step is one of these; what is pressed is pressed by its name, through the bus:
+
+    TAB=TABLE[:BUTTON,...]  presses the tab of the program's window, waits until the table of that name shows, and walks
+                            the window; then presses each of the buttons, walks the window that comes, and leaves it by
+                            its button "Cancelar" or "Cerrar"
+    PRESS:NAME,...          presses what has these names in the program's window, or in its menus, one after the other,
+                            and walks the window behind each that shows something in it
+    WINDOW:TITLE:NAME,...   waits for a window whose title begins so, walks it, and presses what has these names in it; walks it
+                            again ahead of each further one
+    END                     behind the others: waits for the end of the program, which is asked to end otherwise
+
+Prints each control without a name, or that the keyboard does not reach, and fails when there is one; fails as well
+when something does not come, or the walk through the tabs met fewer kinds of controls than a window of this program
+has. It runs on the system's own Python, which has the bus.
 """
 import os
 import re
@@ -24,6 +33,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  (the version comes first)
 
 PATIENCE = 30  # seconds
+QUICKLY = 300  # milliseconds
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 ROLE = Atspi.Role
 NAMED = {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.CHECK_BOX, ROLE.RADIO_BUTTON, ROLE.TEXT, ROLE.ENTRY,
@@ -31,6 +41,7 @@ NAMED = {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.CHECK_BOX, ROLE.RADIO_BUTTON
          ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
 NO_FOCUS = {ROLE.PROGRESS_BAR, ROLE.MENU_ITEM, ROLE.FRAME, ROLE.DIALOG}
 MOUSE_ONLY = {"Borrar lo escrito"}  # what the keys of the line beside it do as well
+PRESSED = {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.PAGE_TAB, ROLE.CHECK_BOX, ROLE.RADIO_BUTTON, ROLE.MENU_ITEM}
 PROGRAMMERS = re.compile(r"(cb|chk|cmd|lbl|lvw|pic|txt)[A-Z]?\w*")  # names that say nothing to an operator
 EXPECTED = {ROLE.PUSH_BUTTON, ROLE.TEXT, ROLE.COMBO_BOX, ROLE.TABLE, ROLE.FRAME, ROLE.MENU_ITEM}
 
@@ -79,6 +90,12 @@ def window_of(pid):
     return next((one for one in windows_of(pid) if one.get_role() == ROLE.FRAME), None)
 
 
+def titled(pid, title):
+    """A window whose title begins so; a box rather than the program's window, which may begin alike."""
+    found = [one for one in windows_of(pid) if one.get_name().startswith(title)]
+    return next((one for one in found if one.get_role() != ROLE.FRAME), found[0] if found else None)
+
+
 def dialog_of(pid):
     return next((one for one in windows_of(pid) if one.get_role() in (ROLE.DIALOG, ROLE.ALERT)), None)
 
@@ -105,16 +122,28 @@ def find(window, names, roles):
 
 def press(window, *names):
     """Presses whichever of the buttons there is. The press itself comes a moment later."""
-    buttons = (ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.PAGE_TAB)
-    found = wait(" or ".join(names), lambda: find(window, names, buttons))
-    if not found.do_action(0):
+    found = wait(" or ".join(names), lambda: find(window, names, PRESSED))
+    if found.get_role() == ROLE.MENU_ITEM:
+        press_in_menu(found)
+    elif not found.do_action(0):
         raise RuntimeError("cannot be pressed: " + found.get_name())
 
 
-def visit(program, window, step, met):
+def press_in_menu(entry):
+    """An entry that opens a window answers when that has gone: what comes of it is waited for, not the answer."""
+    Atspi.set_timeout(QUICKLY, QUICKLY)
+    try:
+        entry.do_action(0)
+    except GLib.Error:
+        pass
+    Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
+
+
+def visit(program, step, met):
     """Opens a tab, then each of the windows that its buttons open. Gives what is wrong in them."""
     tab, _, rest = step.partition("=")
     table, _, buttons = rest.partition(":")
+    window = wait("the window", lambda: window_of(program.pid))
     press(window, tab)
     wait(f"the table {table} of {tab}", lambda: find(window, [table], (ROLE.TABLE, ROLE.TREE_TABLE)))
     faults = examine(window, tab, met)
@@ -125,6 +154,36 @@ def visit(program, window, step, met):
         press(dialog, "Cancelar", "Cerrar")
         wait(f"the end of the window of {button}", lambda: not dialog_of(program.pid))
     return faults
+
+
+def work(program, names, met):
+    """Presses one after the other in the program's window, whatever each of them shows there."""
+    window = wait("the window", lambda: window_of(program.pid))
+    faults = []
+    for name in names:
+        press(window, name)
+        faults += examine(window, name, met)
+    return faults
+
+
+def answer(program, title, names, met):
+    """Walks the window of a title, before each press in it. Gives what is wrong."""
+    faults = []
+    for name in names:
+        window = wait("the window " + title, lambda: titled(program.pid, title))
+        faults += examine(window, title, met)
+        press(window, name)
+    return faults
+
+
+def follow(program, step, met):
+    kind, _, rest = step.partition(":")
+    if kind == "PRESS":
+        return work(program, rest.split(","), met)
+    if kind == "WINDOW":
+        title, _, names = rest.partition(":")
+        return answer(program, title, names.split(","), met)
+    return visit(program, step, met)
 
 
 def end(process):
@@ -153,15 +212,16 @@ def main():
         program = subprocess.Popen(command, env={**os.environ, "QT_QPA_PLATFORM": "xcb",
                                                  "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         started.append(program)
-        window = wait("the window", lambda: window_of(program.pid))
         faults, met = [], set()
-        for step in steps:
-            faults += visit(program, window, step, met)
-        missing = EXPECTED - met
+        ends = steps[-1] == "END"
+        for step in steps[:-1] if ends else steps:
+            faults += follow(program, step, met)
+        missing = EXPECTED - met if any("=" in step for step in steps) else set()
         if missing:
             faults.append("never met: " + ", ".join(role.value_nick for role in missing))
         print("\n".join(faults))
-        program.terminate()
+        if not ends:
+            program.terminate()
         return 1 if faults else program.wait(PATIENCE)
     except (RuntimeError, OSError, subprocess.TimeoutExpired) as failure:
         print(failure)

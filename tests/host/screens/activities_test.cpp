@@ -3,6 +3,8 @@
 
 // The activities in the window of a project: they are stored with the project, or not at all.
 
+#include "screen/qt/colours.h"
+#include "screen/qt/theme.h"
 #include "tests/host/screens/projects_at_work.h"
 
 #include <QApplication>
@@ -83,6 +85,32 @@ TEST_F(Activities, a_click_on_the_check_box_marks_it_too)
     });
     opens();
     EXPECT_EQ(value("SELECT Hecho FROM actividad WHERE Sys_PK = 52"), "1");
+}
+
+TEST_F(Activities, what_is_done_can_be_read_in_every_theme)
+{
+    using screen::qt::Scheme;
+    operatorAt.expect("EditarProyecto", [](QWidget& window) {
+        constexpr int toDo = 0; // it stands ahead of what is done
+        constexpr int isDone = 1;
+        const auto inkOf = [&](int row, int column) {
+            return list(window).topLevelItem(row)->foreground(column).color();
+        };
+        for (const Scheme scheme : {Scheme::light, Scheme::dark, Scheme::whiteOnBlack, Scheme::blackOnWhite}) {
+            window.setPalette(screen::qt::schemePalette(scheme));
+            const QPalette shown = list(window).palette();
+            for (int column = 1; column <= 3; ++column) {
+                EXPECT_EQ(inkOf(toDo, column), shown.color(QPalette::Text));
+                EXPECT_NE(inkOf(isDone, column), shown.color(QPalette::Text));
+                for (const auto paper : {QPalette::Base, QPalette::AlternateBase})
+                    EXPECT_GE(screen::qt::contrast(inkOf(isDone, column), shown.color(paper)),
+                              screen::qt::readable)
+                        << static_cast<int>(scheme) << ", column " << column;
+            }
+        }
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    opens();
 }
 
 TEST_F(Activities, putting_off_changes_the_date_alone)

@@ -5,11 +5,15 @@
 
 #include "desk/elements.h"
 #include "desk/tab_strip.h"
+#include "host/desktop/choosing.h"
 #include "host/desktop/view_menu.h"
 #include "host/main_window.h"
 #include "shell/ctr_dn_contacts.h"
 #include "tests/approved/approval.h"
+#include "tests/host/desktop/fake_keyring.h"
 #include "tests/host/screens/fixture.h"
+#include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/documented_keys.h"
 #include "tests/support/maria_server.h"
 
 #include <QApplication>
@@ -21,7 +25,9 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include <functional>
 #include <utility>
+#include <vector>
 
 namespace dn::host::tests {
 namespace {
@@ -61,6 +67,46 @@ protected:
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
 
+    void looksInAMenu(QMenu& menu, const char* name)
+    {
+        menu.popup(window.mapToGlobal(QPoint(0, 20)));
+        dn::tests::looksAsApproved(menu, name);
+        EXPECT_THAT(dn::tests::lettersAgainstPage(menu), testing::IsEmpty()) << name;
+        menu.close();
+    }
+
+    /// What works from everywhere in the window: the letters of its menus and of the search, the keys of their
+    /// entries and those of the commands.
+    std::vector<dn::tests::NamedKey> keys()
+    {
+        std::vector<dn::tests::NamedKey> all;
+        const auto add = [&](const QKeySequence& key, const QString& caption) {
+            if (!key.isEmpty())
+                all.push_back({key.toString(QKeySequence::PortableText).toStdString(),
+                               QString(caption).remove('&').remove(':').toStdString()});
+        };
+        for (const QAction* menu : window.menuBar()->actions()) {
+            add(QKeySequence::mnemonic(menu->text()), menu->text());
+            for (const QAction* entry : menu->menu()->actions())
+                add(entry->shortcut(), entry->text());
+        }
+        const std::function<void(const screen::Element&)> walk = [&](const screen::Element& element) {
+            if (const auto* const button = dynamic_cast<const screen::Button*>(&element); button != nullptr)
+                add(QKeySequence(QString::fromStdString(button->Shortcut())),
+                    QString::fromStdString(button->Caption()));
+            if (const auto* const label = dynamic_cast<const screen::Label*>(&element);
+                label != nullptr && label->UseMnemonic())
+                add(QKeySequence::mnemonic(QString::fromStdString(label->Caption())),
+                    QString::fromStdString(label->Caption()));
+            const auto* const container = dynamic_cast<const screen::Container*>(&element);
+            if (container == nullptr) return;
+            for (const screen::Element* child : container->children())
+                walk(*child);
+        };
+        walk(window.control().elements().control);
+        return all;
+    }
+
     static std::string total(const QWidget& lists)
     {
         const auto* const label = lists.findChild<QLabel*>("lblTotal");
@@ -84,25 +130,30 @@ TEST_F(ProgramWindow, looks_as_approved)
     const QTemporaryDir folder;
     WindowMemory memory(window, window.widget(), folder.filePath("ventana.ini"));
     addViewMenu(*window.menuBar(), memory, folder.filePath("ventana.ini"), "claro", QApplication::palette());
+    FakeKeyring keyring;
+    Beginning beginning(folder.filePath("inicio.ini"), keyring, {});
+    addChoosing(*window.menuBar()->actions().constFirst()->menu(), beginning, window);
     window.resize(1000, 480);
     window.show();
     window.start(desk::contactos);
     QApplication::processEvents();
     QApplication::processEvents(); // the lists publish their rows once a turn
     dn::tests::looksAsApproved(window, "VentanaPrincipal");
+    for (const int width : {1280, 1048, 800}) {
+        window.resize(width, 480);
+        QApplication::processEvents();
+        EXPECT_THAT(dn::tests::cutOff(window), testing::IsEmpty()) << width;
+    }
+    EXPECT_THAT(dn::tests::unnamed(window), testing::IsEmpty());
+    EXPECT_THAT(dn::tests::unreached(window), testing::IsEmpty());
     const QList<QAction*> menus = window.menuBar()->actions();
     ASSERT_EQ(menus.size(), 3);
     for (const auto& [index, name] :
          {std::pair(0, "menu-Archivo"), std::pair(1, "menu-Ver"), std::pair(2, "menu-Ayuda")}) {
-        QMenu& menu = *menus.at(index)->menu();
-        menu.popup(window.mapToGlobal(QPoint(0, 20)));
-        dn::tests::looksAsApproved(menu, name);
-        menu.close();
+        looksInAMenu(*menus.at(index)->menu(), name);
     }
-    QMenu& themes = *menus.at(1)->menu()->actions().constFirst()->menu();
-    themes.popup(window.mapToGlobal(QPoint(0, 20)));
-    dn::tests::looksAsApproved(themes, "menu-Tema");
-    themes.close();
+    looksInAMenu(*menus.at(1)->menu()->actions().constFirst()->menu(), "menu-Tema");
+    EXPECT_THAT(dn::tests::keysAgainstPage(keys()), testing::IsEmpty());
 }
 
 TEST_F(ProgramWindow, tells_about_itself_and_its_database)

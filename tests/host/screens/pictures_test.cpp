@@ -8,6 +8,7 @@
 #include "tests/approved/in_scheme.h"
 #include "tests/host/screens/projects_at_work.h"
 #include "tests/screen/qt/accessible_tree.h"
+#include "tests/screen/qt/documented_keys.h"
 
 #include <QTest>
 
@@ -50,6 +51,9 @@ protected:
         EXPECT_THAT(dn::tests::cutOff(window), IsEmpty());
         EXPECT_THAT(dn::tests::unnamed(window), IsEmpty());
         EXPECT_THAT(dn::tests::unreached(window), IsEmpty());
+        if (window.objectName() != "Pregunta") { // each has letters of its own
+            EXPECT_THAT(dn::tests::lettersAgainstPage(window), IsEmpty());
+        }
         for (const QComboBox* box : window.findChildren<QComboBox*>())
             EXPECT_GE(box->width(), box->fontMetrics().horizontalAdvance(box->currentText()) + 24) << name(*box);
     }

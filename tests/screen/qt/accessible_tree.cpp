@@ -4,6 +4,7 @@
 #include "tests/screen/qt/accessible_tree.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
@@ -57,10 +58,53 @@ std::string describe(const QAccessibleInterface& part)
 int neededBy(const QAbstractButton& button)
 {
     if (button.text().isEmpty()) return 0;
-    if (qobject_cast<const QPushButton*>(&button) == nullptr) return button.minimumSizeHint().width();
     constexpr int gap = 4;
     const int picture = button.icon().isNull() ? 0 : button.iconSize().width() + gap;
-    return button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + picture;
+    const int content = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + picture;
+    const bool pushed = qobject_cast<const QPushButton*>(&button) != nullptr;
+    return pushed ? content : std::max(content, button.minimumSizeHint().width());
+}
+
+int neededBy(const QWidget& widget)
+{
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget); button != nullptr)
+        return neededBy(*button);
+    const auto* const label = qobject_cast<const QLabel*>(&widget);
+    if (label == nullptr || label->wordWrap()) return 0;
+    return label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
+}
+
+/// How much of a widget's width lies within the edges of all that it lies in, whatever stands in front of it. What
+/// a list or a text scrolls to comes into view.
+int widthWithinEdges(const QWidget& widget)
+{
+    QRect part = widget.rect();
+    for (const QWidget* inner = &widget; !inner->isWindow(); inner = inner->parentWidget()) {
+        const QWidget* const around = inner->parentWidget();
+        const auto* const scrolls = qobject_cast<const QAbstractScrollArea*>(around->parentWidget());
+        if (scrolls != nullptr && scrolls->viewport() == around) break;
+        part = part.translated(inner->pos()) & around->rect();
+    }
+    return part.isEmpty() ? 0 : part.width();
+}
+
+/// Fields show their contents, of any length; they are to show whole themselves.
+bool isCutOffField(const QWidget& widget)
+{
+    const bool field = (widget.focusPolicy() & Qt::TabFocus) != 0 && !isPartOfField(&widget) &&
+                       qobject_cast<const QAbstractButton*>(&widget) == nullptr;
+    return field && widthWithinEdges(widget) < widget.width();
+}
+
+/// Of options that exclude each other Tab leads to one, and the arrows from there to the others.
+bool isReachedOption(const QRadioButton& option)
+{
+    if (option.focusPolicy() == Qt::NoFocus) return false;
+    const QList<QRadioButton*> all =
+        option.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+    return std::any_of(all.begin(), all.end(), [](const QRadioButton* other) {
+        return other->isEnabled() && other->isVisible() && (other->focusPolicy() & Qt::TabFocus) != 0;
+    });
 }
 
 template <class Visit>
@@ -93,13 +137,9 @@ std::vector<std::string> cutOff(QWidget& window)
     for (const QWidget* child : window.findChildren<QWidget*>()) {
         if (child->objectName().startsWith(QLatin1String("qt_")) || !child->isVisible()) continue;
         const int shown = child->visibleRegion().boundingRect().width();
-        if (shown == 0) continue; // behind a panel, or beyond the edge of the window
-        int needed = 0;
-        if (const auto* const label = qobject_cast<const QLabel*>(child); label != nullptr && !label->wordWrap())
-            needed = label->fontMetrics().size(Qt::TextShowMnemonic, label->text()).width();
-        if (const auto* const button = qobject_cast<const QAbstractButton*>(child); button != nullptr)
-            needed = neededBy(*button);
-        if (needed > shown) found.push_back(child->objectName().toStdString());
+        const bool covered = shown == 0 && widthWithinEdges(*child) > 0; // by a panel that stands in front of it
+        if (!covered && (neededBy(*child) > shown || isCutOffField(*child)))
+            found.push_back(child->objectName().toStdString());
     }
     return found;
 }
@@ -113,8 +153,10 @@ std::vector<std::string> unreached(QWidget& window)
                              part.role() == QAccessible::Dialog || part.role() == QAccessible::Window;
         if (!isWorkedWith(part) || passive || widget == nullptr || isPartOfField(widget)) return;
         const auto* const option = qobject_cast<const QRadioButton*>(widget);
-        if (option != nullptr && option->autoExclusive()) return; // the arrows lead from one to the next
-        if ((widget->focusPolicy() & Qt::TabFocus) == 0) found.push_back(describe(part));
+        const bool reached = option != nullptr && option->autoExclusive()
+                                 ? isReachedOption(*option)
+                                 : (widget->focusPolicy() & Qt::TabFocus) != 0;
+        if (!reached) found.push_back(describe(part));
     });
     return found;
 }

@@ -18,8 +18,9 @@ std::vector<std::string> unnamed(QWidget& window);
 /// What an operator can work with in a window and no key leads to: neither Tab nor a mnemonic, an arrow or a menu.
 std::vector<std::string> unreached(QWidget& window);
 
-/// Labels and buttons of a window that show, but not with their whole text: too narrow themselves, or cut off by
-/// an edge or by what lies in front of them. By their object names.
+/// Labels and buttons of a window that are there, but not with their whole text: too narrow themselves, beyond an
+/// edge, or cut off by one or by what lies in front of them; and fields that an edge cuts off. What a panel covers
+/// as a whole is left out. By their object names.
 std::vector<std::string> cutOff(QWidget& window);
 
 } // namespace dn::tests

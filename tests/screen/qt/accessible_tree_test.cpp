@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
 #include <QTableView>
 #include <QTest>
 
@@ -61,9 +63,53 @@ TEST(AccessibleTree, finds_the_texts_that_are_cut_off_by_their_width_or_by_an_ed
     label("beyondTheEdge", {240, 40, 280, 20});
     label("outside", {400, 60, 280, 20});
     label("hidden", {0, 80, 10, 20})->hide();
+    label("covered", {0, 60, 280, 20});
+    QWidget panel(&window);
+    panel.setGeometry(0, 60, 300, 20);
+    panel.setAutoFillBackground(true);
+    QLineEdit field(&window);
+    field.setObjectName("field");
+    field.setGeometry(280, 80, 40, 20);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    EXPECT_THAT(cutOff(window), ElementsAre("narrow", "beyondTheEdge"));
+    EXPECT_THAT(cutOff(window), ElementsAre("narrow", "beyondTheEdge", "outside", "field"));
+    field.setGeometry(220, 80, 40, 20);
+    window.resize(560, 100);
+    EXPECT_THAT(cutOff(window), ElementsAre("narrow", "outside")) << "still half of it";
+}
+
+TEST(AccessibleTree, what_scrolls_into_view_is_not_cut_off)
+{
+    QScrollArea window;
+    window.resize(100, 100);
+    auto* const inner = new QWidget;
+    inner->resize(400, 100);
+    auto* const label = new QLabel("Un texto que necesita su lugar", inner);
+    label->setGeometry(150, 0, 250, 20);
+    window.setWidget(inner);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_THAT(cutOff(window), IsEmpty());
+}
+
+TEST(AccessibleTree, of_options_that_exclude_each_other_the_keyboard_reaches_one_and_the_arrows_the_rest)
+{
+    QWidget window;
+    window.setWindowTitle("Prueba");
+    QRadioButton one("Uno", &window);
+    QRadioButton other("Otro", &window);
+    one.setObjectName("uno");
+    other.setObjectName("otro");
+    one.setChecked(true);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_THAT(unreached(window), IsEmpty());
+    other.setFocusPolicy(Qt::NoFocus);
+    EXPECT_THAT(unreached(window), ElementsAre("RadioButton (otro)"));
+    one.setFocusPolicy(Qt::NoFocus);
+    EXPECT_THAT(unreached(window), ElementsAre("RadioButton (uno)", "RadioButton (otro)"));
+    other.setFocusPolicy(Qt::ClickFocus);
+    EXPECT_THAT(unreached(window), ElementsAre("RadioButton (uno)", "RadioButton (otro)"));
 }
 
 } // namespace

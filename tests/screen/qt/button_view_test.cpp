@@ -10,6 +10,7 @@
 #include "screen/qt/label_view.h"
 #include "tests/screen/qt/stage.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -101,6 +102,31 @@ TEST_F(ButtonViewTest, what_is_disabled_or_lies_in_a_disabled_screen_is_not_pres
     QTest::mouseClick(&widget<QCheckBox>("chk"), Qt::LeftButton, {}, {8, 10});
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(check.Value(), 0);
+}
+
+TEST_F(ButtonViewTest, a_screen_reader_sets_marks_and_options_as_a_click_does)
+{
+    show();
+    const auto sets = [this](const char* name) {
+        QAccessible::queryAccessibleInterface(&widget<QWidget>(name))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::toggleAction());
+        settle();
+    };
+    sets("chk");
+    EXPECT_EQ(check.Value(), 1);
+    sets("opt2");
+    EXPECT_TRUE(option2.Value());
+    EXPECT_EQ(clicks, 2);
+    sets("opt2");
+    EXPECT_TRUE(widget<QRadioButton>("opt2").isChecked()) << "an option is not taken back";
+    sets("opt1");
+    EXPECT_FALSE(option2.Value());
+    EXPECT_EQ(clicks, 3);
+    wires.push_back(check.Click.connect([this] { check.Value(1); }));
+    sets("chk");
+    EXPECT_EQ(check.Value(), 1);
+    EXPECT_TRUE(widget<QCheckBox>("chk").isChecked()) << "it shows what the element made of it";
 }
 
 TEST_F(ButtonViewTest, an_exception_of_a_click_goes_to_the_handler_and_no_further)

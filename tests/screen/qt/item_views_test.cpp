@@ -86,6 +86,31 @@ TEST_F(ItemViewsTest, picking_by_hand_raises_the_click_also_for_the_selected_ent
     EXPECT_EQ(fixed.ListIndex(), 2);
 }
 
+TEST_F(ItemViewsTest, the_hourglass_shows_while_a_pick_reads_anew)
+{
+    fixed.readsAnew(true);
+    std::vector<bool> shown;
+    const auto noted = [&] { shown.push_back(QApplication::overrideCursor() != nullptr); };
+    wires.push_back(fixed.Click.connect(noted));
+    wires.push_back(typed.Click.connect(noted));
+    show();
+    QTest::keyClick(&widget<QComboBox>("cbFixed"), Qt::Key_Down);
+    QTest::keyClick(&widget<QComboBox>("cbTyped"), Qt::Key_Down);
+    EXPECT_THAT(shown, testing::ElementsAre(true, false)) << "the other one may ask something";
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ItemViewsTest, the_hourglass_is_gone_when_a_failure_of_a_pick_is_told)
+{
+    fixed.readsAnew(true);
+    bool told = false;
+    guard.onError([&](const std::exception&) { told = QApplication::overrideCursor() == nullptr; });
+    wires.push_back(fixed.Click.connect([] { throw std::runtime_error("no hay conexión"); }));
+    show();
+    QTest::keyClick(&widget<QComboBox>("cbFixed"), Qt::Key_Down);
+    EXPECT_TRUE(told);
+}
+
 TEST_F(ItemViewsTest, the_wheel_over_a_closed_combo_changes_nothing)
 {
     fixed.ListIndex(0);

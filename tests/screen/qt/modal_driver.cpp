@@ -51,6 +51,7 @@ void ModalDriver::poll()
     if (!steps_.empty() && modal->objectName() == steps_.front().name) {
         const Step step = std::move(steps_.front());
         steps_.pop_front();
+        std::erase_if(met_, [](const QPointer<QWidget>& one) { return one.isNull(); });
         met_.emplace_back(modal);
         deadline_ = QDateTime::currentMSecsSinceEpoch() + patience;
         step.action(*modal);

@@ -18,12 +18,14 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QEventLoop>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
 #include <QStyleOptionToolButton>
 #include <QTimeEdit>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace dn::tests {
 namespace {
@@ -275,6 +277,28 @@ TEST_F(SmallViewsTest, a_label_of_the_size_of_its_text_keeps_to_the_room_of_its_
     EXPECT_EQ(label.width(), whole);
     EXPECT_EQ(label.font().stretch(), QFont::Unstretched);
     EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(SmallViewsTest, a_label_without_any_room_is_told_by_what_it_lies_in)
+{
+    PicturePanel strip(&root, "strip");
+    Label counter(&strip, "counter");
+    place(strip, 0, 0, 100, 21);
+    place(counter, 110, 0, 10, 15);
+    counter.AutoSize(true);
+    counter.Caption("Hoy: 3 actividades");
+    show();
+    auto& panel = widget<QWidget>("strip");
+    const auto asks = [&] {
+        QHelpEvent help(QEvent::ToolTip, {5, 5}, panel.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&panel, &help);
+        return help.isAccepted();
+    };
+    EXPECT_TRUE(asks());
+    EXPECT_EQ(QToolTip::text().toStdString(), "Hoy: 3 actividades");
+    QToolTip::hideText();
+    place(strip, 0, 0, 400, 21);
+    EXPECT_FALSE(asks()) << "it shows itself";
 }
 
 TEST_F(SmallViewsTest, the_hourglass_shows_while_a_click_on_a_tab_works)

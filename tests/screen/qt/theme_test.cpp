@@ -16,6 +16,7 @@
 
 #include <array>
 #include <cmath>
+#include <functional>
 
 namespace dn::tests {
 namespace {
@@ -66,6 +67,15 @@ TEST_P(ThemeTest, texts_stand_out_from_what_they_stand_on)
                        palette.color(QPalette::Disabled, QPalette::Highlight)),
               legibleEnough)
         << "the row of a call, while its list is disabled";
+}
+
+TEST_P(ThemeTest, what_is_done_steps_back_and_can_be_read)
+{
+    const QPalette palette = schemePalette(GetParam());
+    const QColor ink = pastInk(palette);
+    EXPECT_NE(ink, palette.color(QPalette::Text));
+    for (const auto paper : {QPalette::Base, QPalette::AlternateBase})
+        EXPECT_GE(contrast(ink, palette.color(paper)), isStarkScheme(GetParam()) ? 7 : legibleEnough) << paper;
 }
 
 TEST_P(ThemeTest, the_colours_of_the_lists_can_be_read_and_told_apart)
@@ -123,7 +133,13 @@ TEST_P(ThemeTest, a_drawing_on_the_selected_row_stands_on_paper)
         return option.icon.pixmap(QSize(16, 16), 1).toImage().pixelColor(2, 13);
     };
     EXPECT_EQ(corner(QStyle::State_Selected), option.palette.color(QPalette::Base));
+    const qint64 drawing = option.icon.cacheKey();
     EXPECT_EQ(corner({}).alpha(), 0);
+    corner(QStyle::State_Selected);
+    EXPECT_EQ(option.icon.cacheKey(), drawing)
+        << "it is made once, or every painting would leave one in the cache";
+    option.palette.setColor(QPalette::Base, Qt::red);
+    EXPECT_EQ(corner(QStyle::State_Selected), QColor(Qt::red));
 }
 
 TEST_P(ThemeTest, the_handle_of_a_scroll_bar_stands_out_from_its_groove)
@@ -146,6 +162,43 @@ TEST_P(ThemeTest, the_handle_of_a_scroll_bar_stands_out_from_its_groove)
     const QColor groove = middle(QStyle::SC_ScrollBarAddPage);
     EXPECT_GE(contrast(middle(QStyle::SC_ScrollBarSlider), groove), visibleEnough);
     EXPECT_GE(contrast(middle(QStyle::SC_ScrollBarAddLine), groove), visibleEnough) << "the arrow";
+}
+
+TEST_P(ThemeTest, a_spin_box_has_the_edge_of_a_line)
+{
+    const Style style;
+    const auto drawn = [&](const std::function<void(QPainter&)>& draw) {
+        QImage image(120, 24, QImage::Format_RGB32);
+        image.fill(schemePalette(GetParam()).color(QPalette::Window));
+        QPainter painter(&image);
+        draw(painter);
+        return image;
+    };
+    const auto prepare = [](QStyleOption& option) {
+        option.palette = schemePalette(GetParam());
+        option.rect = {0, 0, 120, 24};
+        option.state = QStyle::State_Enabled;
+    };
+    QStyleOptionSpinBox spin;
+    prepare(spin);
+    spin.frame = true;
+    spin.subControls = QStyle::SC_All;
+    spin.stepEnabled = QAbstractSpinBox::StepUpEnabled;
+    const QImage box =
+        drawn([&](QPainter& painter) { style.drawComplexControl(QStyle::CC_SpinBox, &spin, &painter, nullptr); });
+    QStyleOptionFrame frame;
+    prepare(frame);
+    frame.lineWidth = 1;
+    const QImage line = drawn(
+        [&](QPainter& painter) { style.drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, nullptr); });
+    for (int x = 0; x < 120; ++x)
+        EXPECT_EQ(box.pixel(x, 0), line.pixel(x, 0)) << x;
+    const auto place = [&](QStyle::SubControl part) {
+        return style.subControlRect(QStyle::CC_SpinBox, &spin, part, nullptr).center();
+    };
+    const QColor base = spin.palette.color(QPalette::Base);
+    EXPECT_GE(contrast(box.pixelColor(place(QStyle::SC_SpinBoxUp)), base), visibleEnough) << "the arrow";
+    EXPECT_LT(contrast(box.pixelColor(place(QStyle::SC_SpinBoxDown)), base), visibleEnough) << "it is at its end";
 }
 
 TEST(Style, has_drawings_of_its_own_for_boxes_and_the_toolkits_for_the_rest)
