@@ -126,7 +126,7 @@ TEST_F(HostileContents, every_type_in_the_projects_and_in_what_they_are_joined_t
 }
 
 /// The projects with other types in the columns that the server reckons days with, or filters by.
-class ReckonedProjects : public HostileContents {
+class HostileProjects : public HostileContents {
 protected:
     static constexpr const char* dates[] = {"Días", "Últ. Contacto", "D.U.C.", "Últ. intento", "D.U.I."};
 
@@ -146,7 +146,7 @@ protected:
     }
 };
 
-TEST_F(ReckonedProjects, every_type_in_the_columns_that_projects_are_reckoned_by)
+TEST_F(HostileProjects, every_type_in_the_columns_that_projects_are_reckoned_by)
 {
     for (const HostileType& one : hostileTypes) {
         SCOPED_TRACE(one.type);
@@ -182,7 +182,7 @@ TEST_F(ReckonedProjects, every_type_in_the_columns_that_projects_are_reckoned_by
     }
 }
 
-TEST_F(ReckonedProjects, texts_in_the_columns_that_projects_are_filtered_by)
+TEST_F(HostileProjects, texts_in_the_columns_that_projects_are_filtered_by)
 {
     const ReplacedTable other(*beside, "Proyecto", columnsBut({"IEjecutivo", "UF_Status1"}, "VARCHAR(50)"));
     const std::string row =

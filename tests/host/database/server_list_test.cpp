@@ -196,14 +196,17 @@ std::size_t threads()
                                                   std::filesystem::directory_iterator()));
 }
 
-/// Signals that a process was sent and has not taken, by the numbers of the system.
-unsigned long pendingSignals(pid_t process)
+/// What the system says of a process under a name that ends in a colon.
+std::string statusOf(pid_t process, std::string_view name)
 {
     std::ifstream status("/proc/" + std::to_string(process) + "/status");
     for (std::string line; std::getline(status, line);)
-        if (line.starts_with("ShdPnd:")) return std::stoul(line.substr(7), nullptr, 16);
+        if (line.starts_with(name)) return line.substr(line.find_first_not_of(" \t", name.size()));
     throw std::runtime_error("no such process");
 }
+
+/// Signals that a process was sent and has not taken, by the numbers of the system.
+unsigned long pendingSignals(pid_t process) { return std::stoul(statusOf(process, "ShdPnd:"), nullptr, 16); }
 
 TEST(PrivateServer, outlives_the_thread_that_started_it_again)
 {
@@ -217,7 +220,8 @@ TEST(PrivateServer, outlives_the_thread_that_started_it_again)
             server.revive();
             return server.pid() != first;
         });
-        ::kill(server.pid(), SIGSTOP); // a signal that it got would show
+        ::kill(server.pid(), SIGSTOP); // a signal that it got behind it would show
+        waitUntil(std::chrono::seconds(10), [&] { return statusOf(server.pid(), "State:").starts_with('T'); });
     }).join();
     EXPECT_TRUE(waitUntil(std::chrono::seconds(10), [&] { return threads() == before; }));
     EXPECT_EQ(pendingSignals(server.pid()), 0U);
