@@ -215,7 +215,7 @@ std::vector<std::string> keysAgainstPage(const std::vector<NamedKey>& keys)
     for (const auto& [key, caption] : keys) {
         const auto found = told.find(key);
         if (found == told.end() || (!found->second.empty() && !found->second.contains(caption)))
-            faults.push_back("not on the page: " + key + " " + caption);
+            faults.push_back(std::string("not on the page: ").append(key).append(" ").append(caption));
     }
     for (const auto& row : told)
         if (std::none_of(keys.begin(), keys.end(), [&](const NamedKey& one) {
