@@ -194,9 +194,12 @@ TEST_F(ListMenuTest, shows_each_commands_picture_and_colour)
     call.Picture("call");
     opens();
     EXPECT_FALSE(entry(menuOf(2), "&Llamar").icon().isNull());
-    const QImage swatch = entry(menuOf(2), "Rojo && más").icon().pixmap(16).toImage();
+    const QIcon icon = entry(menuOf(2), "Rojo && más").icon();
+    const QImage swatch = icon.pixmap(16).toImage();
     ASSERT_FALSE(swatch.isNull());
     EXPECT_EQ(swatch.pixelColor(1, 1), QColor(Qt::red));
+    EXPECT_EQ(entry(menuOf(2), "Rojo && más").icon().cacheKey(), icon.cacheKey())
+        << "one for all menus, or each would leave its own in the toolkit's cache";
 }
 
 TEST_F(ListMenuTest, tells_the_keys_without_taking_them)
