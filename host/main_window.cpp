@@ -66,11 +66,12 @@ MainWindow::~MainWindow()
 void MainWindow::start(std::optional<std::int16_t> tab)
 {
     bind();
-    place_ = placeOf(control());
-    if (!tab) return;
+    // An agent's queue stands there by itself, but without its commands, and no tab is in front.
+    if (!tab && control().activeTab() < 0) tab = todayTab;
     // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
-    if (*tab == todayTab) control().openTab(prospectsTab);
-    control().openTab(*tab);
+    if (tab == todayTab) control().openTab(prospectsTab);
+    if (tab) control().openTab(*tab);
+    place_ = placeOf(control());
 }
 
 void MainWindow::bind()
@@ -230,15 +231,11 @@ void MainWindow::showManual()
     manual_->activateWindow();
 }
 
-// Opening the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
+// Opening the tab in view loads its list anew.
 void MainWindow::refresh()
 {
     const screen::qt::Hourglass hourglass;
-    const std::int16_t tab = control().activeTab();
-    if (tab >= 0)
-        control().openTab(tab);
-    else
-        control().RefreshRobot();
+    control().openTab(control().activeTab());
 }
 
 void MainWindow::reportError(const std::exception& failure)

@@ -107,8 +107,9 @@ void ListViewView::addCopying(QMenu& menu, const QModelIndex& cell)
     row->setShortcutContext(Qt::WidgetShortcut);
     row->setEnabled(currentIndex().isValid());
     if (cell.isValid())
-        menu.addAction(QStringLiteral("Copiar la celda"), this,
-                       [text = cell.data().toString()] { QGuiApplication::clipboard()->setText(text); });
+        menu.addAction(QStringLiteral("Copiar la celda"), this, [text = cell.data(Qt::EditRole).toString()] {
+            QGuiApplication::clipboard()->setText(text);
+        });
     if (list->CheckBoxes())
         menu.addAction(QStringLiteral("Copiar los renglones marcados"), this, [this] { copyRows(true); })
             ->setEnabled(!runsOf(*list, true).empty());

@@ -157,6 +157,16 @@ TEST_F(ListMenuTest, copies_the_row_the_cell_what_is_checked_and_everything)
     EXPECT_FALSE(entry(menuAt({5, 5}), "Copiar el renglón").isEnabled());
 }
 
+TEST_F(ListMenuTest, copies_a_long_cell_whole)
+{
+    const std::string text = std::string(5'000, 'x') + "\r\nñ";
+    list.ListItems().Add("Kx", "x").ListSubItems().Add(text);
+    opens();
+    entry(menuAt(at(10, 1)), "Copiar la celda").trigger();
+    EXPECT_EQ(QApplication::clipboard()->text().size(), 5'003);
+    EXPECT_TRUE(copied().ends_with("ñ"));
+}
+
 TEST_F(ListMenuTest, copies_the_columns_as_they_stand)
 {
     opens();
