@@ -98,5 +98,16 @@ TEST(KnownPalettes, an_equal_one_is_the_first_one_again_and_no_more_are_kept_tha
     EXPECT_NE(inked(0).cacheKey(), first) << "it began anew";
 }
 
+TEST(KnownPalettes, what_is_disabled_stays_so)
+{
+    KnownPalettes palettes;
+    QPalette palette;
+    palette.setCurrentColorGroup(QPalette::Active);
+    const qint64 key = palettes.of(palette).cacheKey();
+    palette.setCurrentColorGroup(QPalette::Disabled);
+    EXPECT_EQ(palettes.of(palette).currentColorGroup(), QPalette::Disabled);
+    EXPECT_EQ(palettes.of(palette).cacheKey(), key);
+}
+
 } // namespace
 } // namespace dn::tests
