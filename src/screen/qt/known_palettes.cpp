@@ -9,10 +9,14 @@ namespace dn::screen::qt {
 
 QPalette KnownPalettes::of(const QPalette& colours)
 {
-    const auto found = std::find(known_.begin(), known_.end(), colours);
-    if (found != known_.end()) return *found;
-    if (known_.size() >= most) known_.clear();
-    return known_.emplace_back(colours);
+    auto found = std::find(known_.begin(), known_.end(), colours);
+    if (found == known_.end()) {
+        if (known_.size() >= most) known_.clear();
+        found = known_.insert(known_.end(), colours);
+    }
+    QPalette result = *found;
+    result.setCurrentColorGroup(colours.currentColorGroup());
+    return result;
 }
 
 } // namespace dn::screen::qt

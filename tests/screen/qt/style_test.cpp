@@ -94,6 +94,12 @@ TEST(KnownPalettes, an_equal_one_is_the_first_one_again_and_no_more_are_kept_tha
         EXPECT_EQ(inked(ink).color(QPalette::Text).rgb(), QColor::fromRgb(static_cast<QRgb>(ink)).rgb());
         ASSERT_EQ(inked(0).cacheKey(), first) << ink;
     }
+    QPalette disabled;
+    disabled.setColor(QPalette::Text, QColor::fromRgb(0));
+    disabled.setCurrentColorGroup(QPalette::Disabled);
+    EXPECT_EQ(palettes.of(disabled).currentColorGroup(), QPalette::Disabled) << "what is disabled is drawn so";
+    EXPECT_EQ(palettes.of(disabled).cacheKey(), first);
+    EXPECT_EQ(inked(0).currentColorGroup(), QPalette::Active);
     inked(KnownPalettes::most);
     EXPECT_NE(inked(0).cacheKey(), first) << "it began anew";
 }
