@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -22,7 +23,8 @@ const dn::fuzz::Target* chosen = nullptr;
 
 extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 {
-    GTEST_FLAG_SET(break_on_failure, true); // what the fakes find wrong is a finding
+    GTEST_FLAG_SET(break_on_failure, true);          // what the fakes find wrong is a finding
+    std::signal(SIGTRAP, [](int) { std::abort(); }); // whose input the fuzzer writes down
     const char* const name = std::getenv("DN_FUZZ_TARGET");
     for (const dn::fuzz::Target& target : dn::fuzz::targets()) {
         if (name == nullptr) std::puts(target.name);
