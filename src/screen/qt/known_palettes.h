@@ -19,8 +19,8 @@ public:
     /// How many are kept: far more than a theme has with all its coloured surfaces.
     static constexpr std::size_t most = 64;
 
-    /// @return the first palette of these colours that was asked for, whose key is always the same; of its groups
-    /// (active, disabled) the present one is that of the argument.
+    /// @return the first palette of these colours that was asked for, whose key is always the same; in the state
+    /// (active, disabled) of the one that is asked for, which is no part of the key.
     QPalette of(const QPalette& colours);
 
 private:
