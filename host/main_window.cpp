@@ -52,6 +52,7 @@ MainWindow::MainWindow(Database& database, const Worker& worker, Rhythm rhythm)
     }));
     watches_.push_back(control().elements().detail.txtText.Change.connect([this] { watchNote(); }));
     watches_.push_back(reconnection_.back.connect([this] {
+        ++arrivals_;
         if (!std::exchange(waiting_, true)) QTimer::singleShot(0, this, [this] { resumeWhenAtRest(); });
     }));
 }
@@ -65,7 +66,12 @@ MainWindow::~MainWindow()
 
 void MainWindow::start(std::optional<std::int16_t> tab)
 {
-    bind();
+    try {
+        bind();
+    } catch (const std::exception&) {
+        if (isOpen() && arrivals_ == 0) throw;
+        return; // lost since it was opened: the control is started on the next one
+    }
     place_ = placeOf(control());
     if (!tab) return;
     // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
@@ -110,9 +116,10 @@ void MainWindow::resumeWhenAtRest()
         return;
     }
     looks_ = 0;
-    if (connected) resume();
+    const std::optional<std::string> failure = connected ? resume() : std::nullopt;
     waiting_ = leading_ && isOpen(); // lost and found again meanwhile
     if (waiting_) QTimer::singleShot(100, this, [this] { resumeWhenAtRest(); });
+    if (failure) reportError(std::runtime_error(*failure)); // last: the connection may be lost before its box
 }
 
 // The box is emptied by what is stored and by what is opened: what it held is known here by then.
@@ -137,9 +144,11 @@ void MainWindow::rememberPlace()
     if (!typed.empty() && typed != leading_->note) leading_->notesLeft.push_back(typed);
 }
 
-void MainWindow::resume()
+/// @return what kept the control from being started.
+std::optional<std::string> MainWindow::resume()
 {
     rememberPlace();
+    const unsigned arrival = arrivals_;
     std::optional<std::string> failure;
     bool noteIsBack = false;
     try {
@@ -148,13 +157,14 @@ void MainWindow::resume()
     } catch (const std::exception& thrown) {
         failure = thrown.what();
     }
-    if (!isOpen()) return; // lost again: there is a next time
+    keyboard_.restore(); // ahead of what follows: he may type on while the connection is lost again
+    if (!isOpen() || arrival != arrivals_) return std::nullopt; // lost again: there is a next time
     if (!noteIsBack) leading_->notesLeft.push_back(leading_->note);
     for (const std::string& note : leading_->notesLeft)
         if (!note.empty()) bar_->keepNote(QString::fromStdString(note));
     leading_.reset();
-    keyboard_.restore();
-    if (failure) reportError(std::runtime_error(*failure));
+    reconnection_.works();
+    return failure;
 }
 
 void MainWindow::sendMails(const std::filesystem::path& dataFolder, Keyring& keyring)

@@ -65,7 +65,7 @@ private:
     void watchNote();
     void resumeWhenAtRest();
     void rememberPlace();
-    void resume();
+    std::optional<std::string> resume();
     void refresh();
     void tellAbout();
     void showManual();
@@ -84,6 +84,7 @@ private:
     KeyboardPlace keyboard_;           // with it
     bool waiting_ = false;             // for the control to be at rest
     int looks_ = 0;                    // how often it was not
+    unsigned arrivals_ = 0;            // of connections in the place of lost ones
     screen::Subscription calls_;
     std::function<MailSettings()> mailSettings_;
     screen::Subscriptions watches_;
