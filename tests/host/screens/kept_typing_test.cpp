@@ -182,6 +182,9 @@ TEST_F(ANoteWithoutItsRow, is_told_on_through_another_loss_and_beside_another_no
     clicks("cmdReconectar");
     ASSERT_TRUE(goesOn()) << bar();
     EXPECT_EQ(keptNote(), told + "\nLa nota que no se guardó dice: «llamar el lunes»");
+    server->restart();
+    ASSERT_TRUE(tells("Nuevo intento")) << bar();
+    EXPECT_FALSE(in("lblMotivo").isVisible()) << "that was the reason of an earlier loss";
 }
 
 TEST_F(TypingOn, a_long_note_that_is_told_leaves_the_control_its_room)
