@@ -86,7 +86,7 @@ Qt widget, and its connections to MySQL, MariaDB and ODBC.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
     "${PROJECT_BINARY_DIR}/package/shlibs;${PROJECT_SOURCE_DIR}/packaging/debian/triggers")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "libqt6svg6")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "libqt6svg6, fonts-roboto-unhinted")
 
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "sales-force workbench control, development files
 Headers, files for CMake and pkg-config, a plugin for Qt Designer, and an

@@ -90,7 +90,9 @@ std::optional<Worker> whoWorks(const ProgramOptions& options, dn::data::Connecti
     if (!options.screenshot.isEmpty() || options.saysWhoWorks()) return workerFrom(options, agents);
     const QString file = settingsFile("ventana.ini");
     std::optional<Worker> worker = askWhoWorks(agents, rememberedAgent(file));
-    if (worker) rememberAgent(file, worker->agent);
+    if (!worker) return worker;
+    rememberAgent(file, worker->agent);
+    if (!options.user.isEmpty()) worker->user = options.user;
     return worker;
 }
 

@@ -70,13 +70,21 @@ void MainWindow::start(std::optional<std::int16_t> tab)
         bind();
     } catch (const std::exception&) {
         if (isOpen() && arrivals_ == 0) throw;
-        return; // lost since it was opened: the control is started on the next one
+        leading_.emplace(); // lost since it was opened: the control is started on the next one
+        leading_->tab = tab.value_or(leading_->tab);
+        return;
     }
+    openFirst(tab);
     place_ = placeOf(control());
-    if (!tab) return;
+}
+
+void MainWindow::openFirst(std::optional<std::int16_t> tab)
+{
+    // An agent's queue stands there by itself, but without its commands, and no tab is in front.
+    if (!tab && control().activeTab() < 0) tab = todayTab;
     // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
-    if (*tab == todayTab) control().openTab(prospectsTab);
-    control().openTab(*tab);
+    if (tab == todayTab) control().openTab(prospectsTab);
+    if (tab) control().openTab(*tab);
 }
 
 void MainWindow::bind()
@@ -154,6 +162,7 @@ std::optional<std::string> MainWindow::resume()
     try {
         bind();
         noteIsBack = returnTo(control(), *leading_);
+        openFirst({});
     } catch (const std::exception& thrown) {
         failure = thrown.what();
     }
@@ -240,15 +249,11 @@ void MainWindow::showManual()
     manual_->activateWindow();
 }
 
-// Opening the tab in view loads its list anew. The first screen shows an agent's queue without a tab.
+// Opening the tab in view loads its list anew.
 void MainWindow::refresh()
 {
     const screen::qt::Hourglass hourglass;
-    const std::int16_t tab = control().activeTab();
-    if (tab >= 0)
-        control().openTab(tab);
-    else
-        control().RefreshRobot();
+    control().openTab(control().activeTab());
 }
 
 void MainWindow::reportError(const std::exception& failure)

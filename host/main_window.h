@@ -36,8 +36,9 @@ public:
     MainWindow(Database& database, const Worker& worker, Rhythm rhythm = {});
     ~MainWindow() override;
 
-    /// Hands the connection, the worker and the host's screens to the control and shows its first screen.
-    /// @param tab the tab to open, if one was asked for.
+    /// Hands the connection, the worker and the host's screens to the control and shows its first screen: an
+    /// agent's queue of the day, else the prospects that are nobody's.
+    /// @param tab the tab to open instead, if one was asked for.
     void start(std::optional<std::int16_t> tab);
 
     /// From now on the control can write mails. To be called ahead of `start`.
@@ -59,6 +60,7 @@ public:
 private:
     void addMenus();
     void bind();
+    void openFirst(std::optional<std::int16_t> tab);
     bool atRest();
     static bool isLoading();
     bool isOpen() const;

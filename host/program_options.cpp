@@ -29,7 +29,7 @@ const QCommandLineOption adminOption("admin", "Trabaja como administrador.");
 const QCommandLineOption userOption("user", "Nombre de usuario que se anota en la bitácora.", "nombre");
 const QCommandLineOption tabOption("tab",
                                    "Pestaña inicial: 0 Prospectos, 1 Proyectos, 2 Hoy, 3 Organizaciones, "
-                                   "4 Contactos.",
+                                   "4 Contactos; si falta, 2, o 0 sin agente.",
                                    "número");
 const QCommandLineOption dialOption("dial",
                                     "Al iniciar una llamada, entrega el número al programa del escritorio que "

@@ -21,7 +21,7 @@ namespace dn::host {
 
 struct WorkPlace {
     std::optional<std::int32_t> agent; ///< in `cbAgente`
-    std::int16_t tab = desk::none;     ///< `none` on the first screen, which shows the queue
+    std::int16_t tab = desk::none;     ///< `none` while no tab is in front
     int status = 0;                    ///< entries of the two filters
     int projectStatus = 0;
     /// The keys of the selected rows, list by list in the order of the tabs; empty for none.

@@ -31,7 +31,7 @@ bool Beginning::open(const Opener& opener)
     if (known) answer = completed(*known);
     QString problem;
     for (;;) {
-        if (!answer) answer = ask(known, problem, nullptr);
+        if (!answer) answer = ask(known, problem);
         if (!answer) return false;
         try {
             opener(serversOf(*answer), answer->choice.createSchema);
@@ -49,15 +49,18 @@ bool Beginning::open(const Opener& opener)
 
 bool Beginning::chooseAgain(QWidget* over)
 {
-    const std::optional<StartAnswer> answer = ask(chosenBefore(), {}, over);
-    if (answer) keep(*answer);
-    return answer.has_value();
+    const std::optional<StartAnswer> before = chosenBefore();
+    FirstStart window(test_, keyring_, over);
+    window.asksForTheNextTime();
+    if (before) window.fillWith(*before);
+    if (window.exec() != QDialog::Accepted) return false;
+    keep(window.answer());
+    return true;
 }
 
-std::optional<StartAnswer> Beginning::ask(const std::optional<StartAnswer>& before, const QString& problem,
-                                          QWidget* over)
+std::optional<StartAnswer> Beginning::ask(const std::optional<StartAnswer>& before, const QString& problem)
 {
-    FirstStart window(test_, keyring_, over);
+    FirstStart window(test_, keyring_);
     if (before) window.fillWith(*before);
     if (!problem.isEmpty()) window.complain(problem);
     if (window.exec() != QDialog::Accepted) return std::nullopt;

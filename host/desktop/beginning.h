@@ -34,8 +34,7 @@ public:
     bool chooseAgain(QWidget* over);
 
 private:
-    std::optional<StartAnswer> ask(const std::optional<StartAnswer>& before, const QString& problem,
-                                   QWidget* over);
+    std::optional<StartAnswer> ask(const std::optional<StartAnswer>& before, const QString& problem);
     std::optional<StartAnswer> chosenBefore();
     std::optional<StartAnswer> completed(StartAnswer answer);
     void keep(const StartAnswer& answer);

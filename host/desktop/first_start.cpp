@@ -57,18 +57,21 @@ void FirstStart::build(bool canKeep)
     sample_->setObjectName("optEjemplo");
     own_->setObjectName("optPropia");
     auto* const buttons = new QDialogButtonBox(this);
-    buttons->addButton("&Empezar", QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton("&Salir", QDialogButtonBox::RejectRole);
+    begins_ = buttons->addButton("&Empezar", QDialogButtonBox::AcceptRole);
+    begins_->setObjectName("cmdEmpezar");
+    begins_->setDefault(true);
+    leaves_ = buttons->addButton("&Salir", QDialogButtonBox::RejectRole);
+    leaves_->setObjectName("cmdSalir");
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* const layout = new QVBoxLayout(this);
-    QLabel* const greeting =
-        paragraph("Este programa lleva sus prospectos, sus proyectos y sus llamadas. ¿Con qué "
-                  "datos quiere trabajar? Después le preguntará quién es usted.",
-                  this);
-    greeting->setFixedWidth(textWidth); // and with it the window's, whatever shows below
-    layout->addWidget(greeting);
+    greeting_ = paragraph("Este programa lleva sus prospectos, sus proyectos y sus llamadas. ¿Con qué "
+                          "datos quiere trabajar? Después le preguntará quién es usted.",
+                          this);
+    greeting_->setObjectName("lblSaludo");
+    greeting_->setFixedWidth(textWidth); // and with it the window's, whatever shows below
+    layout->addWidget(greeting_);
     layout->addWidget(sample_);
     layout->addWidget(explanation("Todo queda en su carpeta y no hace falta instalar nada más. Puede cambiar y "
                                   "borrar lo que quiera.",
@@ -140,6 +143,16 @@ void FirstStart::follow()
         form_->setRowVisible(field, !byOdbc);
     form_->setRowVisible(text_, byOdbc);
     say({}, false);
+}
+
+void FirstStart::asksForTheNextTime()
+{
+    setWindowTitle("Elegir otra base de datos");
+    greeting_->setText(
+        "¿Con qué datos quiere trabajar la próxima vez que abra el programa? Hasta entonces sigue con "
+        "los de ahora.");
+    begins_->setText("&Elegir");
+    leaves_->setText("Ca&ncelar");
 }
 
 void FirstStart::fillWith(const StartAnswer& before)

@@ -39,6 +39,8 @@ public:
     /// @param keyring has the password of an account whose field stays empty. It outlives this.
     FirstStart(ConnectionTest test, Keyring& keyring, QWidget* over = nullptr);
 
+    /// Words it for an operator who works already, and goes on with what he has until the next start.
+    void asksForTheNextTime();
     /// Fills the window with what was chosen before, but for the password.
     void fillWith(const StartAnswer& before);
     /// Tells what went wrong with the last choice.
@@ -61,6 +63,9 @@ private:
     Keyring& keyring_;
     QRadioButton* sample_ = new QRadioButton("&Probar con datos de ejemplo", this);
     QRadioButton* own_ = new QRadioButton("Usar &mi propia base de datos", this);
+    QLabel* greeting_ = nullptr;
+    QPushButton* begins_ = nullptr;
+    QPushButton* leaves_ = nullptr;
     QWidget* fields_ = nullptr;
     QFormLayout* form_ = nullptr;
     QComboBox* kind_ = new QComboBox(this);

@@ -65,7 +65,7 @@ void ManualPages::giveAir()
     constexpr int air = 6; // logical pixels
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         QTextCursor cursor(block);
-        if (cursor.currentTable() != nullptr || block.blockFormat().headingLevel() > 0) continue;
+        if (cursor.currentTable() != nullptr) continue;
         QTextBlockFormat format = block.blockFormat();
         format.setBottomMargin(air);
         cursor.setBlockFormat(format);

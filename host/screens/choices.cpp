@@ -7,6 +7,7 @@
 #include <QPixmap>
 
 #include <algorithm>
+#include <map>
 
 namespace dn::host {
 namespace {
@@ -20,7 +21,7 @@ std::vector<Choice> readChoices(OwnConnection& database, const Statement& statem
     return choices;
 }
 
-QIcon patch(const QColor& colour)
+QIcon painted(const QColor& colour)
 {
     QPixmap picture(16, 16);
     picture.fill(Qt::transparent);
@@ -30,6 +31,15 @@ QIcon patch(const QColor& colour)
     painter.setBrush(colour);
     painter.drawRoundedRect(2, 2, 12, 12, 3, 3);
     return picture;
+}
+
+/// Made once for each colour: the toolkit keeps something of every picture that it has ever drawn.
+const QIcon& patch(const QColor& colour)
+{
+    static std::map<QRgb, QIcon> made;
+    QIcon& icon = made[colour.rgba()];
+    if (icon.isNull()) icon = painted(colour);
+    return icon;
 }
 
 } // namespace

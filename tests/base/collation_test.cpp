@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace dn {
@@ -44,6 +45,14 @@ TEST(SpanishOrder, AccentsDecideBetweenEqualLettersOnly)
     EXPECT_LT(compareSpanish("más", "mat"), 0);  // and so do letters behind it
     EXPECT_LT(compareSpanish("vergüenza", "verja"), 0);
     EXPECT_NE(compareSpanish("á", "à"), 0);
+}
+
+TEST(SpanishOrder, NothingBehindATextIsRead)
+{
+    const std::string_view longer = "mast";
+    EXPECT_LT(compareSpanish(longer.substr(0, 2), "mas"), 0);
+    EXPECT_GT(compareSpanish("mas", longer.substr(0, 2)), 0);
+    EXPECT_EQ(compareSpanish(longer.substr(0, 3), "mas"), 0);
 }
 
 TEST(SpanishOrder, EnyeIsALetterOfItsOwn)

@@ -81,8 +81,8 @@ void parameters(Input& input)
     bool named = false; // a text names a column that comes later
     for (const char* column : textColumns) {
         const std::string text = input.text();
-        named = named || text.find("@uf_") != std::string::npos;
-        literals.push_back(asParameter(text));
+        literals.push_back(asParameter(text)); // without its quotes it may name a column that it did not before
+        named = named || literals.back().find("@uf_") != std::string::npos;
         dialogs::SetParam(statement, column, text);
         wanted = marked(wanted, "@" + std::string(column), "'" + literals.back() + "'");
     }

@@ -10,9 +10,12 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <charconv>
 #include <filesystem>
+#include <sstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace dn::tests {
 namespace {
@@ -28,17 +31,51 @@ std::vector<std::string> namesIn(const std::filesystem::path& folder)
     return names;
 }
 
+struct Kept {
+    std::string name;
+    std::string bytes;
+};
+
+/// @throws std::invalid_argument for what is no pairs of figures.
+std::string fromHex(std::string_view figures)
+{
+    std::string bytes;
+    for (; !figures.empty(); figures.remove_prefix(2)) {
+        unsigned value = 0;
+        const char* const end = figures.data() + std::min<std::size_t>(2, figures.size());
+        if (figures.size() < 2 || std::from_chars(figures.data(), end, value, 16).ptr != end)
+            throw std::invalid_argument("no byte: " + std::string(figures.substr(0, 2)));
+        bytes += static_cast<char>(value);
+    }
+    return bytes;
+}
+
+/// Those with a name of their own, one in a file, and those that the fuzzer found, one in a line.
+std::vector<Kept> inputsIn(const std::filesystem::path& folder)
+{
+    std::vector<Kept> inputs;
+    for (const std::string& name : namesIn(folder)) {
+        const std::string contents = contentsOf(folder / name);
+        if (name != "reached.hex") {
+            inputs.push_back({name, contents});
+            continue;
+        }
+        std::istringstream lines(contents);
+        for (std::string line; std::getline(lines, line);)
+            inputs.push_back({line, fromHex(line)});
+    }
+    return inputs;
+}
+
 class Corpus : public testing::TestWithParam<fuzz::Target> {};
 
 TEST_P(Corpus, keeps_its_properties)
 {
-    const std::filesystem::path folder = corpus / GetParam().name;
-    std::vector<std::string> names = namesIn(folder);
-    ASSERT_FALSE(names.empty());
-    for (const std::string& name : names) {
-        const std::string bytes = contentsOf(folder / name);
-        fuzz::Input input(bytes);
-        EXPECT_NO_THROW(GetParam().run(input)) << name;
+    const std::vector<Kept> inputs = inputsIn(corpus / GetParam().name);
+    ASSERT_FALSE(inputs.empty());
+    for (const Kept& kept : inputs) {
+        fuzz::Input input(kept.bytes);
+        EXPECT_NO_THROW(GetParam().run(input)) << kept.name;
     }
 }
 
@@ -51,6 +88,15 @@ TEST(Corpora, have_a_target_each)
     for (const fuzz::Target& target : fuzz::targets())
         names.emplace_back(target.name);
     EXPECT_THAT(names, testing::ElementsAreArray(namesIn(corpus)));
+}
+
+TEST(Corpora, are_read_byte_by_byte)
+{
+    EXPECT_EQ(fromHex("00FF61"), std::string("\0\xFF"
+                                             "a",
+                                             3));
+    EXPECT_THROW(fromHex("0"), std::invalid_argument);
+    EXPECT_THROW(fromHex("0G"), std::invalid_argument);
 }
 
 TEST(Targets, say_which_property_does_not_hold)

@@ -45,7 +45,8 @@ bool endsTheProgram(std::string_view argument)
 {
     if (!argument.starts_with('-')) return false;
     if (!argument.starts_with("--")) return argument.find_first_of("hv?") != std::string_view::npos;
-    return argument.starts_with("--help") || argument.starts_with("--version");
+    const std::string_view name = argument.substr(2, argument.find('=') - 2);
+    return name.starts_with("help") || name == "version" || name == "h" || name == "v" || name == "?";
 }
 
 host::ProgramOptions optionsOf(std::vector<std::string> arguments)

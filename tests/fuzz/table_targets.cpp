@@ -197,9 +197,9 @@ public:
 
     std::vector<std::u16string> cells()
     {
-        constexpr std::size_t header = 512;
         int streams = 0;
-        for (at_ = header; bytes_.u16(at_) != 0; at_ = next()) {
+        const std::size_t end = streamEnd();
+        for (at_ = sector; at_ < end && bytes_.u16(at_) != 0; at_ = next()) {
             require(bytes_.u16(at_ + 2) <= 8224, "a record is no longer than programs read");
             streams += bytes_.u16(at_) == 0x0809 ? 1 : bytes_.u16(at_) == 0x000A ? -1 : 0;
             if (bytes_.u16(at_) == 0x00FC) readTexts();
@@ -210,7 +210,16 @@ public:
     }
 
 private:
+    static constexpr std::size_t sector = 512; // as long as the header
     static constexpr std::size_t head = 4;
+
+    /// The stream begins behind the header; how long it is, the second entry of the directory says.
+    std::size_t streamEnd() const
+    {
+        const std::size_t directory = sector * (1 + bytes_.u32(48));
+        constexpr std::size_t entry = 128;
+        return sector + bytes_.u32(directory + entry + 120);
+    }
 
     std::size_t next() const { return at_ + head + bytes_.u16(at_ + 2); }
 

@@ -11,8 +11,9 @@
 #include <sstream>
 
 namespace dn::tests {
+namespace {
 
-std::vector<std::string> documentedGrants()
+std::vector<std::string> readGrants()
 {
     std::ostringstream text;
     text << std::ifstream(DN_SOURCE_DIR "/docs/database.md").rdbuf();
@@ -21,6 +22,14 @@ std::vector<std::string> documentedGrants()
     std::vector<std::string> grants;
     for (std::sregex_iterator it(page.begin(), page.end(), grant); it != std::sregex_iterator(); ++it)
         grants.push_back((*it)[1].str() + std::string(MariaServer::database) + (*it)[2].str());
+    return grants;
+}
+
+} // namespace
+
+const std::vector<std::string>& documentedGrants()
+{
+    static const std::vector<std::string> grants = readGrants();
     return grants;
 }
 

@@ -13,7 +13,7 @@
 namespace dn::tests {
 
 /// The grants for MariaDB as the document writes them, on the stories' database.
-std::vector<std::string> documentedGrants();
+const std::vector<std::string>& documentedGrants();
 
 /// Makes the account anew, with the documented grants and nothing else.
 /// @param owner a connection that may do so, to a database whose tables are there.

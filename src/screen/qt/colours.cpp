@@ -83,12 +83,15 @@ QColor mixed(const QColor& one, const QColor& other, float share)
 
 void dressInColour(QWidget& widget, std::optional<Colour> back)
 {
-    const bool paper = back == white;
     QPalette colours;
-    if (back && !paper) {
-        const QColor colour = fromColour(*back);
-        colours.setColor(QPalette::Window, colour);
-        colours.setColor(QPalette::WindowText, inkOn(colour));
+    bool paper = false;
+    if (back) { // the flag first: the compiler turns "back == white" round, of which valgrind complains
+        paper = *back == white;
+        if (!paper) {
+            const QColor colour = fromColour(*back);
+            colours.setColor(QPalette::Window, colour);
+            colours.setColor(QPalette::WindowText, inkOn(colour));
+        }
     }
     widget.setPalette(colours);
     widget.setBackgroundRole(paper ? QPalette::Base : QPalette::Window);

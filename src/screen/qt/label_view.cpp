@@ -31,6 +31,14 @@ void setBold(QWidget& widget, bool bold)
     widget.setFont(font);
 }
 
+/// The colour of a tab as it is drawn. In a dark window the pale ones would be brighter than any text.
+QColor tabColour(const QColor& given, const QPalette& palette, bool inFront)
+{
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    if (!dark || isStark(palette)) return given;
+    return mixed(given, palette.color(QPalette::Window), inFront ? 0.4F : 0.75F);
+}
+
 QPainterPath tabShape(const QRectF& box)
 {
     constexpr qreal radius = 5;
@@ -161,11 +169,12 @@ void ClickLabelView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor window = palette().color(QPalette::Window);
-    QColor ink = back_.isValid() ? inkOn(back_) : palette().color(QPalette::WindowText);
+    const QColor back = back_.isValid() ? tabColour(back_, palette(), raised_) : back_;
+    QColor ink = back.isValid() ? inkOn(back) : palette().color(QPalette::WindowText);
     if (!isEnabled()) ink.setAlphaF(0.5F);
-    if (back_.isValid()) {
-        const QColor fill = underMouse() && isEnabled() ? back_.lighter(104) : back_;
-        painter.setPen(raised_ ? back_.darker(170) : back_.darker(125));
+    if (back.isValid()) {
+        const QColor fill = underMouse() && isEnabled() ? back.lighter(104) : back;
+        painter.setPen(raised_ ? back.darker(170) : back.darker(125));
         painter.setBrush(isEnabled() ? fill : window);
         painter.drawPath(tabShape(QRectF(rect()).adjusted(0.5, raised_ ? 0.5 : 2.5, -0.5, 0)));
     }

@@ -16,7 +16,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenu>
-#include <QPainter>
 
 #include <algorithm>
 #include <utility>
@@ -32,16 +31,10 @@ QString commandName(const screen::Button& button)
 }
 
 /// The button's picture, on its colour where it stands for one. @param scale of the screen that it shows on.
-QIcon commandIcon(const screen::Button& button, qreal scale)
+const QIcon& commandIcon(const screen::Button& button, qreal scale)
 {
-    constexpr QRect place(0, 0, 16, 16);
     if (!button.BackColor()) return drawing(button.Picture());
-    QPixmap swatch(place.size() * scale);
-    swatch.setDevicePixelRatio(scale);
-    swatch.fill(fromColour(*button.BackColor()));
-    QPainter painter(&swatch);
-    drawing(button.Picture()).paint(&painter, place);
-    return swatch;
+    return drawingOn(fromColour(*button.BackColor()), button.Picture(), scale);
 }
 
 QKeySequence keyOf(const screen::Button& button)
@@ -114,8 +107,9 @@ void ListViewView::addCopying(QMenu& menu, const QModelIndex& cell)
     row->setShortcutContext(Qt::WidgetShortcut);
     row->setEnabled(currentIndex().isValid());
     if (cell.isValid())
-        menu.addAction(QStringLiteral("Copiar la celda"), this,
-                       [text = cell.data().toString()] { QGuiApplication::clipboard()->setText(text); });
+        menu.addAction(QStringLiteral("Copiar la celda"), this, [text = cell.data(Qt::EditRole).toString()] {
+            QGuiApplication::clipboard()->setText(text);
+        });
     if (list->CheckBoxes())
         menu.addAction(QStringLiteral("Copiar los renglones marcados"), this, [this] { copyRows(true); })
             ->setEnabled(!runsOf(*list, true).empty());

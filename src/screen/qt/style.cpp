@@ -267,6 +267,26 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+template <class Option>
+Option Style::withKnownPalette(const Option& option) const
+{
+    Option result = option;
+    result.palette = palettes_.of(option.palette);
+    return result;
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const
+{
+    const auto* const header = qstyleoption_cast<const QStyleOptionHeaderV2*>(option);
+    if (element != CE_HeaderSection || header == nullptr) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    const QStyleOptionHeaderV2 section = withKnownPalette(*header);
+    QProxyStyle::drawControl(element, &section, painter, widget);
+}
+
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                const QWidget* widget) const
 {
@@ -278,6 +298,12 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     if (const auto* const spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
         control == CC_SpinBox && spin != nullptr) {
         drawSpinBox(*spin, *painter, *this, widget);
+        return;
+    }
+    if (const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        control == CC_ComboBox && combo != nullptr) {
+        const QStyleOptionComboBox box = withKnownPalette(*combo);
+        QProxyStyle::drawComplexControl(control, &box, painter, widget);
         return;
     }
     const auto* const button = qstyleoption_cast<const QStyleOptionToolButton*>(option);

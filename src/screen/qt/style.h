@@ -5,6 +5,8 @@
 // frame leaves room for.
 #pragma once
 
+#include "screen/qt/known_palettes.h"
+
 #include <QProxyStyle>
 
 namespace dn::screen::qt {
@@ -17,6 +19,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
@@ -27,6 +31,13 @@ public:
                   QStyleHintReturn* data) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                                 const QStyleOption* option) const override;
+
+private:
+    /// For what the plain style keeps under the key of its palette.
+    template <class Option>
+    Option withKnownPalette(const Option& option) const;
+
+    mutable KnownPalettes palettes_;
 };
 
 } // namespace dn::screen::qt

@@ -5,6 +5,7 @@
 
 #include "host/desktop/beginning.h"
 #include "tests/host/desktop/fake_keyring.h"
+#include "tests/screen/qt/documented_keys.h"
 #include "tests/screen/qt/keyboard.h"
 #include "tests/screen/qt/modal_driver.h"
 
@@ -307,6 +308,38 @@ TEST_F(BeginningTest, choosing_anew_begins_with_what_was_chosen)
         EXPECT_EQ(part<QLineEdit>(window, "txtCadena").text(), "DSN=ventas");
         EXPECT_EQ(part<QLineEdit>(window, "txtUsuario").text(), "ana");
         EXPECT_FALSE(part<QSpinBox>(window, "txtPuerto").isVisible());
+        key(Qt::Key_Escape);
+    });
+    EXPECT_FALSE(beginning.chooseAgain(nullptr));
+}
+
+/// The texts of a window that neither its fields nor the program's state decide.
+std::string captions(const QWidget& window)
+{
+    std::string all = window.windowTitle().toStdString();
+    for (const char* name : {"lblSaludo", "cmdEmpezar", "cmdSalir"}) {
+        const QVariant text = window.findChild<QWidget*>(name)->property("text");
+        all += " | " + text.toString().toStdString();
+    }
+    return all;
+}
+
+TEST_F(BeginningTest, its_texts_say_whether_the_program_starts_or_works_already)
+{
+    expectStart([](QWidget& window) {
+        EXPECT_EQ(captions(window),
+                  "Bienvenida | Este programa lleva sus prospectos, sus proyectos y sus llamadas. "
+                  "¿Con qué datos quiere trabajar? Después le preguntará quién es usted. | "
+                  "&Empezar | &Salir");
+        key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(opens());
+    expectStart([](QWidget& window) {
+        EXPECT_EQ(captions(window),
+                  "Elegir otra base de datos | ¿Con qué datos quiere trabajar la próxima vez que "
+                  "abra el programa? Hasta entonces sigue con los de ahora. | "
+                  "&Elegir | Ca&ncelar");
+        EXPECT_THAT(dn::tests::lettersAgainstPage(window), IsEmpty());
         key(Qt::Key_Escape);
     });
     EXPECT_FALSE(beginning.chooseAgain(nullptr));

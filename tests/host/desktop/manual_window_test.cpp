@@ -8,7 +8,9 @@
 #include "tests/screen/qt/accessible_tree.h"
 #include "tests/screen/qt/documented_keys.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QDir>
+#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -17,7 +19,10 @@
 
 #include <gmock/gmock.h>
 
+#include <memory>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace dn::host {
 namespace {
@@ -25,6 +30,13 @@ namespace {
 using testing::IsEmpty;
 
 const QString manual = QStringLiteral(DN_SOURCE_DIR "/docs");
+
+/// Where the letters of a paragraph stand, without its margins.
+QRectF linesOf(const QAbstractTextDocumentLayout& layout, const QTextBlock& block)
+{
+    const QRectF place = layout.blockBoundingRect(block);
+    return block.layout()->boundingRect().translated(place.topLeft());
+}
 
 class Manual : public testing::Test {
 protected:
@@ -112,6 +124,22 @@ TEST_F(Manual, links_to_headings_find_them)
     EXPECT_EQ(lineAtTop().toStdString(), "Convertir en proyecto");
 }
 
+TEST_F(Manual, keeps_its_headings_apart_from_the_text)
+{
+    opens(manual + "/manual/hoy.md");
+    const QTextDocument& text = *pages().document();
+    const QAbstractTextDocumentLayout& layout = *text.documentLayout();
+    int headings = 0;
+    for (QTextBlock block = text.begin(); block.next().isValid(); block = block.next()) {
+        const bool heads = block.blockFormat().headingLevel() > 0;
+        if (!heads || QTextCursor(block.next()).currentTable() != nullptr) continue;
+        ++headings;
+        EXPECT_GE(linesOf(layout, block.next()).top() - linesOf(layout, block).bottom(), 4)
+            << block.text().toStdString();
+    }
+    EXPECT_GE(headings, 2);
+}
+
 TEST_F(Manual, goes_back_forth_and_to_its_index_by_its_buttons)
 {
     opens(manual + "/manual/hoy.md");
@@ -124,6 +152,15 @@ TEST_F(Manual, goes_back_forth_and_to_its_index_by_its_buttons)
     EXPECT_THAT(dn::tests::unnamed(window), IsEmpty());
     EXPECT_THAT(dn::tests::unreached(window), IsEmpty());
     EXPECT_THAT(dn::tests::lettersAgainstPage(window), IsEmpty());
+}
+
+TEST_F(Manual, its_texts_have_a_menu_in_spanish)
+{
+    const std::unique_ptr<QMenu> menu(pages().createStandardContextMenu());
+    std::vector<std::string> texts;
+    for (const QAction* entry : menu->actions())
+        if (!entry->isSeparator()) texts.push_back(entry->text().section(u'\t', 0, 0).toStdString());
+    EXPECT_THAT(texts, testing::ElementsAre("&Copiar", "Copiar la &dirección del enlace", "Seleccionar todo"));
 }
 
 TEST(ManualLooks, of_a_page)

@@ -13,6 +13,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <tuple>
 
 namespace dn::tests {
 namespace {
@@ -39,6 +40,7 @@ protected:
     {
         std::string pattern = std::filesystem::temp_directory_path() / "dn-program-XXXXXX";
         home_ = mkdtemp(pattern.data());
+        memory_ = home_ / ".config/dncontacts/ventana.ini";
     }
 
     ~Program() override
@@ -74,6 +76,19 @@ protected:
         return called;
     }
 
+    /// What the program remembers under a key of a section; an empty text when it is nothing.
+    std::string line(const std::string& section, const std::string& key) const
+    {
+        std::istringstream lines(read(memory_));
+        bool inside = false;
+        for (std::string one; std::getline(lines, one);)
+            if (one.starts_with('['))
+                inside = one == "[" + section + "]";
+            else if (inside && one.starts_with(key + "="))
+                return one.substr(key.size() + 1);
+        return {};
+    }
+
     std::filesystem::path picture() const { return home_ / "ventana.png"; }
     std::string taking(const std::string& arguments = {}) const
     {
@@ -81,6 +96,7 @@ protected:
     }
 
     std::filesystem::path home_;
+    std::filesystem::path memory_; ///< of the window
 
 private:
     Outcome execute(const std::string& command) const
@@ -133,6 +149,9 @@ TEST_F(Program, says_in_spanish_what_is_wrong_with_its_options)
         {"sobra", "No se entiende «sobra»"},
         {"--theme rosa", "auto, claro, oscuro, contraste o contraste-claro"},
         {"--data-folder /proc/no/existe", "carpeta de datos"},
+        {"--tema oscuro", "Opción desconocida: «tema»."},
+        {"--agent", "Falta el valor de «--agent»."},
+        {"--admin=3", "«--admin» no lleva ningún valor."},
     };
     for (const auto& [arguments, text] : wrong) {
         const Outcome outcome = run(taking(arguments));
@@ -141,6 +160,16 @@ TEST_F(Program, says_in_spanish_what_is_wrong_with_its_options)
         EXPECT_THAT(outcome.said, Not(HasSubstr("muysecreta"))) << arguments;
         EXPECT_FALSE(std::filesystem::exists(picture())) << arguments;
     }
+}
+
+TEST_F(Program, tells_its_options_in_spanish)
+{
+    const Outcome help = run("--help");
+    EXPECT_EQ(help.status, 0);
+    for (const char* text : {"Uso: ", " [opciones]", "Opciones:", "Muestra esta ayuda.", "Muestra la versión."})
+        EXPECT_THAT(help.said, HasSubstr(text));
+    for (const char* text : {"Usage", "ptions", "Displays"})
+        EXPECT_THAT(help.said, Not(HasSubstr(text)));
 }
 
 TEST_F(Program, says_that_there_is_no_display)
@@ -254,10 +283,38 @@ TEST_F(Program, offers_sample_data_at_its_first_start_and_remembers_it)
                                      "TOP=prueba END");
     EXPECT_EQ(first.status, 0) << first.said;
     EXPECT_FALSE(std::filesystem::exists(home_ / ".config/dncontacts/inicio.ini")) << "the options said it all";
-    const Outcome asked = atADisplay("", "TOP=Bienvenida KEYS=Return:trabaja KEYS=Return:DN END");
-    EXPECT_THAT(read(home_ / ".config/dncontacts/inicio.ini"), HasSubstr("tipo=ejemplo")) << asked.said;
-    const Outcome again = atADisplay("--user prueba", "TOP=trabaja END");
-    EXPECT_THAT(again.said, Not(HasSubstr("never came"))) << again.said;
+    const Outcome asked =
+        atADisplay("--user prueba", "TOP=Bienvenida KEYS=Return:trabaja KEYS=Down,Return:prueba END");
+    EXPECT_EQ(asked.status, 0) << asked.said;
+    EXPECT_THAT(read(home_ / ".config/dncontacts/inicio.ini"), HasSubstr("tipo=ejemplo"));
+    const std::string worker = line("quien", "agente"); // not the first one
+    EXPECT_NE(worker, "");
+    const Outcome again = atADisplay("--user prueba", "TOP=trabaja KEYS=Return:prueba END");
+    EXPECT_EQ(again.status, 0) << again.said;
+    EXPECT_EQ(line("quien", "agente"), worker) << "who worked last is chosen already";
+}
+
+TEST_F(Program, remembers_its_window_and_the_columns)
+{
+    const std::string start = "--demo-rows 50 --agent 1 --user prueba --size ";
+    const Outcome first = atADisplay(start + "901x602", "TOP=prueba END");
+    ASSERT_EQ(first.status, 0) << first.said;
+    const std::string order = line("columnas", "lvwHoy\\orden");
+    const std::string widths = line("columnas", "lvwHoy\\anchos");
+    EXPECT_EQ(order, "0, 1, 2, 3, 4, 5");
+    std::string memory = read(memory_);
+    for (const auto& [key, from, to] : {std::tuple("lvwHoy\\orden=", order, "5, 0, 1, 2, 3, 4"),
+                                        std::tuple("lvwHoy\\anchos=", widths, "90, 128, 215, 225, 133, 301")}) {
+        const std::size_t at = memory.find(key + from);
+        ASSERT_NE(at, std::string::npos) << key;
+        memory.replace(at, (key + from).size(), std::string(key) + to);
+    }
+    std::ofstream(memory_, std::ios::binary) << memory;
+    const Outcome second = atADisplay("--agent 1 --user prueba", "TOP=prueba END");
+    ASSERT_EQ(second.status, 0) << second.said;
+    EXPECT_EQ(line("columnas", "lvwHoy\\orden"), "5, 0, 1, 2, 3, 4");
+    EXPECT_EQ(line("columnas", "lvwHoy\\anchos"), "90, 128, 215, 225, 133, 301");
+    EXPECT_THAT(line("ventana", "lugar"), HasSubstr("\\x3\\x84")) << "from 0 to 900, without a size asked for";
 }
 
 TEST_F(Program, ends_when_told_to_while_a_box_stands_before_its_window)

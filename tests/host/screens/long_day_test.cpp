@@ -8,7 +8,6 @@
 #include "tests/host/screens/losing_the_server.h"
 
 #include <QApplication>
-#include <QPixmapCache>
 #include <QPlainTextEdit>
 #include <QTableView>
 
@@ -211,10 +210,9 @@ private:
     std::vector<std::string> written_;
 };
 
-/// But for the pixmaps that the toolkit keeps, ten megabytes of them at the most.
+/// The toolkit's cache of pixmaps among it.
 double kilobytesInUse()
 {
-    QPixmapCache::clear();
     const auto heap = mallinfo2();
     return static_cast<double>(heap.uordblks + heap.hblkhd) / 1024;
 }

@@ -156,6 +156,25 @@ TEST_F(ProgramWindow, looks_as_approved)
     EXPECT_THAT(dn::tests::keysAgainstPage(keys()), testing::IsEmpty());
 }
 
+TEST_F(ProgramWindow, begins_on_the_queue_of_the_day_whose_rows_find_their_records)
+{
+    open();
+    EXPECT_EQ(window.control().activeTab(), desk::hoy);
+    auto& elements = window.control().elements();
+    elements.today.lvwHoy.clickRow(0);
+    EXPECT_EQ(elements.today.lvwHoy.ListItems()(1).Text(), "Contacto");
+    EXPECT_THAT(elements.detail.txtInfo.Text(), testing::HasSubstr("Luz"));
+    EXPECT_TRUE(elements.detail.txtText.Enabled());
+}
+
+TEST_F(ProgramWindow, begins_on_the_prospects_where_nobodys_work_is_in_view)
+{
+    MainWindow supervisors(database, Worker{0, true, "jefa"});
+    supervisors.show();
+    supervisors.start(std::nullopt);
+    EXPECT_EQ(supervisors.control().activeTab(), desk::prospectos);
+}
+
 TEST_F(ProgramWindow, tells_about_itself_and_its_database)
 {
     open();
@@ -191,7 +210,6 @@ TEST_F(ProgramWindow, opens_its_manual_once_and_brings_it_back_to_the_front)
 TEST_F(ProgramWindow, shows_the_hourglass_while_it_reads_anew)
 {
     open();
-    window.control().openTab(desk::hoy);
     bool shown = false;
     const auto watching = window.control().elements().today.lvwHoy.cleared.connect(
         [&] { shown = QApplication::overrideCursor() != nullptr; });

@@ -3,6 +3,7 @@
 
 // The window of a project that is there: its data, its activities, and what happens when somebody else was faster.
 
+#include "host/screens/choices.h"
 #include "tests/host/screens/projects_at_work.h"
 
 #include <QApplication>
@@ -294,6 +295,17 @@ TEST_F(ProjectEditor, the_keyboard_reaches_everything_in_the_order_shown)
         QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
     });
     opens();
+}
+
+TEST_F(ProjectEditor, the_patches_of_the_colours_are_made_once)
+{
+    const std::vector<Choice> first = colours();
+    const std::vector<Choice> second = colours();
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        EXPECT_EQ(first.at(i).icon.cacheKey(), second.at(i).icon.cacheKey())
+            << "or each window would leave its own in the toolkit's cache";
+        EXPECT_NE(first.at(i).icon.cacheKey(), first.at((i + 1) % first.size()).icon.cacheKey());
+    }
 }
 
 } // namespace

@@ -157,6 +157,16 @@ TEST_F(ListMenuTest, copies_the_row_the_cell_what_is_checked_and_everything)
     EXPECT_FALSE(entry(menuAt({5, 5}), "Copiar el renglón").isEnabled());
 }
 
+TEST_F(ListMenuTest, copies_a_long_cell_whole)
+{
+    const std::string text = std::string(5'000, 'x') + "\r\nñ";
+    list.ListItems().Add("Kx", "x").ListSubItems().Add(text);
+    opens();
+    entry(menuAt(at(10, 1)), "Copiar la celda").trigger();
+    EXPECT_EQ(QApplication::clipboard()->text().size(), 5'003);
+    EXPECT_TRUE(copied().ends_with("ñ"));
+}
+
 TEST_F(ListMenuTest, copies_the_columns_as_they_stand)
 {
     opens();
@@ -184,9 +194,12 @@ TEST_F(ListMenuTest, shows_each_commands_picture_and_colour)
     call.Picture("call");
     opens();
     EXPECT_FALSE(entry(menuOf(2), "&Llamar").icon().isNull());
-    const QImage swatch = entry(menuOf(2), "Rojo && más").icon().pixmap(16).toImage();
+    const QIcon icon = entry(menuOf(2), "Rojo && más").icon();
+    const QImage swatch = icon.pixmap(16).toImage();
     ASSERT_FALSE(swatch.isNull());
     EXPECT_EQ(swatch.pixelColor(1, 1), QColor(Qt::red));
+    EXPECT_EQ(entry(menuOf(2), "Rojo && más").icon().cacheKey(), icon.cacheKey())
+        << "one for all menus, or each would leave its own in the toolkit's cache";
 }
 
 TEST_F(ListMenuTest, tells_the_keys_without_taking_them)

@@ -53,11 +53,13 @@ void ModalDriver::poll()
         steps_.pop_front();
         std::erase_if(met_, [](const QPointer<QWidget>& one) { return one.isNull(); });
         met_.emplace_back(modal);
-        deadline_ = QDateTime::currentMSecsSinceEpoch() + patience;
+        actedIn_.push_back(modal);
         step.action(*modal);
+        actedIn_.pop_back();
+        deadline_ = QDateTime::currentMSecsSinceEpoch() + patience;
     } else if (!known(modal)) {
         refuse(*modal, "a window that nobody expected");
-    } else if (QDateTime::currentMSecsSinceEpoch() > deadline_) {
+    } else if (!isActedIn(modal) && QDateTime::currentMSecsSinceEpoch() > deadline_) {
         refuse(*modal, "a window that stayed open");
     }
 }
@@ -75,6 +77,8 @@ bool ModalDriver::known(const QWidget* modal) const
 {
     return std::any_of(met_.begin(), met_.end(), [&](const QPointer<QWidget>& one) { return one == modal; });
 }
+
+bool ModalDriver::isActedIn(const QWidget* modal) const { return !actedIn_.empty() && actedIn_.back() == modal; }
 
 void pressButton(QWidget& window, const char* caption)
 {

@@ -40,9 +40,12 @@ private:
     void poll();
     void refuse(QWidget& modal, const char* reason);
     bool known(const QWidget* modal) const;
+    /// The operator is still at it, which may take long: a server starts again meanwhile.
+    bool isActedIn(const QWidget* modal) const;
 
     std::deque<Step> steps_;
     std::vector<QPointer<QWidget>> met_;
+    std::vector<const QWidget*> actedIn_; // the innermost one last
     qint64 deadline_ = 0;
 };
 

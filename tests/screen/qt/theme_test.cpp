@@ -231,6 +231,41 @@ TEST_P(ThemeTest, a_white_strip_is_paper_and_a_coloured_one_stays_coloured)
     view.reset();
 }
 
+TEST_P(ThemeTest, the_tabs_can_be_read_and_told_apart_and_glare_in_no_dark_window)
+{
+    constexpr screen::Colour idle = 0xC0FFFF; // blue in the high byte
+    constexpr screen::Colour active = 0x8080FF;
+    screen::Label one{&root, "one"};
+    screen::Label other{&root, "other"};
+    for (screen::Label* const tab : {&one, &other}) {
+        tab->handPointer(true);
+        tab->BackColor(idle);
+    }
+    place(one, 0, 200, 100, 21);
+    place(other, 110, 200, 100, 21);
+    other.BackColor(active);
+    other.BorderStyle(1);
+    show();
+    const QPalette palette = schemePalette(GetParam());
+    const QColor window = palette.color(QPalette::Window);
+    const QColor behind = colourAt(widget<QWidget>("one"), {8, 12});
+    const QColor inFront = colourAt(widget<QWidget>("other"), {8, 12});
+    EXPECT_NE(behind, inFront);
+    EXPECT_GE(contrast(inFront, window), 2.2) << "the tab in view";
+    EXPECT_GT(inFront.hsvSaturationF(), 0.4F) << "it stays red";
+    EXPECT_LT(std::min(inFront.hueF(), 1 - inFront.hueF()), 0.05F);
+    if (GetParam() == Scheme::dark) {
+        EXPECT_LT(contrast(behind, window), 3) << "calmer than any text";
+        EXPECT_LT(contrast(behind, window), contrast(inFront, window));
+    } else {
+        EXPECT_EQ(behind, QColor(0xFF, 0xFF, 0xC0));
+        EXPECT_EQ(inFront, QColor(0xFF, 0x80, 0x80));
+    }
+    for (const QColor& paper : {behind, inFront})
+        EXPECT_GE(contrast(inkOn(paper), paper), legibleEnough);
+    view.reset();
+}
+
 INSTANTIATE_TEST_SUITE_P(All, ThemeTest,
                          testing::Values(Scheme::light, Scheme::dark, Scheme::whiteOnBlack, Scheme::blackOnWhite),
                          nameOf);
