@@ -36,7 +36,7 @@ ConnectionBar::ConnectionBar(Reconnection& reconnection, QWidget* parent)
       reconnection_(reconnection),
       text_(wrapped("lblConexion", this)),
       reason_(wrapped("lblMotivo", this)),
-      notes_(wrapped("lblNota", this)),
+      notes_(new KeptNotes(this)),
       now_(button("cmdReconectar", "Reconectar ahora", this)),
       close_(button("cmdCerrarAviso", "Cerrar", this))
 {
@@ -61,8 +61,8 @@ ConnectionBar::ConnectionBar(Reconnection& reconnection, QWidget* parent)
 void ConnectionBar::keepNote(const QString& note)
 {
     const QString told = "La nota que no se guardó dice: «" + note + "»";
-    const QString before = notes_->text();
-    if (!before.contains(told)) notes_->setText(before.isEmpty() ? told : before + "\n" + told);
+    const QString before = notes_->toPlainText();
+    if (!before.contains(told)) notes_->setPlainText(before.isEmpty() ? told : before + "\n" + told);
     notes_->show();
     show(); // it may have been closed while a call went on
 }
@@ -118,7 +118,8 @@ void ConnectionBar::paint(const char* background, const char* text)
 {
     QPalette colours = palette();
     colours.setColor(QPalette::Window, QColor(background));
-    colours.setColor(QPalette::WindowText, QColor(text));
+    for (const auto role : {QPalette::WindowText, QPalette::Text})
+        colours.setColor(role, QColor(text));
     setPalette(colours);
 }
 

@@ -5,6 +5,7 @@
 // way: a note can be typed on meanwhile.
 #pragma once
 
+#include "host/kept_notes.h"
 #include "host/reconnection.h"
 
 #include <QFrame>
@@ -33,7 +34,7 @@ private:
     bool lost_ = false;
     QLabel* text_;
     QLabel* reason_;
-    QLabel* notes_;
+    KeptNotes* notes_;
     QPushButton* now_;
     QPushButton* close_;
     screen::Subscription changes_;

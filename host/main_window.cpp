@@ -52,6 +52,7 @@ MainWindow::MainWindow(Database& database, const Worker& worker, Rhythm rhythm)
     }));
     watches_.push_back(control().elements().detail.txtText.Change.connect([this] { watchNote(); }));
     watches_.push_back(reconnection_.back.connect([this] {
+        ++arrivals_;
         if (!std::exchange(waiting_, true)) QTimer::singleShot(0, this, [this] { resumeWhenAtRest(); });
     }));
 }
@@ -65,13 +66,25 @@ MainWindow::~MainWindow()
 
 void MainWindow::start(std::optional<std::int16_t> tab)
 {
-    bind();
+    try {
+        bind();
+    } catch (const std::exception&) {
+        if (isOpen() && arrivals_ == 0) throw;
+        leading_.emplace(); // lost since it was opened: the control is started on the next one
+        leading_->tab = tab.value_or(leading_->tab);
+        return;
+    }
+    openFirst(tab);
+    place_ = placeOf(control());
+}
+
+void MainWindow::openFirst(std::optional<std::int16_t> tab)
+{
     // An agent's queue stands there by itself, but without its commands, and no tab is in front.
     if (!tab && control().activeTab() < 0) tab = todayTab;
     // A row of the queue leads to a record in the list of the prospects, which only their own tab loads.
     if (tab == todayTab) control().openTab(prospectsTab);
     if (tab) control().openTab(*tab);
-    place_ = placeOf(control());
 }
 
 void MainWindow::bind()
@@ -111,9 +124,10 @@ void MainWindow::resumeWhenAtRest()
         return;
     }
     looks_ = 0;
-    if (connected) resume();
+    const std::optional<std::string> failure = connected ? resume() : std::nullopt;
     waiting_ = leading_ && isOpen(); // lost and found again meanwhile
     if (waiting_) QTimer::singleShot(100, this, [this] { resumeWhenAtRest(); });
+    if (failure) reportError(std::runtime_error(*failure)); // last: the connection may be lost before its box
 }
 
 // The box is emptied by what is stored and by what is opened: what it held is known here by then.
@@ -138,24 +152,28 @@ void MainWindow::rememberPlace()
     if (!typed.empty() && typed != leading_->note) leading_->notesLeft.push_back(typed);
 }
 
-void MainWindow::resume()
+/// @return what kept the control from being started.
+std::optional<std::string> MainWindow::resume()
 {
     rememberPlace();
+    const unsigned arrival = arrivals_;
     std::optional<std::string> failure;
     bool noteIsBack = false;
     try {
         bind();
         noteIsBack = returnTo(control(), *leading_);
+        openFirst({});
     } catch (const std::exception& thrown) {
         failure = thrown.what();
     }
-    if (!isOpen()) return; // lost again: there is a next time
+    keyboard_.restore(); // ahead of what follows: he may type on while the connection is lost again
+    if (!isOpen() || arrival != arrivals_) return std::nullopt; // lost again: there is a next time
     if (!noteIsBack) leading_->notesLeft.push_back(leading_->note);
     for (const std::string& note : leading_->notesLeft)
         if (!note.empty()) bar_->keepNote(QString::fromStdString(note));
     leading_.reset();
-    keyboard_.restore();
-    if (failure) reportError(std::runtime_error(*failure));
+    reconnection_.works();
+    return failure;
 }
 
 void MainWindow::sendMails(const std::filesystem::path& dataFolder, Keyring& keyring)

@@ -60,13 +60,14 @@ public:
 private:
     void addMenus();
     void bind();
+    void openFirst(std::optional<std::int16_t> tab);
     bool atRest();
     static bool isLoading();
     bool isOpen() const;
     void watchNote();
     void resumeWhenAtRest();
     void rememberPlace();
-    void resume();
+    std::optional<std::string> resume();
     void refresh();
     void tellAbout();
     void showManual();
@@ -85,6 +86,7 @@ private:
     KeyboardPlace keyboard_;           // with it
     bool waiting_ = false;             // for the control to be at rest
     int looks_ = 0;                    // how often it was not
+    unsigned arrivals_ = 0;            // of connections in the place of lost ones
     screen::Subscription calls_;
     std::function<MailSettings()> mailSettings_;
     screen::Subscriptions watches_;

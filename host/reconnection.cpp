@@ -120,7 +120,7 @@ void Reconnection::look()
 // A server that takes connections and drops them is not stormed.
 void Reconnection::lose()
 {
-    const bool stood = !since_ || std::chrono::steady_clock::now() - *since_ >= rhythm_.steady;
+    const bool stood = worked_ && (!since_ || std::chrono::steady_clock::now() - *since_ >= rhythm_.steady);
     soonLost_ = stood ? 0 : soonLost_ + 1;
     failures_ = soonLost_;
     reason_.clear();
@@ -144,6 +144,12 @@ void Reconnection::tryNow()
     changed.emit();
 }
 
+void Reconnection::works()
+{
+    worked_ = true;
+    since_ = std::chrono::steady_clock::now();
+}
+
 void Reconnection::failed(const QString& reason)
 {
     ++failures_;
@@ -156,7 +162,7 @@ void Reconnection::settle()
     const std::unique_ptr<Attempt> attempt = std::move(attempt_);
     if (!attempt->outcome().connection) return failed(QString::fromStdString(attempt->outcome().failure));
     database_.connection().renew(std::move(attempt->outcome().connection));
-    since_ = std::chrono::steady_clock::now();
+    worked_ = false;
     enter(State::connected);
     changed.emit();
     back.emit();

@@ -46,6 +46,10 @@ public:
     /// Why the last attempt failed, for the operator to read. Empty ahead of the first one.
     const QString& reason() const { return reason_; }
 
+    /// The control works on the connection. Only from here on does it stand: one whose first statements hang until
+    /// it is lost again is not tried at once, however long they took.
+    void works();
+
     /// Tries without waiting any longer. Does nothing while connected or trying.
     void tryNow();
 
@@ -72,7 +76,8 @@ private:
     QString reason_;
     std::size_t failures_ = 0; // of attempts, since the connection was lost
     std::size_t soonLost_ = 0; // connections one after the other that did not last
-    std::optional<std::chrono::steady_clock::time_point> since_; // the present one; none for the first
+    bool worked_ = true;       // the present connection; the first one by itself
+    std::optional<std::chrono::steady_clock::time_point> since_; // when it began to; none for the first
     std::chrono::steady_clock::time_point next_;
     std::chrono::seconds told_{0};
     std::unique_ptr<Attempt> attempt_;

@@ -190,4 +190,34 @@ void reasons(Input& input)
     require(bench.changes() == wanted, "a reason goes to the byte into its two statements, and into no other");
 }
 
+void corrections(Input& input)
+{
+    constexpr std::array boxes{"txtNombre", "txtCorreo", "txtTelefono", "txtEmpresa", "txtPuesto"};
+    Record record{tests::whole(12)};
+    while (record.size() <= boxes.size())
+        record.push_back(someCell(input));
+    Workbench bench(prospectTwelve());
+    bench.cnn.onContaining("Select Sys_PK, uf_Nombre").gives(tests::correctionColumns(), {record});
+    bench.lvw().clickRow(0);
+    bench.cnn.forgetStatements();
+    std::array<std::string, boxes.size()> texts;
+    bench.ports.events.expectModal("dlgCorregir", [&](screen::Form& form) {
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+            auto& box = tests::elementNamed<screen::TextBox>(form, boxes.at(i));
+            texts.at(i) = keyText(record.at(i + 1)).value_or("");
+            require(box.Text() == texts.at(i), "a box shows its own column, or nothing");
+            if (!input.flag()) continue;
+            texts.at(i) = input.text();
+            box.edit(texts.at(i));
+        }
+        tests::elementNamed<screen::Button>(form, "cmdOk").press();
+    });
+    tests::elementNamed<screen::Button>(bench.control.root(), "cmdEditC").press();
+    require(bench.changes() ==
+                std::vector<std::string>{"UPDATE ut_icontact set uf_Nombre='" + texts[0] + "',uf_EMail='" +
+                                         texts[1] + "',uf_Telefono='" + texts[2] + "',uf_Empresa='" + texts[3] +
+                                         "',uf_Puesto='" + texts[4] + "' WHERE Sys_PK=12"},
+            "a correction writes its five texts to the byte, those that nobody touched as they were read");
+}
+
 } // namespace dn::fuzz

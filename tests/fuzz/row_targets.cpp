@@ -3,8 +3,10 @@
 
 // What a database gives, on its way into the lists, the queue, the directories and the log.
 
+#include "base/date_time.h"
 #include "base/format.h"
 #include "base/runtime_error.h"
+#include "base/text.h"
 #include "tests/fuzz/targets.h"
 #include "tests/fuzz/workbench.h"
 #include "tests/support/project_fixture.h"
@@ -177,6 +179,38 @@ bool untilTheFirstFailure(const Records& records, std::vector<Shown>& rows)
     return false;
 }
 
+/// A day as the prospects show it; nothing for what no driver delivers as a date.
+std::optional<std::string> dayOf(const tests::Cell& cell)
+{
+    if (cell.failing || cell.kind != data::Value::Kind::dateTime) return shownText(cell).value_or("");
+    const auto moment = parseIso(cell.text);
+    return moment ? std::optional(formatDate(*moment, "yyyy-mm-dd")) : std::nullopt;
+}
+
+std::string threeDigitsOf(const tests::Cell& cell)
+{
+    const bool any = cell.kind != data::Value::Kind::null && isWhole(cell);
+    return any ? formatThreeDigits(data::Value(cell.kind, cell.text).toWhole()) : "";
+}
+
+/// Each cell in its place, empty where it cannot be read. The second and the third are made of several.
+void requireCells(const std::vector<std::string>& cells, const Record& record)
+{
+    constexpr std::array plain{"uf_Nombre", "uf_EMail",  "uf_Telefono", "uf_Empresa",
+                               "uf_Puesto", "uf_Ciudad", "uf_Estado",   "uf_Pais"};
+    const auto of = [&](const char* name) -> const tests::Cell& {
+        return cellOf(record, tests::prospectColumns(), name);
+    };
+    std::vector<std::optional<std::string>> wanted;
+    for (const char* name : plain)
+        wanted.push_back(shownText(of(name)).value_or(""));
+    wanted.insert(wanted.end(), {dayOf(of("uf_Fecha")), threeDigitsOf(of("e_dias")), dayOf(of("e_ultimocontacto")),
+                                 shownText(of("e_duc")).value_or(""), dayOf(of("e_ultimointento")),
+                                 shownText(of("e_dui")).value_or("")});
+    for (std::size_t i = 0; i < wanted.size(); ++i)
+        require(!wanted[i] || cells.at(i + 3) == *wanted[i], "a cell of a prospect is its column's");
+}
+
 struct DirectoryTab {
     int tab;
     const char* table;
@@ -204,11 +238,17 @@ void prospects(Input& input)
     const std::size_t column = input.choice(17);
     const Records records = someRows(input, tests::prospectColumns().size());
     std::vector<std::string> wanted; // those that can be read, each once
+    std::vector<const Record*> firsts;
     for (const Record& record : records)
         if (const auto key = keyText(record.front()))
-            if (std::find(wanted.begin(), wanted.end(), "K" + *key) == wanted.end()) wanted.push_back("K" + *key);
+            if (std::find(wanted.begin(), wanted.end(), "K" + *key) == wanted.end()) {
+                wanted.push_back("K" + *key);
+                firsts.push_back(&record);
+            }
     Workbench bench(records);
     require(keysOf(bench.lvw()) == wanted, "a list shows each row whose key can be read, once");
+    for (std::size_t row = 0; row < firsts.size(); ++row)
+        requireCells(cellsOf(bench.lvw().ListItems()(static_cast<int>(row) + 1)), *firsts[row]);
     bench.lvw().clickHeader(static_cast<int>(column));
     std::vector<std::string> shown = keysOf(bench.lvw());
     require(std::is_permutation(shown.begin(), shown.end(), wanted.begin(), wanted.end()), "a sort loses no row");
@@ -305,6 +345,31 @@ void timelines(Input& input)
     bench.lvw().clickRow(0);
     require(bench.control.elements().detail.txtBit.Text() == wanted,
             "the log shows the lines that can be read, the latest on top");
+}
+
+void searches(Input& input)
+{
+    const std::string text = input.text();
+    Workbench bench(someRows(input, tests::prospectColumns().size()));
+    const std::string folded = toLower(text);
+    const bool blank = trimmed(text).empty();
+    std::string wanted;
+    for (int row = bench.lvw().ListItems().Count(); row > 0 && !blank; --row) {
+        const screen::ListItem item = bench.lvw().ListItems()(row);
+        const std::vector<std::string> cells = cellsOf(item);
+        const auto holds = [&](const std::string& cell) {
+            return toLower(cell).find(folded) != std::string::npos;
+        };
+        if (std::any_of(cells.begin() + 1, cells.end(), holds)) wanted = item.Key();
+    }
+    if (wanted.empty())
+        bench.ports.dialogs.expectBox(blank ? "Escriba un texto a buscar" : "No se encontró ninguna coincidencia");
+    bench.control.elements().top.txtBuscar.edit(text);
+    bench.control.elements().top.cmdOkBuscar.press();
+    require(bench.ports.dialogs.done(), "who finds nothing is told");
+    const auto selected = bench.lvw().SelectedItem();
+    require(wanted.empty() || (selected && selected->Key() == wanted), "the first row that holds a text is found");
+    require(bench.control.elements().detail.txtInfo.Text().starts_with(wanted), "its detail is shown");
 }
 
 } // namespace dn::fuzz

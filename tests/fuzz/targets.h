@@ -39,6 +39,8 @@ void directories(Input& input);
 void timelines(Input& input);
 void calls(Input& input);
 void reasons(Input& input);
+void corrections(Input& input);
+void searches(Input& input);
 void workbooks(Input& input);
 void documents(Input& input);
 void starts(Input& input);

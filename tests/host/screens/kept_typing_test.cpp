@@ -9,6 +9,8 @@
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
+#include <utility>
+
 namespace dn::host::tests {
 namespace {
 
@@ -180,6 +182,49 @@ TEST_F(ANoteWithoutItsRow, is_told_on_through_another_loss_and_beside_another_no
     clicks("cmdReconectar");
     ASSERT_TRUE(goesOn()) << bar();
     EXPECT_EQ(keptNote(), told + "\nLa nota que no se guardó dice: «llamar el lunes»");
+    server->restart();
+    ASSERT_TRUE(tells("Nuevo intento")) << bar();
+    EXPECT_FALSE(in("lblMotivo").isVisible()) << "that was the reason of an earlier loss";
+}
+
+TEST_F(TypingOn, a_long_note_that_is_told_leaves_the_control_its_room)
+{
+    opens(desk::prospectos, once());
+    types("x");
+    QString lines;
+    for (int line = 1; line <= 300; ++line)
+        lines += QString("línea %1\n").arg(line);
+    note().setPlainText(lines);
+    reach(*server)->execute("UPDATE ut_icontact SET uf_IEjecutivo = 9 WHERE Sys_PK = 1");
+    const QSize before = window->size();
+    server->restart();
+    ASSERT_TRUE(goesOn()) << bar();
+    QApplication::processEvents();
+    EXPECT_EQ(window->size(), before);
+    EXPECT_LT(in("BarraDeConexion").height(), window->height() / 2);
+    EXPECT_THAT(keptNote(), testing::EndsWith("línea 300\n»")) << "it is scrolled to";
+    EXPECT_EQ(focus(), "txtText") << "what is told takes the keyboard from nobody";
+}
+
+TEST_F(TypingOn, a_note_that_grew_since_a_start_that_came_to_nothing_is_told)
+{
+    opens(desk::prospectos, once());
+    types("pide");
+    bool again = false;
+    const auto standing = elements().detail.txtText.Change.connect([&] {
+        if (elements().detail.txtText.Text() == "pide" && !std::exchange(again, true)) server->kill();
+    });
+    server->restart();
+    ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
+    ASSERT_TRUE(again);
+    EXPECT_FALSE(window->ready());
+    presses(note(), " precios");
+    ASSERT_EQ(elements().detail.txtText.Text(), "pide precios");
+    server->restart();
+    clicks("cmdReconectar");
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(elements().detail.txtText.Text(), "pide");
+    EXPECT_EQ(keptNote(), "La nota que no se guardó dice: «pide precios»");
 }
 
 TEST_F(TypingOn, a_note_is_told_where_the_control_cannot_be_started_anew)
@@ -198,6 +243,72 @@ TEST_F(TypingOn, a_note_is_told_where_the_control_cannot_be_started_anew)
     clicks("cmdReconectar");
     ASSERT_TRUE(goesOn()) << bar();
     EXPECT_EQ(keptNote(), "La nota que no se guardó dice: «pide precios»");
+}
+
+TEST_F(TypingOn, a_loss_before_the_box_that_tells_of_a_failed_start_is_made_good_behind_it)
+{
+    opens(desk::prospectos, once());
+    types("pide precios");
+    server->kill();
+    ASSERT_TRUE(tells("Nuevo intento")) << bar();
+    server->restart();
+    reach(*server)->execute("RENAME TABLE agente TO agente_fuera");
+    operatorAt.expect("", [&](QWidget& box) {
+        reach(*server)->execute("RENAME TABLE agente_fuera TO agente");
+        server->kill();
+        EXPECT_TRUE(tells("Nuevo intento")) << bar();
+        server->restart();
+        reach(*server)->execute("INSERT INTO ut_icontact (Sys_PK, uf_Nombre, uf_IEjecutivo, uf_Fecha) VALUES "
+                                "(4, 'Noé', 7, '2026-03-04')");
+        clicks("cmdReconectar");
+        EXPECT_TRUE(tells("Conexión restablecida")) << bar();
+        EXPECT_FALSE(window->ready());
+        dn::tests::pressButton(box, "Aceptar");
+    });
+    clicks("cmdReconectar");
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(elements().top.cbAgente.Text(), "Ana");
+    EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 3) << "what has come since is there";
+    EXPECT_EQ(keptNote(), "La nota que no se guardó dice: «pide precios»");
+}
+
+TEST_F(TypingOn, the_summary_of_a_call_that_ends_meanwhile_is_there_to_be_registered)
+{
+    const std::string summary = "Se estableció llamada al 961 Con éxito. Resumen: quiere una visita";
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    clicks("cmdCall");
+    server->kill();
+    clicks("cmdContesta");
+    clicks("cmdCallCon(6)");
+    elements().call.txtResCall.edit("quiere una visita");
+    operatorAt.expect("MsgBox", [](QWidget& box) { dn::tests::pressButton(box, "Aceptar"); });
+    operatorAt.expect("dlgQueH", [](QWidget& question) { question.close(); });
+    clicks("cmdOkCall");
+    server->restart();
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(selected(elements().prospects.lvw), "K1");
+    EXPECT_EQ(elements().detail.txtText.Text(), summary);
+    clicks("cmdIntro");
+    EXPECT_THAT(notes(), ElementsAre("1 " + summary));
+}
+
+TEST_F(TypingOn, a_dictated_note_is_there_to_be_registered)
+{
+    opens(desk::prospectos);
+    elements().top.lblItem(desk::hoy).click();
+    selects(elements().today.lvwHoy, "K1");
+    operatorAt.expect("InputBox", [&](QWidget& box) {
+        box.findChild<QLineEdit*>()->setText("pide precios");
+        server->kill();
+        dn::tests::pressButton(box, "Aceptar");
+    });
+    operatorAt.expect("MsgBox", [](QWidget& box) { dn::tests::pressButton(box, "Aceptar"); });
+    clicks("cmdNote");
+    server->restart();
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(selected(elements().today.lvwHoy), "K1");
+    EXPECT_EQ(elements().detail.txtText.Text(), "pide precios");
 }
 
 } // namespace

@@ -5,6 +5,9 @@
 
 #include "host/database/schema.h"
 
+#include <QCoreApplication>
+#include <QPlainTextEdit>
+
 namespace dn::host::tests {
 
 using dn::tests::MariaServer;
@@ -59,8 +62,8 @@ std::string LosingTheServer::bar()
 
 std::string LosingTheServer::keptNote()
 {
-    const auto& label = in<QLabel>("lblNota");
-    return label.isVisible() ? label.text().toStdString() : "";
+    const auto& notes = in<QPlainTextEdit>("txtNotasNoGuardadas");
+    return notes.isVisible() ? notes.toPlainText().toStdString() : "";
 }
 
 bool LosingTheServer::tells(const std::string& part)
@@ -71,6 +74,13 @@ bool LosingTheServer::tells(const std::string& part)
 bool LosingTheServer::goesOn()
 {
     return QTest::qWaitFor([&] { return bar().starts_with("Conexión restablecida") && window->ready(); }, 20'000);
+}
+
+bool LosingTheServer::startsMeanwhile()
+{
+    for (int turn = 0; turn < 3; ++turn)
+        QCoreApplication::processEvents();
+    return window->ready();
 }
 
 void LosingTheServer::selects(screen::ListView& list, const char* key)

@@ -52,6 +52,8 @@ protected:
     bool tells(const std::string& part);
     /// The operator is back in his work.
     bool goesOn();
+    /// Whether the control is started anew within a few turns of the event loop: at once, where nothing keeps it.
+    bool startsMeanwhile();
     static void selects(screen::ListView& list, const char* key);
     static std::string selected(screen::ListView& list);
     std::vector<std::string> notes();

@@ -8,13 +8,17 @@
 #include "tests/host/screens/losing_the_server.h"
 
 #include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QTimer>
 
 #include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 
 #include <csignal>
+#include <utility>
 
 namespace dn::host::tests {
 namespace {
@@ -82,15 +86,32 @@ TEST_F(LosingTheServer, tells_and_goes_on_with_the_same_row_and_the_typed_note)
 TEST_F(LosingTheServer, gives_back_what_a_list_that_came_out_empty_had_selected)
 {
     opens(desk::prospectos);
-    selects(elements().prospects.lvw, "K1");
-    QTest::qWait(300); // the window has looked around
+    selects(elements().prospects.lvw, "K2"); // the first one is selected in every list that was loaded
+    QTest::keyClick(&*window, Qt::Key_Shift);
+    QTest::qWait(300); // the window has looked around, as it does behind a key
     server->kill();
     elements().top.lblItem(desk::prospectos).click();
     EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 0);
     server->restart();
     ASSERT_TRUE(goesOn());
-    EXPECT_EQ(selected(elements().prospects.lvw), "K1");
-    EXPECT_THAT(elements().detail.txtInfo.Text(), HasSubstr("Luz"));
+    EXPECT_EQ(selected(elements().prospects.lvw), "K2");
+    EXPECT_THAT(elements().detail.txtInfo.Text(), HasSubstr("Gil"));
+}
+
+TEST_F(LosingTheServer, a_list_that_is_being_loaded_is_loaded_to_its_end_first)
+{
+    opens(desk::prospectos);
+    bool yielded = false;
+    QTimer::singleShot(0, &*window, [&] { // in the yield of the load
+        yielded = QGuiApplication::overrideCursor() != nullptr;
+        server->restart();
+        EXPECT_TRUE(tells("Conexión restablecida")) << bar();
+        EXPECT_FALSE(startsMeanwhile());
+    });
+    elements().top.lblItem(desk::prospectos).click();
+    EXPECT_TRUE(yielded);
+    EXPECT_FALSE(window->ready());
+    EXPECT_TRUE(goesOn()) << bar();
 }
 
 TEST_F(ThePicturedBar, waits_for_its_time_or_for_the_button)
@@ -140,6 +161,12 @@ TEST_F(LosingTheServer, keeps_an_administrators_agent_filter_and_checks)
     server->restart();
     ASSERT_TRUE(goesOn());
     EXPECT_EQ(elements().prospects.cbStatus.Text(), "Descartado");
+    elements().top.lblItem(desk::proyectos).click();
+    elements().projects.cbProjStatusProj.pick("Fríos");
+    clicks("cmdCerrarAviso");
+    server->restart();
+    ASSERT_TRUE(goesOn());
+    EXPECT_EQ(elements().projects.cbProjStatusProj.Text(), "Fríos");
 }
 
 TEST_F(LosingTheServer, goes_back_to_each_tab)
@@ -180,7 +207,7 @@ TEST_F(LosingTheServer, an_open_window_keeps_what_was_typed_and_stores_it_afterw
         ASSERT_TRUE(tells("Se perdió la conexión"));
         server->restart();
         ASSERT_TRUE(tells("Conexión restablecida")) << bar();
-        EXPECT_FALSE(window->ready()) << "the control is not started anew below an open window";
+        EXPECT_FALSE(startsMeanwhile()) << "the control is not started anew below an open window";
         EXPECT_EQ(line(dialog, "txtTelefono").text(), "961 555");
         dialog.activateWindow();
         QTest::mouseClick(dialog.findChild<QAbstractButton*>("cmdOk"), Qt::LeftButton);
@@ -199,8 +226,8 @@ TEST_F(LosingTheServer, a_call_goes_on_and_the_control_is_started_anew_behind_it
     clicks("cmdCall");
     server->restart();
     ASSERT_TRUE(tells("Conexión restablecida")) << bar();
+    EXPECT_FALSE(startsMeanwhile());
     EXPECT_TRUE(window->control().Call_Progress());
-    EXPECT_FALSE(window->ready());
     clicks("cmdContesta");
     clicks("cmdCallCon(6)");
     elements().call.txtResCall.edit("quiere una visita");
@@ -209,6 +236,19 @@ TEST_F(LosingTheServer, a_call_goes_on_and_the_control_is_started_anew_behind_it
     ASSERT_TRUE(goesOn());
     EXPECT_THAT(notes(), ElementsAre(StartsWith("1 Se estableció llamada al 961 Con éxito.")));
     EXPECT_EQ(selected(elements().prospects.lvw), "K1");
+}
+
+TEST_F(LosingTheServer, a_menu_that_is_open_stays_open)
+{
+    opens(desk::prospectos);
+    QMenu& menu = *window->menuBar()->actions().constFirst()->menu();
+    menu.popup(window->mapToGlobal(QPoint(0, 20)));
+    server->restart();
+    ASSERT_TRUE(tells("Conexión restablecida")) << bar();
+    EXPECT_FALSE(startsMeanwhile());
+    EXPECT_TRUE(menu.isVisible());
+    menu.close();
+    EXPECT_TRUE(goesOn()) << bar();
 }
 
 TEST_F(LosingTheServer, a_hanging_server_does_not_hang_the_window)
@@ -246,6 +286,76 @@ TEST_F(LosingTheServer, one_that_stood_for_a_while_is_tried_at_once_again)
         ASSERT_TRUE(goesOn()) << bar();
         clicks("cmdCerrarAviso");
     }
+}
+
+/// Another one holds a table, for as long as this lives: who reads it waits until his time is over.
+class TableInUse {
+public:
+    TableInUse(const MariaServer& server, const std::string& table) : holder_(reach(server))
+    {
+        holder_->execute("LOCK TABLES " + table + " WRITE");
+    }
+
+private:
+    std::unique_ptr<data::Connection> holder_;
+};
+
+TEST_F(LosingTheServer, one_whose_statements_hang_behind_the_reconnection_is_not_stormed)
+{
+    Rhythm rhythm = once();
+    rhythm.steady = 500ms; // a statement is given up after a second
+    opens(desk::prospectos, rhythm);
+    server->restart();
+    std::optional<TableInUse> inUse(std::in_place, *server, "Agente");
+    ASSERT_TRUE(tells("Nuevo intento en 60 s.")) << bar();
+    inUse.reset();
+    clicks("cmdReconectar");
+    EXPECT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(elements().prospects.lvw.ListItems().Count(), 2);
+}
+
+TEST_F(LosingTheServer, lost_again_while_the_control_is_started_it_is_started_once_more)
+{
+    opens(desk::contactos);
+    reach(*server)->execute("INSERT INTO Persona (Sys_PK, Nombre, IEjecutivo) VALUES (5, 'Eva', 7)");
+    int loads = 0;
+    int fatal = -1;
+    auto& picContactos = elements().persons.picContactos; // goes out of sight ahead of each load
+    const auto loading = picContactos.changed.connect([&] {
+        if (picContactos.Visible() || ++loads != fatal) return;
+        server->restart();
+        reach(*server)->execute("INSERT INTO Persona (Sys_PK, Nombre, IEjecutivo) VALUES (6, 'Iris', 7)");
+    });
+    server->restart();
+    ASSERT_TRUE(goesOn()) << bar();
+    clicks("cmdCerrarAviso");
+    fatal = std::exchange(loads, 0); // the last one, behind which the control has nothing more to ask
+    operatorAt.expect("MsgBox", [&](QWidget& box) {
+        EXPECT_EQ(loads, fatal);
+        EXPECT_TRUE(tells("Se perdió la conexión")) << bar();
+        EXPECT_TRUE(tells("Conexión restablecida")) << bar();
+        dn::tests::pressButton(box, "Aceptar");
+    });
+    server->restart();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return loads >= fatal; }, 20'000));
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(elements().persons.lvwContactos.ListItems().Count(), 2) << "the last one came behind the loss";
+}
+
+TEST_F(LosingTheServer, that_was_lost_between_its_opening_and_the_start_is_waited_for)
+{
+    database.emplace(openDatabase(options()));
+    window.emplace(*database, Worker{7, false, "ana"}, quickly());
+    window->show();
+    server->restart();
+    operatorAt.expect("MsgBox", [](QWidget& box) {
+        EXPECT_EQ(boxText(box), "Error al conectar al servidor.");
+        dn::tests::pressButton(box, "Aceptar");
+    });
+    EXPECT_NO_THROW(window->start(std::nullopt));
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(elements().top.cbAgente.Text(), "Ana");
+    EXPECT_TRUE(in("lvwHoy").isVisible());
 }
 
 /// Takes connections and says nothing.
