@@ -211,6 +211,15 @@ void requireCells(const std::vector<std::string>& cells, const Record& record)
         require(!wanted[i] || cells.at(i + 3) == *wanted[i], "a cell of a prospect is its column's");
 }
 
+/// As an operator types it: nobody types half a character, which is taken as one of the halves of pairs.
+std::string inCharacters(std::string_view bytes)
+{
+    std::string text;
+    while (!bytes.empty())
+        if (const char32_t c = takeCharacter(bytes); c < 0xD800 || c > 0xDFFF) appendCharacter(text, c);
+    return text;
+}
+
 struct DirectoryTab {
     int tab;
     const char* table;
@@ -349,7 +358,7 @@ void timelines(Input& input)
 
 void searches(Input& input)
 {
-    const std::string text = input.text();
+    const std::string text = inCharacters(input.text());
     Workbench bench(someRows(input, tests::prospectColumns().size()));
     const std::string folded = toLower(text);
     const bool blank = trimmed(text).empty();
