@@ -16,6 +16,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 
 class TypingOn : public LosingTheServer {
 protected:
@@ -49,6 +50,21 @@ TEST_F(TypingOn, goes_on_at_the_cursor_with_what_was_marked)
     EXPECT_EQ(note().textCursor().position(), 5);
     presses(*QApplication::focusWidget(), "planos");
     EXPECT_EQ(elements().detail.txtText.Text(), "pide planos hoy");
+}
+
+TEST_F(TypingOn, a_note_that_is_longer_than_the_server_takes_stays_with_its_operator)
+{
+    reach(*server)->execute("SET GLOBAL max_allowed_packet = 65536");
+    opens(desk::prospectos);
+    selects(elements().prospects.lvw, "K1");
+    note().setFocus();
+    const std::string longer(100'000, 'x');
+    note().setPlainText(QString::fromStdString(longer));
+    operatorAt.expect("MsgBox", [](QWidget& box) { dn::tests::pressButton(box, "Aceptar"); });
+    QTest::keyClick(&note(), Qt::Key_Return);
+    ASSERT_TRUE(goesOn()) << bar();
+    EXPECT_EQ(elements().detail.txtText.Text(), longer);
+    EXPECT_THAT(notes(), IsEmpty());
 }
 
 TEST_F(TypingOn, goes_on_in_the_search)
