@@ -187,6 +187,10 @@ int main(int argc, char** argv)
     ProgramOptions options;
     try {
         options = readProgramOptions();
+        if (!options.answer.isEmpty()) {
+            std::fputs(qUtf8Printable(options.answer), stdout);
+            return 0;
+        }
         return run(options, desktop);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());

@@ -15,6 +15,7 @@
 namespace dn::host {
 
 struct ProgramOptions {
+    QString answer;                      ///< to be printed, and all there is to do, after `--help` and `--version`
     QString connect;                     ///< another database; empty for the private one
     QStringList furtherServers;          ///< of that database, in the order in which they are tried
     bool createSchema = false;           ///< make the tables there
@@ -40,8 +41,7 @@ struct ProgramOptions {
     bool saysWhoWorks() const { return agent.has_value() || admin; }
 };
 
-/// Reads the command line of the application, which must be there. `--help` and `--version` print and end the
-/// program.
+/// Reads the command line of the application, which must be there.
 /// @throws HostError for a value that makes no sense.
 ProgramOptions readProgramOptions();
 

@@ -40,15 +40,6 @@ void write(const std::string& file, const std::string& content)
 
 // ---- The command line
 
-/// Whether an argument ends the program, which prints its help or its version and is done.
-bool endsTheProgram(std::string_view argument)
-{
-    if (!argument.starts_with('-')) return false;
-    if (!argument.starts_with("--")) return argument.find_first_of("hv?") != std::string_view::npos;
-    const std::string_view name = argument.substr(2, argument.find('=') - 2);
-    return name.starts_with("help") || name == "version" || name == "h" || name == "v" || name == "?";
-}
-
 host::ProgramOptions optionsOf(std::vector<std::string> arguments)
 {
     arguments.insert(arguments.begin(), "dncontacts");
@@ -175,7 +166,6 @@ void options(Input& input)
     while (!input.empty()) {
         std::string word = input.text();
         std::replace(word.begin(), word.end(), '\0', ' ');
-        if (endsTheProgram(word)) continue;
         words.push_back(std::move(word));
     }
     try {

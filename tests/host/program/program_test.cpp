@@ -170,6 +170,9 @@ TEST_F(Program, tells_its_options_in_spanish)
         EXPECT_THAT(help.said, HasSubstr(text));
     for (const char* text : {"Usage", "ptions", "Displays"})
         EXPECT_THAT(help.said, Not(HasSubstr(text)));
+    const Outcome version = run("--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_THAT(version.said, HasSubstr("dncontacts "));
 }
 
 TEST_F(Program, says_that_there_is_no_display)
