@@ -249,11 +249,14 @@ void MainWindow::showManual()
     manual_->activateWindow();
 }
 
-// Opening the tab in view loads its list anew.
+// Opening the tab in view loads its list anew. None is in front while a control that could not be started waits
+// for its server.
 void MainWindow::refresh()
 {
+    const std::int16_t tab = control().activeTab();
+    if (tab < 0) return;
     const screen::qt::Hourglass hourglass;
-    control().openTab(control().activeTab());
+    control().openTab(tab);
 }
 
 void MainWindow::reportError(const std::exception& failure)

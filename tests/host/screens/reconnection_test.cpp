@@ -7,6 +7,7 @@
 #include "tests/approved/approval.h"
 #include "tests/host/screens/losing_the_server.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -353,6 +354,8 @@ TEST_F(LosingTheServer, that_was_lost_between_its_opening_and_the_start_is_waite
         dn::tests::pressButton(box, "Aceptar");
     });
     EXPECT_NO_THROW(window->start(std::nullopt));
+    QAction* const refresh = window->menuBar()->actions().constFirst()->menu()->actions().constFirst();
+    EXPECT_NO_THROW(refresh->trigger()) << "there is nothing yet to be loaded anew";
     ASSERT_TRUE(goesOn()) << bar();
     EXPECT_EQ(elements().top.cbAgente.Text(), "Ana");
     EXPECT_TRUE(in("lvwHoy").isVisible());
